@@ -1,0 +1,73 @@
+#include "board/margin.h"
+
+#include "board/geometry.h"
+#include "grid/grid.h"
+#include "grid/names.h"
+
+#include <array>
+
+namespace kelvarine {
+
+Colour CoordinateTextColour;
+
+namespace {
+
+constexpr Colour LeastBrightness = 351; // sum of red, green and blue that calls for black text
+
+constexpr std::array<std::string_view, 8> RatingWords{
+    "No rating",          "Easy",      "Medium", "Hard", "Very hard", "Extreme",
+    "Multiple solutions", "Impossible"};
+
+std::string_view ratingWord; // shown latest
+
+// Formats that put a letter in front of the number.
+bool HasPrefix(std::int32_t format)
+{
+    return format == 3 || format == 4;
+}
+
+} // namespace
+
+void SetMarginDefaults()
+{
+    PickMarginTextColour();
+    ratingWord = {};
+}
+
+void PickMarginTextColour()
+{
+    const Colour margin = ColourTable[MarginColour];
+    const Colour brightness = (margin >> 16 & 0xFF) + (margin >> 8 & 0xFF) + (margin & 0xFF);
+    CoordinateTextColour = StandardColours[brightness < LeastBrightness ? 15 : 0];
+}
+
+std::string ColumnLabel(int column)
+{
+    return HasPrefix(ColumnFormat) ? std::to_string(column) : ColumnName(column);
+}
+
+std::string RowLabel(int row)
+{
+    return HasPrefix(RowFormat) ? std::to_string(row) : RowName(row);
+}
+
+std::string_view MarginRatingWord()
+{
+    const auto rating = static_cast<std::size_t>(GameRating);
+    if (rating < RatingWords.size()) {
+        ratingWord = RatingWords[rating];
+    }
+    return ratingWord;
+}
+
+std::string GivenCountText()
+{
+    return "# given cells: " + std::to_string(GivenCount);
+}
+
+bool GivenCountFits(int ratingWidth, int countWidth)
+{
+    return ratingWidth + countWidth <= BoardPlace.Width;
+}
+
+} // namespace kelvarine

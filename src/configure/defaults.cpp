@@ -1,0 +1,32 @@
+#include "configure/defaults.h"
+
+#include "board/geometry.h"
+#include "board/look.h"
+#include "board/margin.h"
+#include "game/clock.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "game/win_display.h"
+#include "grid/grid.h"
+#include "input/mouse.h"
+#include "logic/driver.h"
+#include "logic/event_sound.h"
+
+namespace kelvarine {
+
+void SetDefaults()
+{
+    SetGridDefaults();
+    SetDriverDefaults();
+    SetSoundDefaults();
+    SetHistoryDefaults();
+    SetLifecycleDefaults();
+    SetClockDefaults();
+    SetWinDisplayDefaults();
+    SetLookDefaults();
+    SetGeometryDefaults();
+    SetMarginDefaults();
+    SetMouseDefaults();
+}
+
+} // namespace kelvarine

@@ -1,0 +1,105 @@
+#include "files/text_commands.h"
+
+#include "board/board.h"
+#include "files/text_format.h"
+#include "game/lifecycle.h"
+#include "grid/grid.h"
+#include "ui/presentation.h"
+
+#include <string>
+#include <string_view>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr int AllCells = 81;
+
+// What is said when a text is too short.
+struct ShortTextWords {
+    std::string_view NoCell;
+    std::string_view OneCell;
+    std::string_view BeforeCount;
+};
+
+constexpr ShortTextWords ClipboardWords{
+    "The clipboard doesn't have enough data to complete any cells.",
+    "The clipboard only has enough data to complete the first cell.",
+    "The clipboard only has enough data to complete the first "};
+
+constexpr ShortTextWords TextStringWords{"There's not enough data to complete any cells.",
+                                         "There's only enough data to complete the first cell.",
+                                         "There's only enough data to complete the first "};
+
+std::string_view WithoutOuterBlanks(std::string_view text)
+{
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+// Whether to go on with the cells that a short text has filled.
+bool AcceptShortText(int cells, const ShortTextWords &words)
+{
+    if (cells == 0) {
+        ShowMessage(words.NoCell);
+        return false;
+    }
+    std::string question(words.OneCell);
+    if (cells > 1) {
+        question = std::string(words.BeforeCount) + std::to_string(cells) + " cells.";
+    }
+    return AskYesNo(question + "\rDo you want to continue anyway?");
+}
+
+void StartFromText(std::string_view text, const ShortTextWords &words)
+{
+    const int cells = ReadPosition(text);
+    if (cells < AllCells && !AcceptShortText(cells, words)) {
+        CopyCells(History[SafeCopySlot], Grid);
+        return;
+    }
+    StartGame(NewGame);
+    DrawBoard();
+    RefreshWindow();
+}
+
+} // namespace
+
+void mnuCopyGridFormat()
+{
+    SetClipboardText(GridFormatText());
+}
+
+void mnuCopySingleLineFormat()
+{
+    SetClipboardText(SingleLineText());
+}
+
+void mnuGameClipboard()
+{
+    QuerySaveGame();
+    if (LastAnswer == AnsweredCancel) {
+        return;
+    }
+    const std::string text = ClipboardText();
+    StartFromText(WithoutOuterBlanks(text), ClipboardWords);
+}
+
+void mnuGameTextString()
+{
+    QuerySaveGame();
+    if (LastAnswer == AnsweredCancel) {
+        return;
+    }
+    const std::string answer =
+        AskText("Enter desired text:\r\rUse . or 0 to designate empty cells.");
+    const std::string_view text = WithoutOuterBlanks(answer);
+    if (!text.empty()) {
+        StartFromText(text, TextStringWords);
+    }
+}
+
+} // namespace kelvarine

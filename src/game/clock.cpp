@@ -1,0 +1,112 @@
+#include "game/clock.h"
+
+#include "board/board.h"
+#include "grid/grid.h"
+#include "grid/rounding.h"
+#include "ui/presentation.h"
+
+namespace kelvarine {
+
+double SolveSeconds;
+Flag ClockRunning;
+std::string TimeCaption;
+std::string PauseCaption;
+
+namespace {
+
+constexpr std::string_view PauseWord = "Pause";
+constexpr std::string_view ResumeWord = "Resume";
+constexpr std::string_view PausedPrefix = "Paused";
+
+void RunClock(bool on)
+{
+    ClockRunning = on ? True : False;
+    SetClockTimer(on);
+}
+
+std::string TwoDigits(long number)
+{
+    const std::string digits = "0" + std::to_string(number);
+    return digits.substr(digits.size() - 2);
+}
+
+} // namespace
+
+void SetClockDefaults()
+{
+    SolveSeconds = 0;
+    ClockRunning = False;
+    TimeCaption = "&Time";
+    PauseCaption = PauseWord;
+}
+
+bool IsPaused()
+{
+    return PauseCaption == ResumeWord;
+}
+
+void ResetSolveTime()
+{
+    SolveSeconds = 0;
+    RunClock(true);
+    PauseCaption = PauseWord;
+    UpdateCaptions();
+}
+
+void StopClockAtWin()
+{
+    if (ClockRunning != False) {
+        RunClock(false);
+        TimeCaption.insert(0, "Solved at ");
+        UpdateCaptions();
+    }
+}
+
+void ClockTick()
+{
+    SolveSeconds += 1;
+    TimeCaption = TimeText(SolveSeconds);
+    UpdateCaptions();
+}
+
+std::string TimeText(double seconds)
+{
+    const auto hours = static_cast<long>(seconds / 3600);
+    const double rest = seconds - static_cast<double>(hours) * 3600;
+    const auto minutes = static_cast<long>(rest / 60);
+    const auto left = static_cast<long>(RoundHalfEven(rest - static_cast<double>(minutes) * 60));
+    if (hours < 1) {
+        return std::to_string(minutes) + ":" + TwoDigits(left) + " ";
+    }
+    return std::to_string(hours) + ":" + TwoDigits(minutes) + ":" + TwoDigits(left) + " ";
+}
+
+void mnuPauseTime()
+{
+    if (ClockRunning == False && IsGridSolved() != False) {
+        ShowMessage("Can't pause timer on a solved sudoku.");
+        return;
+    }
+    RunClock(ClockRunning == False);
+    if (ClockRunning != False) {
+        PauseCaption = PauseWord;
+    } else {
+        PauseCaption = ResumeWord;
+        if (!TimeCaption.starts_with(PausedPrefix)) {
+            TimeCaption.insert(0, "Paused at ");
+        }
+    }
+    UpdateCaptions();
+    DrawBoard();
+}
+
+void mnuResetTime()
+{
+    if (IsGridSolved() != False) {
+        ShowMessage("Can't reset time on a solved sudoku.");
+        return;
+    }
+    ResetSolveTime();
+}
+
+} // namespace kelvarine

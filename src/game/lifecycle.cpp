@@ -1,0 +1,135 @@
+#include "game/lifecycle.h"
+
+#include "board/board.h"
+#include "game/clock.h"
+#include "game/history.h"
+#include "game/win_display.h"
+#include "grid/grid.h"
+#include "logic/alerts.h"
+#include "logic/event_sound.h"
+#include "logic/rating.h"
+#include "logic/technique.h"
+#include "ui/presentation.h"
+
+namespace kelvarine {
+
+std::string GameFilePath;
+Flag StatsCounted;
+std::int32_t LastAnswer;
+std::int32_t AnchorColumn;
+std::int32_t AnchorRow;
+std::int32_t CursorColumn;
+std::int32_t CursorRow;
+
+void SetLifecycleDefaults()
+{
+    GameFilePath.clear();
+    StatsCounted = False;
+    LastAnswer = AnsweredNothing;
+    ClearPointerState();
+}
+
+void ClearPointerState()
+{
+    AnchorColumn = 0;
+    AnchorRow = 0;
+    CursorColumn = 0;
+    CursorRow = 0;
+}
+
+void StartGame(std::int32_t mode)
+{
+    StopSound();
+    ChainColumns[0] = 0;
+    ClearPointerState();
+    NumberFilter = CandidateMask;
+    if (mode != GameFromFile) {
+        HistoryCount = 0;
+        HistoryPosition = 0;
+        PushUndoState();
+        SnapshotAvailable = False;
+    }
+    if (mode == NewGame) {
+        SaveStartPosition();
+        GameFilePath.clear();
+        SetWindowTitle(ProgramName);
+        StatsCounted = False;
+    }
+    CountGivens();
+    RateGame();
+    ScanAlerts(ModeAlert);
+    if (mode != GameFromFile) {
+        ResetSolveTime();
+    }
+    UpdateCaptions();
+    if (IsGridSolved() != False) {
+        UpdateStatistics();
+    }
+}
+
+void QuerySaveGame()
+{
+    if (GameModified == False) {
+        LastAnswer = AnsweredNothing;
+        return;
+    }
+    RunPendingEvents();
+    LastAnswer = AnsweredCancel;
+    if (AskYesNoCancel("Would you like to save this game first?") != Answer::Cancel) {
+        LastAnswer = AnsweredNothing;
+    }
+}
+
+void UpdateStatistics()
+{
+    if (SoundDisabled == False) {
+        PlayEventSound(SoundFile(WinFiles, WinSound), WinVolume, true);
+    }
+    ClearCellBits(SolvedMarks);
+    NumberFilter = CandidateMask;
+    StartWinDisplay();
+    StopClockAtWin();
+    if (GameRating >= 1 && GameRating <= 5 && StatsCounted == False) {
+        StatsCounted = True;
+    }
+}
+
+void ScanAndTestWin()
+{
+    ScanAlerts(ModeAlert);
+    if (IsGridSolved() != False) {
+        UpdateStatistics();
+    }
+}
+
+void FinishChange()
+{
+    ScanAndTestWin();
+    DrawBoard();
+    RefreshWindow();
+}
+
+void mnuGameBlankGrid()
+{
+    QuerySaveGame();
+    if (LastAnswer == AnsweredCancel) {
+        return;
+    }
+    Grid = {};
+    StartGame(NewGame);
+    DrawBoard();
+    RefreshWindow();
+}
+
+void mnuRestartSameGame()
+{
+    if (!AskYesNo("Are you sure you want to abandon your position and start over?")) {
+        return;
+    }
+    CopyCells(History[StartSlot], Grid);
+    StartGame(SameGame);
+    DrawBoard();
+    RefreshWindow();
+}
+
+} // namespace kelvarine

@@ -1,0 +1,149 @@
+#include "game/win_display.h"
+
+#include "board/board.h"
+#include "grid/grid.h"
+#include "grid/rounding.h"
+#include "ui/presentation.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace kelvarine {
+
+const std::array<Colour, 16> StandardColours{
+    0x000000, 0x000080, 0x008000, 0x008080, 0x800000, 0x800080, 0x808000, 0xC0C0C0,
+    0x808080, 0x0000FF, 0x00FF00, 0x00FFFF, 0xFF0000, 0xFF00FF, 0xFFFF00, 0xFFFFFF};
+
+std::int32_t WinStage;
+std::array<Colour, 10> WinColours{};
+Flag WinColoursSet;
+Flag WinDisplayRunning;
+
+namespace {
+
+constexpr int FirstStageInterval = 40; // milliseconds
+constexpr int OtherStageInterval = 100;
+constexpr int StageSeconds = 2;
+constexpr std::int32_t LastStage = 6;
+
+int stageStart;   // whole seconds since midnight, 0 when not yet taken
+int stageCounter; // of the stages that change in turns
+
+Colour RandomColour()
+{
+    return StandardColours[static_cast<std::size_t>(RoundHalfEven(RandomFraction() * 14 + 1))];
+}
+
+// Each of the entries 2..last takes the colour of the one before; the first gets a random one.
+void ShiftUp(std::size_t last)
+{
+    std::shift_right(WinColours.begin() + 1, WinColours.begin() + static_cast<long>(last) + 1, 1);
+    WinColours[1] = RandomColour();
+}
+
+// Entries 1..4 take the colour of the next; the fifth is white three times, then random.
+void ShiftDown()
+{
+    std::shift_left(WinColours.begin() + 1, WinColours.begin() + 6, 1);
+    if (stageCounter < 3) {
+        WinColours[5] = StandardColours[15];
+        ++stageCounter;
+    } else {
+        WinColours[5] = RandomColour();
+        stageCounter = 0;
+    }
+}
+
+void SwapOrRenew()
+{
+    if (stageCounter == 0) {
+        WinColours[1] = RandomColour();
+        WinColours[2] = RandomColour();
+        stageCounter = 3;
+    } else {
+        std::swap(WinColours[1], WinColours[2]);
+        --stageCounter;
+    }
+}
+
+void ChangeColours()
+{
+    switch (WinStage) {
+    case 1:
+        ShiftDown();
+        break;
+    case 2:
+    case 4:
+        ShiftUp(9);
+        break;
+    case 3:
+        ShiftUp(5);
+        break;
+    case 5:
+        SwapOrRenew();
+        break;
+    case LastStage:
+        std::generate(WinColours.begin() + 1, WinColours.end(), RandomColour);
+        break;
+    default:
+        return;
+    }
+    WinColoursSet = True;
+}
+
+} // namespace
+
+void SetWinDisplayDefaults()
+{
+    WinStage = 0;
+    WinColours.fill(0);
+    WinColoursSet = False;
+    WinDisplayRunning = False;
+    stageStart = 0;
+    stageCounter = 0;
+}
+
+void StartWinDisplay()
+{
+    WinStage = LastStage + 1;
+    WinDisplayRunning = True;
+    SetWinTimer(true, FirstStageInterval);
+}
+
+void StopWinDisplay()
+{
+    if (WinDisplayRunning == False) {
+        return;
+    }
+    WinDisplayRunning = False;
+    SetWinTimer(false, 0);
+    StopSound();
+    DrawBoard();
+}
+
+void WinDisplayTick()
+{
+    const int now = static_cast<int>(SecondsSinceMidnight());
+    if (stageStart == 0) {
+        stageStart = now;
+    }
+    if (now - stageStart > StageSeconds) {
+        ++WinStage;
+        stageStart = 0;
+        stageCounter = 0;
+    }
+    if (WinStage > LastStage) {
+        WinStage = 0;
+    }
+    SetWinTimer(true, WinStage == 0 ? FirstStageInterval : OtherStageInterval);
+    ChainColumns[0] = 0;
+    DrawBoard();
+    ChangeColours();
+}
+
+double RandomFraction()
+{
+    return std::rand() / (RAND_MAX + 1.0);
+}
+
+} // namespace kelvarine

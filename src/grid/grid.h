@@ -1,0 +1,103 @@
+// The game in one table: the grid of cell words, its history, and the tables and settings that
+// every room shares. All of it is global and single, for one game, one player and one thread.
+#pragma once
+
+#include "grid/cell_word.h"
+#include "grid/houses.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace kelvarine {
+
+// One grid, indexed [column][row], both 1..9; line 0 of either exists and is not used.
+using GridTable = std::array<std::array<CellWord, 10>, 10>;
+
+// ---- The game: whole in History and in the game file ---------------------------------------
+
+extern GridTable Grid; // starts empty
+
+// Slots of History.
+inline constexpr int StartSlot = 0;
+inline constexpr int NewestSlot = 1;
+inline constexpr int OldestSlot = 100;
+inline constexpr int SnapshotSlot = 101;
+inline constexpr int SafeCopySlot = 102;      // the driver's and the text readers'
+inline constexpr int SolutionsCopySlot = 103; // the solutions command's
+inline constexpr int HistorySlots = 105;
+
+extern std::array<GridTable, HistorySlots> History;
+extern std::int32_t HistoryCount;    // undo levels in use, 0..100
+extern std::int32_t HistoryPosition; // level on view, 1 the newest, 0 before the first push
+extern std::int32_t GivenCount;      // cells with GivenBit; kept by CountGivens
+extern std::int32_t GameRating;      // 0 none, 1..5 easy to extreme, 6 multiple, 7 impossible
+
+// ---- The session: reset by a new game, never stored ----------------------------------------
+
+// A series of cells: element 0 of ChainColumns is its length, 0 for none; element 0 of ChainRows
+// tells how the board reads it: 0 a plain path, N a chain on number N, -N an XY chain on N.
+// Elements 1 up also serve the techniques as a work list, with element 0 left at 0.
+extern std::array<std::int32_t, 82> ChainColumns;
+extern std::array<std::int32_t, 82> ChainRows;
+extern CellWord NumberFilter; // numbers in view, in the shape of CandidateMask
+
+// ---- One run of the logic ------------------------------------------------------------------
+
+extern std::uint32_t UsedMask;     // techniques that the last run of the driver used
+extern std::int32_t SolutionCount; // solutions that the last run found
+extern std::string SolutionList;   // 81 digits for each solution, cleared by the caller
+extern Flag SearchActive;          // true while the driver runs; cleared from outside to stop it
+extern std::string HintText;       // words of the last technique in a reporting mode
+extern std::string HintTitle;
+
+// ---- Settings: whole in the configuration file ---------------------------------------------
+
+extern std::uint32_t SolveMask; // techniques that the driver may use, by BitTable
+extern std::uint32_t AlertMask; // techniques that the alert scan runs
+// Rows 1..5: the techniques of the levels; row 6: those a new game must use.
+extern std::array<std::uint32_t, 10> LevelTable;
+extern std::int32_t MaxSinglesLinks; // link limits of the chain searches, 0..81
+extern std::int32_t MaxRPLinks;
+extern std::int32_t MaxXYLinks;
+extern Flag IncludeSingles; // group techniques take cells with one candidate in
+
+// Fixed masks that stand in SolveMask for one operation.
+inline constexpr std::uint32_t TrialBit = 0x40000000;
+inline constexpr std::uint32_t CountingMask = 0x4000020E;
+inline constexpr std::uint32_t ListingMask = 0x40000006;
+inline constexpr std::uint32_t RatingMask = 0xFFFFFFFF;
+
+// ---- Operations ----------------------------------------------------------------------------
+
+// Puts everything declared in this header and in names.h back to the state of program start.
+void SetGridDefaults();
+
+// The word of a cell.
+inline CellWord &WordAt(Cell cell)
+{
+    return Grid[cell.Column][cell.Row];
+}
+
+// Number of candidates, 0..9, of the cell at column and row, both 1..9.
+int CountCandidates(int column, int row);
+
+// Clears the bits of mask in all 81 cells.
+void ClearCellBits(CellWord mask);
+
+// Gives all nine candidates to every cell that is not a given.
+void FillPencilmarks();
+
+// Counts GivenCount anew.
+void CountGivens();
+
+// True when every cell holds one number and every column, row and box holds all nine.
+Flag IsGridSolved();
+
+// Copies the 81 cells of Grid to History slot 0.
+void SaveStartPosition();
+
+// Copies the 81 cells of one grid to another and leaves its unused lines as they are.
+void CopyCells(const GridTable &from, GridTable &to);
+
+} // namespace kelvarine

@@ -1,0 +1,175 @@
+#include "input/keys.h"
+
+#include "files/text_commands.h"
+#include "game/assistance.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "game/win_display.h"
+#include "grid/grid.h"
+#include "input/mouse.h"
+#include "input/number_keys.h"
+#include "logic/driver.h"
+#include "logic/rating.h"
+
+#include <array>
+
+namespace kelvarine {
+
+namespace {
+
+// A command that does not look at the modifiers.
+template <auto Command>
+void Plain(std::int32_t /*shift*/)
+{
+    Command();
+}
+
+template <Arrow Direction>
+void Step(std::int32_t shift)
+{
+    StepSelection(Direction, shift);
+}
+
+// Changes the selected cells that are no givens; a change is recorded and followed up.
+template <typename Change>
+void ChangeSelected(const Change &change)
+{
+    bool changed = false;
+    for (const Cell cell : Cells) {
+        CellWord &word = WordAt(cell);
+        if ((word & SelectedBit) == 0 || (word & GivenBit) != 0) {
+            continue;
+        }
+        const CellWord before = word;
+        word = change(word);
+        changed = changed || word != before;
+    }
+    if (changed) {
+        PushUndoState();
+        FinishChange();
+    }
+}
+
+// Delete and Insert concern the numbers in view, or all of them with a modifier of their own.
+CellWord NumbersConcerned(std::int32_t shift, std::int32_t allShift)
+{
+    return shift == allShift ? CandidateMask : NumberFilter;
+}
+
+void DeleteNumbers(std::int32_t shift)
+{
+    const CellWord numbers = NumbersConcerned(shift, ShiftKey);
+    ChangeSelected([=](CellWord word) { return word & ~numbers; });
+}
+
+void InsertNumbers(std::int32_t shift)
+{
+    const CellWord numbers = NumbersConcerned(shift, CtrlKey);
+    ChangeSelected([=](CellWord word) { return word | numbers; });
+}
+
+void UseSnapshot()
+{
+    if (SnapshotAvailable != False) {
+        mnuUseSnapshot();
+    }
+}
+
+constexpr std::array Rows{
+    KeyRow{PageUpCode, AnyShift, Plain<Undo>},
+    KeyRow{PageDownCode, AnyShift, Plain<Redo>},
+    KeyRow{DeleteCode, AnyShift, DeleteNumbers},
+    KeyRow{InsertCode, AnyShift, InsertNumbers},
+    KeyRow{LeftCode, AnyShift, Step<Arrow::Left>},
+    KeyRow{UpCode, AnyShift, Step<Arrow::Up>},
+    KeyRow{RightCode, AnyShift, Step<Arrow::Right>},
+    KeyRow{DownCode, AnyShift, Step<Arrow::Down>},
+    KeyRow{'A', CtrlKey, nullptr},
+    KeyRow{'A', AnyShift, Plain<mnuShowAlertReason>},
+    KeyRow{'B', CtrlKey, Plain<mnuGameBlankGrid>},
+    KeyRow{'C', CtrlKey, Plain<mnuCopyGridFormat>},
+    KeyRow{'H', 0, Plain<mnuHint>},
+    KeyRow{'L', ShiftKey, nullptr},
+    KeyRow{'L', CtrlKey, Plain<mnuApplyLogic>},
+    KeyRow{'L', AnyShift, Plain<mnuShowLogicNeeded>},
+    KeyRow{'R', CtrlKey, Plain<mnuRestartSameGame>},
+    KeyRow{'S', CtrlKey, nullptr},
+    KeyRow{'S', ShiftKey | CtrlKey, nullptr},
+    KeyRow{'S', AnyShift, Plain<mnuTakeSnapshot>},
+    KeyRow{'T', CtrlKey, Plain<mnuGameTextString>},
+    KeyRow{'U', AnyShift, Plain<UseSnapshot>},
+    KeyRow{'V', CtrlKey, Plain<mnuGameClipboard>},
+    KeyRow{'Y', CtrlKey, Plain<Redo>},
+    KeyRow{'Z', ShiftKey, Plain<mnuSolveGame>},
+    KeyRow{'Z', CtrlKey, Plain<Undo>},
+    KeyRow{KeypadMinusCode, CtrlKey, Plain<mnuCopySingleLineFormat>},
+    KeyRow{MinusCode, CtrlKey, Plain<mnuCopySingleLineFormat>},
+};
+
+// Mode and sign of a typed digit by its modifiers.
+void TypeDigit(std::int32_t digit, std::int32_t shift)
+{
+    struct DigitMeaning {
+        std::int32_t Shift;
+        std::int32_t Mode;
+        std::int32_t Sign;
+    };
+    constexpr std::array meanings{
+        DigitMeaning{ShiftKey, EditMode, TakeAway},
+        DigitMeaning{CtrlKey, EditMode, Add},
+        DigitMeaning{ShiftKey | CtrlKey, ViewMode, Replace},
+        DigitMeaning{ShiftKey | AltKey, ViewMode, TakeAway},
+        DigitMeaning{CtrlKey | AltKey, ViewMode, Add},
+    };
+    DigitMeaning meaning{shift, EditMode, Replace};
+    for (const DigitMeaning &row : meanings) {
+        if (row.Shift == shift) {
+            meaning = row;
+        }
+    }
+    Flag update = False;
+    ProcessNumKey(digit, meaning.Mode, meaning.Sign, update);
+    if (update != False) {
+        FinishChange();
+    }
+}
+
+} // namespace
+
+const std::span<const KeyRow> KeyTable(Rows);
+
+bool ReadyForCommand()
+{
+    if (SearchActive != False) {
+        if (SearchKind == SearchingGame) {
+            QueryStopSearch();
+        }
+        return false;
+    }
+    StopWinDisplay();
+    return true;
+}
+
+void KeyDown(std::int32_t code, std::int32_t shift)
+{
+    if (!ReadyForCommand()) {
+        return;
+    }
+    if (code >= KeypadCode && code <= KeypadCode + 9) {
+        code += DigitCode - KeypadCode;
+    }
+    if (code >= DigitCode && code <= DigitCode + 9) {
+        TypeDigit(code - DigitCode, shift);
+        return;
+    }
+    for (const KeyRow &row : KeyTable) {
+        if (row.Code == code && (row.Shift == AnyShift || row.Shift == shift)) {
+            if (row.Run != nullptr) {
+                row.Run(shift);
+            }
+            return;
+        }
+    }
+}
+
+} // namespace kelvarine

@@ -1,0 +1,157 @@
+#include "input/menu_table.h"
+
+#include "board/board.h"
+#include "board/look.h"
+#include "files/text_commands.h"
+#include "game/assistance.h"
+#include "game/clock.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "grid/grid.h"
+#include "input/keys.h"
+#include "input/mouse.h"
+#include "input/number_keys.h"
+#include "logic/rating.h"
+#include "ui/presentation.h"
+
+#include <array>
+
+namespace kelvarine {
+
+namespace {
+
+template <auto Command>
+void Plain(std::int32_t /*number*/)
+{
+    Command();
+}
+
+// The entries of the numbers act as the keys that their shortcuts name.
+template <std::int32_t Shift>
+void TypeNumber(std::int32_t number)
+{
+    KeyDown(DigitCode + number, Shift);
+}
+
+template <std::int32_t Code, std::int32_t Shift>
+void PressKey(std::int32_t /*number*/)
+{
+    KeyDown(Code, Shift);
+}
+
+void ViewNumber(std::int32_t number)
+{
+    Flag update = False;
+    ProcessNumKey(number, ViewMode, Replace, update);
+    DrawBoard();
+}
+
+void ToggleCoordinates()
+{
+    constexpr std::int32_t roomForText = 28;
+    CoordinatesVisible = CoordinatesVisible == False ? True : False;
+    if (CoordinatesVisible != False && MarginThickness < roomForText) {
+        MarginThickness = roomForText;
+    }
+    ResizeWindow();
+}
+
+bool CanUndo(std::int32_t /*number*/)
+{
+    return HistoryPosition < HistoryCount;
+}
+
+bool CanRedo(std::int32_t /*number*/)
+{
+    return HistoryPosition >= 2;
+}
+
+bool HasSnapshot(std::int32_t /*number*/)
+{
+    return SnapshotAvailable != False;
+}
+
+bool ShowsCoordinates(std::int32_t /*number*/)
+{
+    return CoordinatesVisible != False;
+}
+
+// For 0 this looks at a bit that the filter never holds, so "All" is never checked; intended.
+bool IsInView(std::int32_t number)
+{
+    return (BitTable[static_cast<std::size_t>(number)] & NumberFilter) != 0;
+}
+
+constexpr std::array Rows{
+    MenuRow{1, "mnuGame", "&Game", ""},
+    MenuRow{2, "mnuNew", "&New", ""},
+    MenuRow{3, "mnuGameClipboard", "From &clipboard", "Ctrl+V", Plain<mnuGameClipboard>},
+    MenuRow{3, "mnuGameTextString", "From &text string", "Ctrl+T", Plain<mnuGameTextString>},
+    MenuRow{3, "mnuGameBlankGrid", "&Blank grid", "Ctrl+B", Plain<mnuGameBlankGrid>},
+    MenuRow{2, "mnuRestartSameGame", "&Restart", "Ctrl+R", Plain<mnuRestartSameGame>},
+    MenuRow{2, "mnuCopy2Clipboard", "Copy to clip&board", ""},
+    MenuRow{3, "mnuCopyGridFormat", "&Grid format", "Ctrl+C", Plain<mnuCopyGridFormat>},
+    MenuRow{3, "mnuCopySingleLineFormat", "&Single-line format", "Ctrl+ -",
+            Plain<mnuCopySingleLineFormat>},
+    MenuRow{1, "mnuAction", "&Action", ""},
+    MenuRow{2, "mnuUndo", "&UnDo (Page Up)", "Ctrl+Z", PressKey<PageUpCode, 0>, 0, 0, CanUndo},
+    MenuRow{2, "mnuReDo", "R&eDo (Page Dn)", "Ctrl+Y", PressKey<PageDownCode, 0>, 0, 0, CanRedo},
+    MenuRow{2, "mnuBreak2", SeparatorCaption, ""},
+    MenuRow{2, "mnuSet", "Place ca&ndidates", ""},
+    MenuRow{3, "mnuSetNumbers", "&#", "", TypeNumber<0>, 1, 9},
+    MenuRow{2, "mnuInsert", "&Add candidates", ""},
+    MenuRow{3, "mnuInsertNumber", "&All", "Insert", PressKey<InsertCode, 0>},
+    MenuRow{3, "mnuInsertNumber", "&#", "Ctrl+#", TypeNumber<CtrlKey>, 1, 9},
+    MenuRow{2, "mnuDelete", "Re&move candidates", ""},
+    MenuRow{3, "mnuDeleteNumber", "&All", "Del", PressKey<DeleteCode, 0>},
+    MenuRow{3, "mnuDeleteNumber", "&#", "Shift+#", TypeNumber<ShiftKey>, 1, 9},
+    MenuRow{2, "mnuBreak3", SeparatorCaption, ""},
+    MenuRow{2, "mnuTakeSnapshot", "Take &snapshot", "S", Plain<mnuTakeSnapshot>},
+    MenuRow{2, "mnuUseSnapshot", "&Use snapshot", "U", Plain<mnuUseSnapshot>, 0, 0, HasSnapshot},
+    MenuRow{1, "mnuView", "&View", ""},
+    MenuRow{2, "mnuViewCoordinates", "&Coordinates", "", Plain<ToggleCoordinates>, 0, 0, nullptr,
+            ShowsCoordinates},
+    MenuRow{2, "mnuIsolatedNumbers", "&Isolated numbers", ""},
+    MenuRow{3, "mnuGridView", "&All", "Ctrl+Shift+#", ViewNumber, 0, 0, nullptr, IsInView},
+    MenuRow{3, "mnuGridView", "&#'s", "Ctrl+Shift+#", ViewNumber, 1, 9, nullptr, IsInView},
+    MenuRow{1, "mnuHelp", "&Help", ""},
+    MenuRow{2, "mnuHint", "&Hint", "H", Plain<mnuHint>},
+    MenuRow{2, "mnuShowAlertReason", "Show reason for &alert in selected cell", "A",
+            Plain<mnuShowAlertReason>},
+    MenuRow{2, "mnuShowLogicNeeded", "Show &logic needed to solve", "L", Plain<mnuShowLogicNeeded>},
+    MenuRow{2, "mnuApplyLogic", "Apply selected solve l&ogic", "Ctrl+L", Plain<mnuApplyLogic>},
+    MenuRow{2, "mnuSolveGame", "Solve this ga&me", "Shift+Z", Plain<mnuSolveGame>},
+    MenuRow{1, "mnuTime", "&Time", ""},
+    MenuRow{2, "mnuPauseTime", "&Pause", "F12", Plain<mnuPauseTime>},
+    MenuRow{2, "mnuResetTime", "&Reset", "", Plain<mnuResetTime>},
+};
+
+} // namespace
+
+const std::span<const MenuRow> MenuTable(Rows);
+
+std::string WithNumber(std::string_view text, std::int32_t number)
+{
+    std::string filled;
+    for (const char mark : text) {
+        if (mark == '#') {
+            filled += std::to_string(number);
+        } else {
+            filled += mark;
+        }
+    }
+    return filled;
+}
+
+std::string MenuCaption(const MenuRow &row, std::int32_t number)
+{
+    if (row.Name == "mnuTime") {
+        return TimeCaption;
+    }
+    if (row.Name == "mnuPauseTime") {
+        return PauseCaption;
+    }
+    return WithNumber(row.Caption, number);
+}
+
+} // namespace kelvarine

@@ -1,0 +1,129 @@
+#include "logic/alerts.h"
+
+#include "logic/event_sound.h"
+#include "logic/technique.h"
+#include "logic/technique_table.h"
+#include "ui/presentation.h"
+
+namespace kelvarine {
+
+namespace {
+
+void ExplainGivenConflict(const House &house, Cell first, Cell other)
+{
+    HintTitle = "Conflict with given cells";
+    HintText = "Cell " + NameOf(other) + " is a given cell" +
+               " which conflicts directly with the given cell " + NameOf(first) + " in the same ";
+    HintText += HouseWord(house.Kind);
+    HintText += ".";
+    MarkHouse(house, HintDomainBit);
+    WordAt(first) |= HintCellBit;
+    WordAt(other) |= HintCellBit;
+}
+
+void LocateGivenConflict(const House &house)
+{
+    HintText += LineEnd;
+    HintText += "It's in a ";
+    HintText += HouseWord(house.Kind);
+    HintText += ".";
+}
+
+// Runs the operations of one technique; true when one of them left a text.
+bool RunAlertScan(const TechniqueRow &row, std::int32_t mode)
+{
+    Flag unused = False;
+    for (const Operation operation : row.AlertScan) {
+        if (operation == nullptr) {
+            return false;
+        }
+        operation(mode, unused);
+        if (!HintText.empty()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void RunTechniques(std::int32_t mode, std::uint32_t mask)
+{
+    for (std::size_t level = 1; level <= 5; ++level) {
+        for (const TechniqueRow &row : Techniques) {
+            const std::uint32_t bit = BitTable[static_cast<std::size_t>(row.Number)];
+            if ((LevelTable[level] & mask & bit) != 0 && RunAlertScan(row, mode)) {
+                return;
+            }
+        }
+    }
+}
+
+void SoundNewAlerts(const GridTable &before)
+{
+    if (AlertSound <= 0 || SoundDisabled != False) {
+        return;
+    }
+    for (const Cell cell : Cells) {
+        if ((WordAt(cell) & ~before[cell.Column][cell.Row] & AlertBit) != 0) {
+            PlayEventSound(SoundFile(AlertFiles, AlertSound), AlertVolume, false);
+            return;
+        }
+    }
+}
+
+} // namespace
+
+void ScanAlerts(std::int32_t mode)
+{
+    ChainColumns[0] = 0;
+    const GridTable before = Grid;
+    if (mode == ModeAlert) {
+        ClearCellBits(ScanMarks);
+    }
+    // Hints use every technique of the level table, whatever the player chose for alerts.
+    const bool isHint = mode >= ModeTeaser;
+    if (AlertMask == 0 && !isHint) {
+        return;
+    }
+    SetWaitCursor(true);
+    HintText.clear();
+    FindGivenConflicts(mode);
+    if (HintText.empty()) {
+        RunTechniques(mode, isHint ? RatingMask : AlertMask);
+    }
+    SetWaitCursor(false);
+    SoundNewAlerts(before);
+}
+
+bool FindGivenConflicts(std::int32_t mode)
+{
+    // Mode 0 asks for the result alone and runs as the mode that looks at a selection.
+    const std::int32_t actingMode = mode == ModeChange ? ModeExplain : mode;
+    bool conflict = false;
+    Flag unused = False;
+    for (const Cell first : Cells) {
+        if ((WordAt(first) & GivenBit) == 0) {
+            continue;
+        }
+        const CellWord numbers = WordAt(first) & CandidateMask;
+        for (const std::uint8_t h : HousesOf(first.Column, first.Row)) {
+            const House &house = Houses[h];
+            for (const Cell other : house.Cells) {
+                const CellWord word = WordAt(other);
+                if (other == first || (word & GivenBit) == 0 || (word & numbers) == 0) {
+                    continue;
+                }
+                conflict = true;
+                if (ActOnTarget(
+                        actingMode, unused, other, [](CellWord &) {},
+                        [] { HintText = "There's a conflict with given cells."; },
+                        [&] { LocateGivenConflict(house); },
+                        [&] { ExplainGivenConflict(house, first, other); })) {
+                    return true;
+                }
+            }
+        }
+    }
+    return conflict;
+}
+
+} // namespace kelvarine

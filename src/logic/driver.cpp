@@ -1,0 +1,335 @@
+#include "logic/driver.h"
+
+#include "game/history.h"
+#include "logic/technique.h"
+#include "logic/technique_table.h"
+#include "ui/presentation.h"
+
+#include <array>
+#include <set>
+#include <vector>
+
+namespace kelvarine {
+
+std::int32_t SearchKind;
+Flag StopRequested;
+std::string SolutionCountText;
+
+namespace {
+
+constexpr std::int32_t MostListed = 25;
+
+// The numbered steps of the driver that others jump to.
+enum class Step : std::uint8_t {
+    Pass,          // yield, clear marks, look for a dead end and for a solution
+    TryTechniques, // one success at most, then a new pass
+    OpenTrial,     // nothing found: guess, if the mask allows
+    NextNumber,    // next number of the deepest trial
+    Backtrack,     // restore the safe copy and replay the outer trials
+    NoSolution,
+    Leave,
+};
+
+struct Trial {
+    Cell Place{};
+    int Number = 0;
+    CellWord Mask = 0; // the cell's candidates when the trial was opened
+};
+
+using Candidates = std::array<std::uint16_t, 81>;
+
+// One run of the driver.
+struct Run {
+    std::int32_t Mode = 0;
+    std::int32_t Result = NotSolved;
+    bool Changed = false;
+    // Set to false before each pass alone. After a dead end it is still true when the techniques
+    // are tried with the next number, so that the first of them ends that round; intended.
+    Flag Found = False;
+    int TrialDepth = 0;
+    std::array<Trial, 82> Trials{}; // 1..81 used
+    std::vector<const TechniqueRow *> Order;
+    std::set<Candidates> Seen; // positions at the start of passes with the same trials, mode 0
+};
+
+// Techniques by level first and number second; one that stands in two levels comes twice.
+std::vector<const TechniqueRow *> TechniquesInUse()
+{
+    std::vector<const TechniqueRow *> order;
+    for (std::size_t level = 1; level <= 5; ++level) {
+        for (const TechniqueRow &row : Techniques) {
+            const std::uint32_t bit = BitTable[static_cast<std::size_t>(row.Number)];
+            if ((LevelTable[level] & SolveMask & bit) != 0) {
+                order.push_back(&row);
+            }
+        }
+    }
+    return order;
+}
+
+void RestoreSafeCopy()
+{
+    CopyCells(History[SafeCopySlot], Grid);
+}
+
+void SetTrialNumber(const Trial &trial)
+{
+    CellWord &word = WordAt(trial.Place);
+    word = (word & ~CandidateMask) | BitTable[static_cast<std::size_t>(trial.Number)];
+}
+
+// First cell in scan order that passes a test, or null.
+template <typename Test>
+const Cell *FindCell(const Test &test)
+{
+    for (const Cell &cell : Cells) {
+        if (test(WordAt(cell))) {
+            return &cell;
+        }
+    }
+    return nullptr;
+}
+
+Step LeaveWith(Run &run, std::int32_t result)
+{
+    run.Result = result;
+    SearchActive = False;
+    return Step::Leave;
+}
+
+// True when the candidates stand as they stood at the start of an earlier pass with the same
+// trials open: from here on the run would go round for ever. On contradictory grids the unplaced
+// forms of mode 0 add candidates that other techniques take away again. All other modes only ever
+// remove candidates between two trials and need no memory.
+bool GoesRound(Run &run)
+{
+    if (run.Mode != SolveAsPlayer) {
+        return false;
+    }
+    Candidates now;
+    for (std::size_t k = 0; k < now.size(); ++k) {
+        now[k] = static_cast<std::uint16_t>(WordAt(Cells[k]) & CandidateMask);
+    }
+    return !run.Seen.insert(now).second;
+}
+
+void RecordSolution()
+{
+    SolutionCountText =
+        std::to_string(SolutionCount) + (SolutionCount == 1 ? " solution" : " solutions");
+    for (std::size_t row = 1; row <= 9; ++row) {
+        for (std::size_t column = 1; column <= 9; ++column) {
+            SolutionList += static_cast<char>('0' + LowestCandidate(Grid[column][row]));
+        }
+    }
+}
+
+Step OnSolvedGrid(Run &run)
+{
+    ++SolutionCount;
+    switch (run.Mode) {
+    case SolveAsPlayer:
+    case SolveForPlayer:
+        if (run.Changed) {
+            PushUndoState();
+        }
+        return LeaveWith(run, Solved);
+    case SolveForRating:
+        return LeaveWith(run, Solved);
+    case CountSolutions:
+        if (SolutionCount > 1) {
+            RestoreSafeCopy();
+            return LeaveWith(run, NotSolved);
+        }
+        return Step::Backtrack;
+    default:
+        if (SolutionCount > MostListed) {
+            SolutionCountText = "More than 25 solutions";
+            RestoreSafeCopy();
+            return LeaveWith(run, NotSolved);
+        }
+        RecordSolution();
+        return Step::Backtrack;
+    }
+}
+
+Step StartPass(Run &run)
+{
+    YieldToEvents();
+    if (SearchActive == False) {
+        run.Result = Stopped;
+        return Step::Leave;
+    }
+    ClearCellBits(PassMarks);
+    const bool goesRound = GoesRound(run);
+    // In mode 0 a player's empty cell is no dead end.
+    if (run.Mode != SolveAsPlayer &&
+        FindCell([](CellWord word) { return (word & CandidateMask) == 0; }) != nullptr) {
+        return Step::Backtrack;
+    }
+    run.Found = False;
+    if (IsGridSolved() != False) {
+        return OnSolvedGrid(run);
+    }
+    return goesRound ? Step::OpenTrial : Step::TryTechniques;
+}
+
+void RunOperations(Run &run, const TechniqueRow &row)
+{
+    const OperationList &operations = run.Mode == SolveAsPlayer ? row.DriverApply : row.Driver;
+    for (const Operation operation : operations) {
+        if (operation == nullptr) {
+            return;
+        }
+        operation(ModeChange, run.Found);
+        if (run.Found != False && !row.DriverRunsAll) {
+            return;
+        }
+    }
+}
+
+Step TryTechniques(Run &run)
+{
+    for (const TechniqueRow *row : run.Order) {
+        RunOperations(run, *row);
+        if (run.Found != False) {
+            run.Changed = true;
+            UsedMask |= BitTable[static_cast<std::size_t>(row->Number)];
+            return Step::Pass;
+        }
+    }
+    return Step::OpenTrial;
+}
+
+Step EndWithoutTrial(Run &run)
+{
+    switch (run.Mode) {
+    case SolveAsPlayer:
+    case SolveForPlayer:
+        if (run.Changed) {
+            PushUndoState();
+        }
+        break;
+    case CountSolutions:
+    case ListSolutions25:
+        RestoreSafeCopy();
+        break;
+    default:
+        break;
+    }
+    return LeaveWith(run, NotSolved);
+}
+
+Step OpenTrial(Run &run)
+{
+    if ((SolveMask & TrialBit) == 0) {
+        return EndWithoutTrial(run);
+    }
+    UsedMask |= TrialBit;
+    // The order of the scan alone decides, not the number of candidates.
+    const Cell *cell = FindCell([](CellWord word) { return CandidatesIn(word) > 1; });
+    if (cell == nullptr) {
+        return Step::Backtrack;
+    }
+    ++run.TrialDepth;
+    run.Trials[static_cast<std::size_t>(run.TrialDepth)] = {*cell, 0,
+                                                            WordAt(*cell) & CandidateMask};
+    return Step::NextNumber;
+}
+
+Step NextNumber(Run &run)
+{
+    Trial &trial = run.Trials[static_cast<std::size_t>(run.TrialDepth)];
+    do {
+        ++trial.Number;
+        if (trial.Number == 10) {
+            if (run.TrialDepth == 1) {
+                return Step::NoSolution;
+            }
+            --run.TrialDepth;
+            return Step::Backtrack;
+        }
+    } while ((trial.Mask & BitTable[static_cast<std::size_t>(trial.Number)]) == 0);
+    SetTrialNumber(trial);
+    run.Seen.clear();
+    // A fresh trial goes straight to the techniques, without a yield and without the tests.
+    return Step::TryTechniques;
+}
+
+Step Backtrack(Run &run)
+{
+    RestoreSafeCopy();
+    if (run.TrialDepth < 1) {
+        return LeaveWith(run, NotSolved);
+    }
+    for (int depth = 1; depth < run.TrialDepth; ++depth) {
+        SetTrialNumber(run.Trials[static_cast<std::size_t>(depth)]);
+    }
+    return Step::NextNumber;
+}
+
+Step ReportNoSolution(Run &run)
+{
+    if (run.Mode == SolveAsPlayer) {
+        ShowMessage("This sudoku has no solution.");
+    }
+    RestoreSafeCopy();
+    return LeaveWith(run, NotSolved);
+}
+
+Step Take(Run &run, Step step)
+{
+    switch (step) {
+    case Step::Pass:
+        return StartPass(run);
+    case Step::TryTechniques:
+        return TryTechniques(run);
+    case Step::OpenTrial:
+        return OpenTrial(run);
+    case Step::NextNumber:
+        return NextNumber(run);
+    case Step::Backtrack:
+        return Backtrack(run);
+    case Step::NoSolution:
+        return ReportNoSolution(run);
+    case Step::Leave:
+        break;
+    }
+    return Step::Leave;
+}
+
+} // namespace
+
+void SetDriverDefaults()
+{
+    SearchKind = NotStoppable;
+    StopRequested = False;
+    SolutionCountText.clear();
+}
+
+std::int32_t ApplyLogic(std::int32_t mode)
+{
+    SearchActive = True;
+    UsedMask = 0;
+    SolutionCount = 0;
+    CopyCells(Grid, History[SafeCopySlot]);
+    Run run;
+    run.Mode = mode;
+    run.Order = TechniquesInUse();
+    Step step = Step::Pass;
+    while (step != Step::Leave) {
+        step = Take(run, step);
+    }
+    return run.Result;
+}
+
+void QueryStopSearch()
+{
+    StopSound();
+    if (AskYesNo("Would you like to stop searching?")) {
+        SearchActive = False;
+        StopRequested = True;
+    }
+}
+
+} // namespace kelvarine

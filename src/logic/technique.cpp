@@ -1,0 +1,53 @@
+#include "logic/technique.h"
+
+#include "grid/names.h"
+
+namespace kelvarine {
+
+void MarkHouse(const House &house, CellWord bits)
+{
+    for (const Cell cell : house.Cells) {
+        WordAt(cell) |= bits;
+    }
+}
+
+void MarkDomain(Cell cell, CellWord bits)
+{
+    for (const std::uint8_t house : HousesOf(cell.Column, cell.Row)) {
+        MarkHouse(Houses[house], bits);
+    }
+}
+
+std::string_view HouseWord(HouseKind kind)
+{
+    switch (kind) {
+    case HouseKind::Column:
+        return "column";
+    case HouseKind::Row:
+        return "row";
+    case HouseKind::Box:
+        break;
+    }
+    return "box";
+}
+
+std::string HouseName(const House &house)
+{
+    const Cell first = house.Cells[0];
+    switch (house.Kind) {
+    case HouseKind::Column:
+        return "column " + ColumnName(first.Column);
+    case HouseKind::Row:
+        return "row " + RowName(first.Row);
+    case HouseKind::Box:
+        break;
+    }
+    return "the " + BoxName(first.Column, first.Row) + " box";
+}
+
+std::string NameOf(Cell cell)
+{
+    return CellName(cell.Column, cell.Row);
+}
+
+} // namespace kelvarine

@@ -1,0 +1,170 @@
+#include "support/presentation_double.h"
+
+#include "board/board.h"
+#include "configure/defaults.h"
+
+namespace kelvarine {
+
+namespace testing {
+
+PresentationRecord Seen;
+
+void Restart()
+{
+    SetDefaults();
+    Seen = {};
+}
+
+namespace {
+
+void Record(std::string_view kind, std::string_view text)
+{
+    Seen.Calls.push_back(std::string(kind) + ": " + std::string(text));
+}
+
+// Takes the next scripted answer, or a fallback when the script has ended.
+template <typename T>
+T Next(std::deque<T> &script, T fallback)
+{
+    if (script.empty()) {
+        return fallback;
+    }
+    T answer = script.front();
+    script.pop_front();
+    return answer;
+}
+
+} // namespace
+
+} // namespace testing
+
+using testing::Next;
+using testing::Record;
+using testing::Seen;
+
+void ShowMessage(std::string_view text, std::string_view title)
+{
+    Record("message", text);
+    Seen.Messages.emplace_back(text);
+    Seen.Titles.emplace_back(title);
+}
+
+bool AskYesNo(std::string_view text, std::string_view title)
+{
+    Record("question", text);
+    Seen.Questions.emplace_back(text);
+    Seen.Titles.emplace_back(title);
+    return Next(Seen.YesNoAnswers, false);
+}
+
+Answer AskYesNoCancel(std::string_view text)
+{
+    Record("save question", text);
+    Seen.Questions.emplace_back(text);
+    return Next(Seen.SaveAnswers, Answer::No);
+}
+
+std::string AskText(std::string_view prompt)
+{
+    Record("prompt", prompt);
+    Seen.Questions.emplace_back(prompt);
+    return Next(Seen.TextAnswers, std::string());
+}
+
+void YieldToEvents()
+{
+    ++Seen.Yields;
+    if (Seen.OnYield) {
+        Seen.OnYield();
+    }
+}
+
+void RunPendingEvents()
+{
+    Record("pending events", "");
+}
+
+void SetWaitCursor(bool on)
+{
+    Seen.WaitCursorDepth += on ? 1 : -1;
+}
+
+double SecondsSinceMidnight()
+{
+    return Seen.Now;
+}
+
+void SetClockTimer(bool on)
+{
+    Seen.ClockTimerOn = on;
+}
+
+void SetWinTimer(bool on, int milliseconds)
+{
+    Seen.WinTimerOn = on;
+    Seen.WinInterval = milliseconds;
+}
+
+void SetSoundVolume(std::uint32_t volume)
+{
+    Seen.SoundVolume = volume;
+}
+
+void PlaySound(std::string_view file, bool loop)
+{
+    Record(loop ? "sound loop" : "sound", file);
+}
+
+void StopSound()
+{
+    Record("stop sound", "");
+}
+
+std::string ClipboardText()
+{
+    return Seen.Clipboard;
+}
+
+void SetClipboardText(std::string_view text)
+{
+    Seen.Clipboard = text;
+}
+
+void SetWindowTitle(std::string_view title)
+{
+    Seen.WindowTitle = title;
+}
+
+void UpdateCaptions()
+{
+    Record("captions", "");
+}
+
+void RefreshWindow()
+{
+    Record("refresh", "");
+    ++Seen.WindowRefreshes;
+}
+
+void DrawBanner(std::string_view text)
+{
+    Record("banner", text);
+}
+
+void DrawSearchBanner(std::int32_t gamesScreened)
+{
+    Record("search banner", std::to_string(gamesScreened));
+}
+
+void ResizeWindow()
+{
+    Record("resize", "");
+}
+
+void DrawBoard()
+{
+    Record("board", "");
+    ++Seen.BoardPaints;
+}
+
+} // namespace kelvarine

@@ -1,0 +1,41 @@
+// The seam to the world as the tests see it: every call is recorded, and questions are answered
+// from a script.
+#pragma once
+
+#include "ui/presentation.h"
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace kelvarine::testing {
+
+struct PresentationRecord {
+    std::vector<std::string> Calls;    // every call in order, such as "message: text"
+    std::vector<std::string> Messages; // texts of ShowMessage
+    std::vector<std::string> Titles;   // their titles
+    std::vector<std::string> Questions;
+    std::deque<bool> YesNoAnswers;  // taken from the front; No when empty
+    std::deque<Answer> SaveAnswers; // taken from the front; No when empty
+    std::deque<std::string> TextAnswers;
+    std::string Clipboard;
+    std::string WindowTitle;
+    int BoardPaints = 0; // calls of DrawBoard
+    int WindowRefreshes = 0;
+    int Yields = 0;
+    int WaitCursorDepth = 0;
+    double Now = 0; // seconds since midnight
+    bool ClockTimerOn = false;
+    bool WinTimerOn = false;
+    int WinInterval = 0;
+    std::uint32_t SoundVolume = 0;
+    std::function<void()> OnYield;
+};
+
+extern PresentationRecord Seen;
+
+// Puts the program and the record to the state of a start.
+void Restart();
+
+} // namespace kelvarine::testing
