@@ -7,6 +7,7 @@
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/win_display.h"
+#include "generator/game_number.h"
 #include "grid/grid.h"
 #include "input/mouse.h"
 #include "logic/driver.h"
@@ -23,6 +24,7 @@ void SetDefaults()
     SetLifecycleDefaults();
     SetClockDefaults();
     SetWinDisplayDefaults();
+    GameNumber = 0;
     SetLookDefaults();
     SetGeometryDefaults();
     SetMarginDefaults();
