@@ -1,0 +1,117 @@
+// Sets of cells as bits, one for each place in the scan order, so that "the cells that see both of
+// these and hold that" is a few machine words.
+#pragma once
+
+#include "grid/houses.h"
+
+#include <array>
+#include <bit>
+#include <cstdint>
+
+namespace kelvarine {
+
+// A set of cells by CellIndex, 0..80. Walking it from First on gives the scan order.
+struct CellSet {
+    std::uint64_t Low = 0;  // cells 0..63
+    std::uint64_t High = 0; // cells 64..80
+
+    static constexpr CellSet Of(int cell)
+    {
+        return cell < 64 ? CellSet{std::uint64_t{1} << cell, 0}
+                         : CellSet{0, std::uint64_t{1} << (cell - 64)};
+    }
+
+    [[nodiscard]] constexpr bool Any() const
+    {
+        return (Low | High) != 0;
+    }
+
+    [[nodiscard]] constexpr bool Has(int cell) const
+    {
+        return (((cell < 64 ? Low : High) >> (cell & 63)) & 1) != 0;
+    }
+
+    // The first cell in scan order; the set must have one.
+    [[nodiscard]] constexpr int First() const
+    {
+        return Low != 0 ? std::countr_zero(Low) : 64 + std::countr_zero(High);
+    }
+
+    constexpr void DropFirst()
+    {
+        if (Low != 0) {
+            Low &= Low - 1;
+        } else {
+            High &= High - 1;
+        }
+    }
+
+    constexpr void Add(int cell)
+    {
+        *this = *this | Of(cell);
+    }
+
+    constexpr void Remove(int cell)
+    {
+        *this = Without(Of(cell));
+    }
+
+    // The members behind a cell in scan order.
+    [[nodiscard]] constexpr CellSet After(int cell) const
+    {
+        constexpr std::uint64_t all = ~std::uint64_t{0};
+        return cell < 63 ? CellSet{Low & (all << (cell + 1)), High}
+                         : CellSet{0, High & (all << (cell - 63))};
+    }
+
+    [[nodiscard]] constexpr CellSet Without(CellSet other) const
+    {
+        return {Low & ~other.Low, High & ~other.High};
+    }
+
+    friend constexpr CellSet operator&(CellSet a, CellSet b)
+    {
+        return {a.Low & b.Low, a.High & b.High};
+    }
+
+    friend constexpr CellSet operator|(CellSet a, CellSet b)
+    {
+        return {a.Low | b.Low, a.High | b.High};
+    }
+
+    friend constexpr bool operator==(CellSet, CellSet) = default;
+};
+
+// All 81 cells.
+inline constexpr CellSet AllCells{~std::uint64_t{0}, (std::uint64_t{1} << 17) - 1};
+
+// The cells of each house of Houses.
+inline constexpr auto HouseSets = [] {
+    std::array<CellSet, 27> sets{};
+    for (std::size_t house = 0; house < sets.size(); ++house) {
+        for (const Cell cell : Houses[house].Cells) {
+            sets[house].Add(CellIndex(cell));
+        }
+    }
+    return sets;
+}();
+
+// The set of a cell's column, row or box.
+constexpr CellSet HouseSetOf(Cell cell, HouseKind kind)
+{
+    return HouseSets[HousesOf(cell.Column, cell.Row)[static_cast<std::size_t>(kind)]];
+}
+
+// The peers of each cell by CellIndex.
+inline constexpr auto PeerSets = [] {
+    std::array<CellSet, 81> sets{};
+    for (std::size_t k = 0; k < sets.size(); ++k) {
+        for (const std::uint8_t house : HousesOf(Cells[k].Column, Cells[k].Row)) {
+            sets[k] = sets[k] | HouseSets[house];
+        }
+        sets[k].Remove(static_cast<int>(k));
+    }
+    return sets;
+}();
+
+} // namespace kelvarine
