@@ -1,0 +1,297 @@
+#include "logic/xy_chains.h"
+
+#include "logic/chain_search.h"
+
+#include <algorithm>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr ChainMarks Marks{.Odd = HintDomainBit, .Even = HintCellBit};
+
+// How many more cells a chain needs at least, by the number carried out of a cell, to be complete
+// in a cell that has a target in common with the start. Marks and candidates only go during a
+// call, so a step with no prospect can be left out: nothing can be found behind it.
+struct Prospects {
+    std::array<CellSet, 10> Any; // by number carried: cells from which there is a way
+    std::array<std::array<std::uint8_t, 81>, 10> Cells; // valid for these
+};
+
+struct Search {
+    std::int32_t Mode;
+    std::int32_t MinCells;
+    std::int32_t MaxCells;
+    Flag &Found;
+    CellSet Open{};                           // cells at which the mode still has to act
+    std::array<CellSet, 10> Holders{};        // cells with a number as candidate
+    std::array<CellSet, 10> Links{};          // those of them that have two candidates
+    std::array<std::uint8_t, 81> NumberSum{}; // sum of the two numbers of a link
+    int StartNumber = 0;
+    Prospects Ahead{};
+    Chain Stack{};
+    std::array<CellSet, 82> Peers{};      // by depth: peers still to be visited
+    std::array<std::uint8_t, 82> Carry{}; // by depth: number carried out of the cell
+};
+
+// The number carried out of a link that another number is carried into.
+int CarriedOn(const Search &search, int cell, int number)
+{
+    return search.NumberSum[static_cast<std::size_t>(cell)] - number;
+}
+
+CellSet LinksWith(const Search &search, int number)
+{
+    return search.Links[static_cast<std::size_t>(number)];
+}
+
+// Marks the links and counts them.
+int MarkLinks()
+{
+    int count = 0;
+    for (const Cell cell : Cells) {
+        CellWord &word = WordAt(cell);
+        word &= ~ScratchMarks;
+        if (CandidatesIn(word) == 2) {
+            word |= ScratchMark1;
+            ++count;
+        }
+    }
+    return count;
+}
+
+void FindPlaces(Search &search)
+{
+    for (int k = 0; k < 81; ++k) {
+        const CellWord word = WordOf(k);
+        int sum = 0;
+        for (CellWord rest = word & CandidateMask; rest != 0; rest &= rest - 1) {
+            const int number = std::countr_zero(rest);
+            search.Holders[static_cast<std::size_t>(number)].Add(k);
+            if ((word & ScratchMark1) != 0) {
+                search.Links[static_cast<std::size_t>(number)].Add(k);
+                sum += number;
+            }
+        }
+        search.NumberSum[static_cast<std::size_t>(k)] = static_cast<std::uint8_t>(sum);
+    }
+}
+
+// ---- Prospects -----------------------------------------------------------------------------
+
+// Targets that a chain on the start number has with its start and some end.
+CellSet TargetsAt(const Search &search, int start, int end)
+{
+    return SeenByEnds(start, end) & search.Open &
+           search.Holders[static_cast<std::size_t>(search.StartNumber)];
+}
+
+// Works out Ahead from the ends backwards.
+void LookAhead(Search &search, int start)
+{
+    struct Place {
+        std::uint8_t Cell;
+        std::uint8_t Carried;
+    };
+    std::array<Place, 162> queue; // each link at most once for each of its numbers
+    std::size_t tail = 0;
+    search.Ahead.Any = {};
+    const auto enter = [&](int cell, int carried, int cells) {
+        const auto number = static_cast<std::size_t>(carried);
+        search.Ahead.Any[number].Add(cell);
+        search.Ahead.Cells[number][static_cast<std::size_t>(cell)] =
+            static_cast<std::uint8_t>(cells);
+        queue[tail] = {static_cast<std::uint8_t>(cell), static_cast<std::uint8_t>(carried)};
+        ++tail;
+    };
+    for (CellSet ends = LinksWith(search, search.StartNumber); ends.Any(); ends.DropFirst()) {
+        if (TargetsAt(search, start, ends.First()).Any()) {
+            enter(ends.First(), search.StartNumber, 0);
+        }
+    }
+    for (std::size_t head = 0; head < tail; ++head) {
+        const auto [cell, carriedOut] = queue[head];
+        const int carriedIn = CarriedOn(search, cell, carriedOut);
+        const int cells = search.Ahead.Cells[carriedOut][cell] + 1;
+        CellSet before = PeersOf(cell) & LinksWith(search, carriedIn);
+        before = before.Without(search.Ahead.Any[static_cast<std::size_t>(carriedIn)]);
+        for (; before.Any(); before.DropFirst()) {
+            enter(before.First(), carriedIn, cells);
+        }
+    }
+}
+
+// Whether a chain that reaches a cell as its cell number depth, with a number carried out of it,
+// can still find something.
+bool HasProspects(const Search &search, int cell, int carried, int depth)
+{
+    const auto number = static_cast<std::size_t>(carried);
+    return search.Ahead.Any[number].Has(cell) &&
+           depth + search.Ahead.Cells[number][static_cast<std::size_t>(cell)] <= search.MaxCells;
+}
+
+// ---- Words ---------------------------------------------------------------------------------
+
+void Explain(const Search &search, Cell target)
+{
+    HintTitle =
+        search.Stack.Depth == 3 ? "Conflict with XY-wing (XY-chain)" : "Conflict with XY-chain";
+    ReportEndsConflict(target, search.StartNumber);
+    ReportChain(search.Stack, Marks, -search.StartNumber);
+}
+
+// ---- Walk ----------------------------------------------------------------------------------
+
+// Takes the start number out of a cell, which then is no link any more for the rest of the call,
+// as little as a cell that comes down to two candidates becomes one.
+void TakeNumber(Search &search, int target)
+{
+    CellWord &word = WordOf(target);
+    const auto number = static_cast<std::size_t>(search.StartNumber);
+    word &= ~(BitTable[number] | ScratchMark1);
+    search.Holders[number].Remove(target);
+    for (CellSet &links : search.Links) {
+        links.Remove(target);
+    }
+}
+
+bool ActOn(Search &search, Cell target)
+{
+    return ActOnTarget(
+        search.Mode, search.Found, target,
+        [&](CellWord &) { TakeNumber(search, CellIndex(target)); },
+        [] { HintText = "There's a conflict with an XY-chain."; },
+        [&] { AddNumberLine(InvolvesNumber, search.StartNumber); },
+        [&] { Explain(search, target); });
+}
+
+// Acts on the cells that see both ends of a complete chain; cells of the chain are no targets.
+bool Evaluate(Search &search)
+{
+    const int start = search.Stack.Start();
+    const int end = search.Stack.Top();
+    CellSet targets = TargetsAt(search, start, end).Without(search.Stack.On);
+    if (!targets.Any()) {
+        return false;
+    }
+    const CellList cells = CellsSeenByEnds(CellOf(start), CellOf(end), Corner::Taken);
+    for (std::size_t k = 0; k < cells.Count; ++k) {
+        const Cell target = cells.Items[k];
+        if (!targets.Has(CellIndex(target))) {
+            continue;
+        }
+        if (ActOn(search, target)) {
+            MarkChain(search.Stack, ScratchMark2);
+            return true;
+        }
+        targets.Remove(CellIndex(target));
+        if (search.Mode == ModeAlert) {
+            search.Open.Remove(CellIndex(target));
+        }
+    }
+    LookAhead(search, start);
+    return false;
+}
+
+void Enter(Search &search, int cell, int carried)
+{
+    search.Stack.Push(cell);
+    const auto depth = static_cast<std::size_t>(search.Stack.Depth);
+    search.Carry[depth] = static_cast<std::uint8_t>(carried);
+    search.Peers[depth] = (PeersOf(cell) & LinksWith(search, carried)).Without(search.Stack.On);
+}
+
+// Enters the next peer of the top cell from which the chain can get somewhere, if there is one.
+bool StepOn(Search &search)
+{
+    const auto depth = static_cast<std::size_t>(search.Stack.Depth);
+    const int carried = search.Carry[depth];
+    CellSet &peers = search.Peers[depth];
+    peers = peers & LinksWith(search, carried);
+    while (peers.Any() && search.Stack.Depth < search.MaxCells) {
+        const int next = FirstPeer(search.Stack.Top(), peers);
+        peers.Remove(next);
+        const int carriedOn = CarriedOn(search, next, carried);
+        if (HasProspects(search, next, carriedOn, search.Stack.Depth + 1)) {
+            Enter(search, next, carriedOn);
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Walk(Search &search, int start, int carried)
+{
+    search.Stack = {};
+    Enter(search, start, carried);
+    while (true) {
+        if (StepOn(search)) {
+            const int depth = search.Stack.Depth;
+            const bool complete =
+                search.Carry[static_cast<std::size_t>(depth)] == search.StartNumber;
+            // The walk goes on beyond a complete chain.
+            if (complete && depth >= search.MinCells && Evaluate(search)) {
+                return true;
+            }
+        } else if (search.Stack.Depth < 2) {
+            return false;
+        } else {
+            search.Stack.Pop();
+        }
+    }
+}
+
+bool WalkFrom(Search &search, int start)
+{
+    for (CellWord rest = WordOf(start) & CandidateMask; rest != 0; rest &= rest - 1) {
+        search.StartNumber = std::countr_zero(rest);
+        const int carried = CarriedOn(search, start, search.StartNumber);
+        if (!(PeersOf(start) & LinksWith(search, carried)).Any()) {
+            continue;
+        }
+        LookAhead(search, start);
+        if (HasProspects(search, start, carried, 1) && Walk(search, start, carried)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+void SearchXYChains(std::int32_t mode, std::int32_t minCells, std::int32_t maxCells, Flag &found)
+{
+    if (maxCells < 2) {
+        return;
+    }
+    if (MarkLinks() < std::max(minCells, 2)) {
+        return; // too few links for a chain of that length
+    }
+    Search search{.Mode = mode,
+                  .MinCells = minCells,
+                  .MaxCells = maxCells,
+                  .Found = found,
+                  .Open = OpenTargets(mode)};
+    FindPlaces(search);
+    for (int start = 0; start < 81; ++start) {
+        if ((WordOf(start) & ScratchMark1) != 0 && WalkFrom(search, start)) {
+            return;
+        }
+    }
+}
+
+void ScanXYChains(std::int32_t mode, Flag &found)
+{
+    if (mode == ModeAlert) {
+        SearchXYChains(mode, 0, MaxXYLinks, found);
+        return;
+    }
+    for (std::int32_t cells = 2; cells <= MaxXYLinks; ++cells) {
+        SearchXYChains(mode, cells, cells, found);
+        if (!HintText.empty()) {
+            return;
+        }
+    }
+}
+
+} // namespace kelvarine

@@ -1,0 +1,258 @@
+// XY-chains in their plain form, one cell tested after the other: the yardstick that the fast
+// search is compared with.
+#pragma once
+
+#include "grid/grid.h"
+#include "grid/names.h"
+
+#include <string>
+
+namespace kelvarine::testing::plain {
+
+class XYChains {
+public:
+    XYChains(std::int32_t mode, std::int32_t minCells, std::int32_t maxCells, Flag &found)
+        : Mode(mode), MinCells(minCells), MaxCells(maxCells), Found(found)
+    {
+    }
+
+    void Search()
+    {
+        if (MaxCells < 2) {
+            return;
+        }
+        for (int column = 1; column <= 9; ++column) {
+            for (int row = 1; row <= 9; ++row) {
+                At(column, row) &= ~ScratchMarks;
+                if (CountCandidates(column, row) == 2) {
+                    At(column, row) |= ScratchMark1;
+                }
+            }
+        }
+        for (int column = 1; column <= 9; ++column) {
+            for (int row = 1; row <= 9; ++row) {
+                if ((At(column, row) & ScratchMark1) == 0) {
+                    continue;
+                }
+                At(column, row) |= ScratchMark2;
+                for (StartNumber = 1; StartNumber <= 9; ++StartNumber) {
+                    StartBit = BitTable[static_cast<std::size_t>(StartNumber)];
+                    if ((At(column, row) & StartBit) == 0) {
+                        continue;
+                    }
+                    Depth = 1;
+                    ChainCol[1] = column;
+                    ChainRow[1] = row;
+                    NextPeer[1] = 0;
+                    CarryMask[1] = At(column, row) & CandidateMask & ~StartBit;
+                    if (Walk()) {
+                        return;
+                    }
+                }
+                At(column, row) &= ~ScratchMark2;
+            }
+        }
+    }
+
+private:
+    std::int32_t Mode;
+    std::int32_t MinCells;
+    std::int32_t MaxCells;
+    Flag &Found;
+    int StartNumber = 0;
+    CellWord StartBit = 0;
+    int Depth = 0;
+    int ChainCol[83] = {};
+    int ChainRow[83] = {};
+    int NextPeer[83] = {};
+    CellWord CarryMask[83] = {};
+
+    static CellWord &At(int column, int row)
+    {
+        return Grid[static_cast<std::size_t>(column)][static_cast<std::size_t>(row)];
+    }
+
+    static int Start(int line)
+    {
+        return BoxStart[static_cast<std::size_t>(line)];
+    }
+
+    bool Walk()
+    {
+        while (true) {
+            if (Depth != MaxCells && StepOn()) {
+                if ((CarryMask[Depth] & StartBit) != 0 && Depth >= MinCells && Evaluate()) {
+                    return true;
+                }
+                continue;
+            }
+            if (Depth < 2) {
+                return false;
+            }
+            At(ChainCol[Depth], ChainRow[Depth]) &= ~ScratchMark2;
+            --Depth;
+        }
+    }
+
+    // Advances to the next peer and pushes it; false when none is left.
+    bool StepOn()
+    {
+        const int topColumn = ChainCol[Depth];
+        const int topRow = ChainRow[Depth];
+        while (NextPeer[Depth] < 27) {
+            const int k = ++NextPeer[Depth];
+            int column = 0;
+            int row = 0;
+            if (k <= 9) {
+                column = topColumn;
+                row = k;
+            } else if (k <= 18) {
+                column = k - 9;
+                row = topRow;
+            } else {
+                column = Start(topColumn) + (k - 19) / 3;
+                row = Start(topRow) + (k - 19) % 3;
+                if (column == topColumn || row == topRow) {
+                    continue;
+                }
+            }
+            const CellWord word = At(column, row);
+            if ((word & ScratchMark2) != 0 || (word & ScratchMark1) == 0 ||
+                (word & CarryMask[Depth]) == 0) {
+                continue;
+            }
+            At(column, row) |= ScratchMark2;
+            ++Depth;
+            ChainCol[Depth] = column;
+            ChainRow[Depth] = row;
+            NextPeer[Depth] = 0;
+            CarryMask[Depth] = word & CandidateMask & ~CarryMask[Depth - 1];
+            return true;
+        }
+        return false;
+    }
+
+    bool Evaluate()
+    {
+        const int cS = ChainCol[1];
+        const int rS = ChainRow[1];
+        const int cE = ChainCol[Depth];
+        const int rE = ChainRow[Depth];
+        const bool sameStack = Start(cS) == Start(cE);
+        const bool sameBand = Start(rS) == Start(rE);
+        if (rS == rE) {
+            for (int column = 1; column <= 9; ++column) {
+                if (TargetAt(column, rS)) {
+                    return true;
+                }
+            }
+            return sameStack && BoxOf(cE, rE);
+        }
+        if (cS == cE) {
+            for (int row = 1; row <= 9; ++row) {
+                if (TargetAt(cS, row)) {
+                    return true;
+                }
+            }
+            return sameBand && BoxOf(cE, rE);
+        }
+        if (!sameBand && !sameStack) {
+            return TargetAt(cS, rE);
+        }
+        if (!sameBand) {
+            for (int row = Start(rE); row <= Start(rE) + 2; ++row) {
+                if (TargetAt(cS, row)) {
+                    return true;
+                }
+            }
+            for (int row = Start(rS); row <= Start(rS) + 2; ++row) {
+                if (TargetAt(cE, row)) {
+                    return true;
+                }
+            }
+            return false;
+        }
+        if (!sameStack) {
+            for (int column = Start(cE); column <= Start(cE) + 2; ++column) {
+                if (TargetAt(column, rS)) {
+                    return true;
+                }
+            }
+            for (int column = Start(cS); column <= Start(cS) + 2; ++column) {
+                if (TargetAt(column, rE)) {
+                    return true;
+                }
+            }
+            return false;
+        }
+        return BoxOf(cE, rE);
+    }
+
+    bool BoxOf(int atColumn, int atRow)
+    {
+        for (int column = Start(atColumn); column <= Start(atColumn) + 2; ++column) {
+            for (int row = Start(atRow); row <= Start(atRow) + 2; ++row) {
+                if (TargetAt(column, row)) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+    bool TargetAt(int column, int row)
+    {
+        CellWord &word = At(column, row);
+        if ((word & ScratchMark2) != 0 || (word & StartBit) == 0) {
+            return false;
+        }
+        if (Mode == 0) {
+            word &= ~StartBit;
+            word &= ~ScratchMark1;
+            Found = True;
+            return false;
+        }
+        if (Mode == 1) {
+            word |= AlertBit;
+            return false;
+        }
+        if (Mode == 3 || Mode == 4) {
+            HintText = "There's a conflict with an XY-chain.";
+            if (Mode == 4) {
+                HintText += "\rIt involves the number " + std::to_string(StartNumber);
+            }
+            return true;
+        }
+        if (Mode == 5) {
+            word |= SelectedBit;
+        }
+        if ((Mode == 2 || Mode == 5) && (word & SelectedBit) != 0) {
+            Report(column, row);
+            return true;
+        }
+        return false;
+    }
+
+    void Report(int column, int row)
+    {
+        HintTitle = Depth == 3 ? "Conflict with XY-wing (XY-chain)" : "Conflict with XY-chain";
+        HintText += "Cell " + CellName(column, row) + " contains a " + std::to_string(StartNumber);
+        HintText += " which conflicts with the ends of the following chained cells:\r";
+        for (int i = 1; i <= Depth; ++i) {
+            HintText += "  " + CellName(ChainCol[i], ChainRow[i]);
+            ChainColumns[static_cast<std::size_t>(i)] = ChainCol[i];
+            ChainRows[static_cast<std::size_t>(i)] = ChainRow[i];
+            At(ChainCol[i], ChainRow[i]) |= i % 2 == 0 ? HintCellBit : HintDomainBit;
+        }
+        ChainColumns[0] = Depth;
+        ChainRows[0] = -StartNumber;
+    }
+};
+
+inline void SearchXYChains(std::int32_t mode, std::int32_t minCells, std::int32_t maxCells,
+                           Flag &found)
+{
+    XYChains(mode, minCells, maxCells, found).Search();
+}
+
+} // namespace kelvarine::testing::plain
