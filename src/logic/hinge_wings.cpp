@@ -1,0 +1,263 @@
+#include "logic/hinge_wings.h"
+
+#include "logic/chain_search.h"
+
+namespace kelvarine {
+
+namespace {
+
+// The search of a hinge runs twice, with wings in its column or box and with wings in its row or
+// box. The passes differ in one lead-in as well: that of wings in the line, some of them outside
+// the box, and none elsewhere in the box; intended.
+struct Pass {
+    HouseKind Line;
+    std::string_view LineLeadIn;
+};
+
+constexpr std::string_view ConflictLeadIn = "There's a conflict with ";
+
+constexpr std::array Passes{
+    Pass{HouseKind::Column, ConflictLeadIn},
+    Pass{HouseKind::Row, "There's "},
+};
+
+struct Search {
+    std::int32_t Mode;
+    Flag &Found;
+    std::int32_t Size;
+    CellSet Pairs{}; // cells with two candidates
+    int Hinge = 0;
+    const Pass *Current = nullptr;
+    int Number = 0;
+    std::size_t WingCount = 0; // wings of the number, in the lists from element 1 on
+    bool OutsideBox = false;   // a wing in the line lies outside the hinge's box
+    bool BoxWing = false;      // a wing was found in the box only
+};
+
+CellSet PairCells()
+{
+    CellSet pairs;
+    for (int k = 0; k < 81; ++k) {
+        if (CandidatesIn(WordOf(k)) == 2) {
+            pairs.Add(k);
+        }
+    }
+    return pairs;
+}
+
+CellSet LineOf(const Search &search)
+{
+    return HouseSetOf(CellOf(search.Hinge), search.Current->Line);
+}
+
+CellSet BoxOf(const Search &search)
+{
+    return HouseSetOf(CellOf(search.Hinge), HouseKind::Box);
+}
+
+// ---- Words ---------------------------------------------------------------------------------
+
+std::string WingName(std::int32_t size)
+{
+    return size == 3 ? "XYZ-Wing" : size == 4 ? "WXYZ-Wing" : "Hinge-Wing";
+}
+
+void Tease(const Search &search)
+{
+    const bool lineOnly = search.OutsideBox && !search.BoxWing;
+    HintText = lineOnly ? search.Current->LineLeadIn : ConflictLeadIn;
+    HintText += (search.Size == 3 ? "an " : "a ") + WingName(search.Size) + ".";
+}
+
+void Locate(const Search &search)
+{
+    HintText += LineEnd;
+    HintText += LineEnd;
+    HintText += "The hinge cell is " + NameOf(CellOf(search.Hinge));
+}
+
+Cell Wing(std::size_t i)
+{
+    return MakeCell(ChainColumns[i], ChainRows[i]);
+}
+
+void Explain(const Search &search, Cell target)
+{
+    HintTitle = WingName(search.Size);
+    HintText = "Cell " + NameOf(target) + " contains a " + std::to_string(search.Number) +
+               " which conflicts with:";
+    HintText += LineEnd;
+    HintText += "     hinge cell " + NameOf(CellOf(search.Hinge)) + " and ";
+    HintText += LineEnd;
+    HintText += "     wing cells ";
+    for (std::size_t i = 1; i <= search.WingCount; ++i) {
+        HintText += NameOf(Wing(i)) + " ";
+        WordAt(Wing(i)) |= HintDomainBit;
+    }
+    WordOf(search.Hinge) |= HintCellBit;
+}
+
+// ---- Targets -------------------------------------------------------------------------------
+
+void TakeNumber(Search &search, int target)
+{
+    CellWord &word = WordOf(target);
+    word &= ~BitTable[static_cast<std::size_t>(search.Number)];
+    search.Pairs.Remove(target);
+    if (CandidatesIn(word) == 2) {
+        search.Pairs.Add(target);
+    }
+}
+
+// Acts on the targets among some cells, in scan order.
+bool ActOn(Search &search, CellSet cells)
+{
+    for (CellSet rest = cells; rest.Any(); rest.DropFirst()) {
+        const int target = rest.First();
+        const CellWord word = WordOf(target);
+        if ((word & ScratchMark2) != 0 ||
+            (word & BitTable[static_cast<std::size_t>(search.Number)]) == 0) {
+            continue;
+        }
+        if (ActOnTarget(
+                search.Mode, search.Found, CellOf(target),
+                [&](CellWord &) { TakeNumber(search, target); }, [&] { Tease(search); },
+                [&] { Locate(search); }, [&] { Explain(search, CellOf(target)); })) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// All wings stand. What sees the hinge and all of them depends on where they are.
+bool ActOnTargets(Search &search)
+{
+    const CellSet line = LineOf(search);
+    const CellSet box = BoxOf(search);
+    if (search.OutsideBox) {
+        return ActOn(search, search.BoxWing ? line & box : line);
+    }
+    if (search.BoxWing) {
+        return ActOn(search, box);
+    }
+    return ActOn(search, line) || ActOn(search, box);
+}
+
+// ---- Wings ---------------------------------------------------------------------------------
+
+// The first cell of some that holds exactly two numbers, or -1.
+int FindPair(const Search &search, CellSet cells, CellWord pairMask)
+{
+    for (CellSet rest = search.Pairs & cells; rest.Any(); rest.DropFirst()) {
+        if ((WordOf(rest.First()) & CandidateMask) == pairMask) {
+            return rest.First();
+        }
+    }
+    return -1;
+}
+
+// Looks for a wing in the line and then in the box.
+bool FindWing(Search &search, CellWord pairMask)
+{
+    int wing = FindPair(search, LineOf(search), pairMask);
+    if (wing >= 0) {
+        search.OutsideBox = search.OutsideBox || !BoxOf(search).Has(wing);
+    } else {
+        wing = FindPair(search, BoxOf(search), pairMask);
+        if (wing < 0) {
+            return false;
+        }
+        search.BoxWing = true;
+    }
+    ++search.WingCount;
+    ChainColumns[search.WingCount] = CellOf(wing).Column;
+    ChainRows[search.WingCount] = CellOf(wing).Row;
+    WordOf(wing) |= ScratchMark2;
+    return true;
+}
+
+// Finds a wing for each other candidate of the hinge, up to the first that has none. Wings found
+// so far keep their mark.
+bool FindWings(Search &search)
+{
+    const CellWord bit = BitTable[static_cast<std::size_t>(search.Number)];
+    for (CellWord rest = WordOf(search.Hinge) & CandidateMask & ~bit; rest != 0; rest &= rest - 1) {
+        if (!FindWing(search, bit | (rest & (~rest + 1)))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Whether any cell could be a wing of the hinge in this pass. Without one nothing happens.
+bool HasWings(const Search &search)
+{
+    const CellWord others = ~WordOf(search.Hinge) & CandidateMask;
+    for (CellSet rest = search.Pairs & (LineOf(search) | BoxOf(search)); rest.Any();
+         rest.DropFirst()) {
+        if ((WordOf(rest.First()) & others) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool RunPass(Search &search)
+{
+    if (!HasWings(search)) {
+        return false;
+    }
+    const CellWord hinge = WordOf(search.Hinge);
+    for (search.Number = 1; search.Number <= 9; ++search.Number) {
+        search.WingCount = 0;
+        search.OutsideBox = false;
+        search.BoxWing = false;
+        if ((hinge & BitTable[static_cast<std::size_t>(search.Number)]) != 0 && FindWings(search) &&
+            ActOnTargets(search)) {
+            return true;
+        }
+    }
+    // This clears the wings of number 9 alone, if there are any. Those of lower numbers keep their
+    // mark and are no targets for the rest of the call; intended.
+    for (std::size_t i = 1; i <= search.WingCount; ++i) {
+        WordAt(Wing(i)) &= ~ScratchMark2;
+    }
+    return false;
+}
+
+bool RunPasses(Search &search)
+{
+    for (const Pass &pass : Passes) {
+        search.Current = &pass;
+        if (RunPass(search)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+void SearchHingeWings(std::int32_t mode, Flag &found, std::int32_t size)
+{
+    Search search{.Mode = mode, .Found = found, .Size = size};
+    bool hingeSeen = false;
+    for (int k = 0; k < 81; ++k) {
+        const CellWord word = WordOf(k);
+        if ((word & GivenBit) != 0 || CandidatesIn(word) != size) {
+            continue;
+        }
+        if (!hingeSeen) {
+            hingeSeen = true;
+            search.Pairs = PairCells();
+        }
+        search.Hinge = k;
+        WordOf(k) |= ScratchMark2;
+        if (RunPasses(search)) {
+            return;
+        }
+        WordOf(k) &= ~ScratchMark2;
+    }
+}
+
+} // namespace kelvarine
