@@ -1,0 +1,156 @@
+// Random positions for the tests of the chain searches: sound ones as they come up in the middle
+// of a game, sound ones rich in cells with two candidates, and absurd ones.
+#pragma once
+
+#include "grid/grid.h"
+
+#include <algorithm>
+#include <bit>
+#include <random>
+
+namespace kelvarine::testing::chains {
+
+using Random = std::mt19937;
+
+inline int Below(Random &random, int count)
+{
+    return static_cast<int>(random() % static_cast<unsigned>(count));
+}
+
+inline bool Chance(Random &random, int percent)
+{
+    return Below(random, 100) < percent;
+}
+
+inline CellWord RandomNumber(Random &random, CellWord from)
+{
+    for (int skip = Below(random, CandidatesIn(from)); skip > 0; --skip) {
+        from &= from - 1;
+    }
+    return from & (~from + 1);
+}
+
+// Leaves one number in each cell so that all houses hold all nine. Grid holds all candidates.
+inline bool FillGrid(Random &random)
+{
+    const Cell *best = nullptr;
+    for (const Cell &cell : Cells) {
+        const int count = CandidatesIn(WordAt(cell));
+        const bool open = (WordAt(cell) & ScratchMark3) == 0;
+        if (open && (best == nullptr || count < CandidatesIn(WordAt(*best)))) {
+            best = &cell;
+        }
+    }
+    if (best == nullptr) {
+        return true;
+    }
+    const GridTable before = Grid;
+    CellWord left = WordAt(*best) & CandidateMask;
+    while (left != 0) {
+        const CellWord number = RandomNumber(random, left);
+        left &= ~number;
+        for (const Cell cell : Cells) {
+            if (ArePeers(*best, cell)) {
+                WordAt(cell) &= ~number;
+            }
+        }
+        WordAt(*best) = number | ScratchMark3;
+        if (FillGrid(random)) {
+            return true;
+        }
+        Grid = before;
+    }
+    return false;
+}
+
+// A random solved grid, one number in each cell and nothing else.
+inline GridTable RandomSolution(Random &random)
+{
+    Grid = {};
+    FillPencilmarks();
+    FillGrid(random);
+    ClearCellBits(ScratchMarks);
+    return Grid;
+}
+
+// Keeps some numbers of the solution, most of them as givens, pencils the other cells by them and
+// takes out some wrong candidates.
+inline void MakeMidGame(Random &random)
+{
+    const GridTable solution = RandomSolution(random);
+    const int keep = 25 + Below(random, 50);
+    const int takeOut = Below(random, 60);
+    for (const Cell cell : Cells) {
+        const bool kept = Chance(random, keep);
+        const CellWord given = Chance(random, 80) ? GivenBit : 0;
+        WordAt(cell) = kept ? solution[cell.Column][cell.Row] | given : CandidateMask;
+    }
+    const GridTable placed = Grid;
+    for (const Cell cell : Cells) {
+        CellWord &word = WordAt(cell);
+        const CellWord right = solution[cell.Column][cell.Row];
+        if (CandidatesIn(word) == 1) {
+            continue;
+        }
+        for (const Cell other : Cells) {
+            const CellWord number = placed[other.Column][other.Row];
+            if (ArePeers(cell, other) && CandidatesIn(number) == 1) {
+                word &= ~(number & CandidateMask);
+            }
+        }
+        for (CellWord rest = word; rest != 0; rest &= rest - 1) {
+            const CellWord number = rest & (~rest + 1);
+            if (number != right && Chance(random, takeOut)) {
+                word &= ~number;
+            }
+        }
+    }
+}
+
+// Gives most cells the right number and one of a few wrong ones.
+inline void MakePairRich(Random &random)
+{
+    const GridTable solution = RandomSolution(random);
+    const int pairs = 20 + Below(random, 75);
+    const CellWord wrong = static_cast<CellWord>(random()) & CandidateMask;
+    for (const Cell cell : Cells) {
+        CellWord &word = WordAt(cell);
+        word = solution[cell.Column][cell.Row];
+        const int others = Chance(random, pairs) ? 1 : Below(random, 5);
+        for (int k = 0; k < others; ++k) {
+            word |= RandomNumber(random, wrong != 0 ? wrong : CandidateMask);
+        }
+        if (others == 0 && Chance(random, 50)) {
+            word |= GivenBit;
+        }
+    }
+}
+
+// Random words in all 32 bits, the candidates thinned out to some degree.
+inline void MakeAbsurd(Random &random)
+{
+    const int thin = Below(random, 4);
+    const CellWord numbers = Chance(random, 50) ? CandidateMask : static_cast<CellWord>(random());
+    const int givens = Below(random, 101);
+    for (const Cell cell : Cells) {
+        CellWord word = static_cast<CellWord>(random());
+        for (int k = 0; k < thin; ++k) {
+            word &= ~(static_cast<CellWord>(random()) & CandidateMask);
+        }
+        word &= ~CandidateMask | numbers;
+        WordAt(cell) = Chance(random, givens) ? word & ~GivenBit : word;
+    }
+}
+
+// Random bits outside of the candidates and the given mark, as a player's game gathers them.
+inline void AddMarks(Random &random)
+{
+    const int percent = Chance(random, 50) ? 0 : Below(random, 60);
+    for (const Cell cell : Cells) {
+        if (Chance(random, percent)) {
+            WordAt(cell) |= static_cast<CellWord>(random()) & ~(CandidateMask | GivenBit);
+        }
+    }
+}
+
+} // namespace kelvarine::testing::chains
