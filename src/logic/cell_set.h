@@ -2,7 +2,7 @@
 // these and hold that" is a few machine words.
 #pragma once
 
-#include "grid/houses.h"
+#include "grid/grid.h"
 
 #include <array>
 #include <bit>
@@ -10,10 +10,11 @@
 
 namespace kelvarine {
 
-// A set of cells by CellIndex, 0..80. Walking it from First on gives the scan order.
+// A set of cells by CellIndex, 0..80. Walking it from First on gives the scan order. Left without
+// initial values so that the long stacks of sets in a search cost nothing before they are used.
 struct CellSet {
-    std::uint64_t Low = 0;  // cells 0..63
-    std::uint64_t High = 0; // cells 64..80
+    std::uint64_t Low;  // cells 0..63
+    std::uint64_t High; // cells 64..80
 
     static constexpr CellSet Of(int cell)
     {
@@ -29,6 +30,11 @@ struct CellSet {
     [[nodiscard]] constexpr bool Has(int cell) const
     {
         return (((cell < 64 ? Low : High) >> (cell & 63)) & 1) != 0;
+    }
+
+    [[nodiscard]] constexpr int Count() const
+    {
+        return std::popcount(Low) + std::popcount(High);
     }
 
     // The first cell in scan order; the set must have one.
@@ -82,7 +88,7 @@ struct CellSet {
     friend constexpr bool operator==(CellSet, CellSet) = default;
 };
 
-// All 81 cells.
+inline constexpr CellSet NoCells{0, 0};
 inline constexpr CellSet AllCells{~std::uint64_t{0}, (std::uint64_t{1} << 17) - 1};
 
 // The cells of each house of Houses.
@@ -113,5 +119,21 @@ inline constexpr auto PeerSets = [] {
     }
     return sets;
 }();
+
+// The cells of Grid whose word passes a test.
+template <typename Test>
+CellSet CellsWhere(const Test &test)
+{
+    CellSet set = NoCells;
+    int cell = 0;
+    for (std::size_t column = 1; column <= 9; ++column) {
+        for (std::size_t row = 1; row <= 9; ++row, ++cell) {
+            if (test(Grid[column][row])) {
+                set.Add(cell);
+            }
+        }
+    }
+    return set;
+}
 
 } // namespace kelvarine

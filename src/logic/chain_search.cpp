@@ -36,25 +36,32 @@ void AddCrossing(CellList &list, const House &line, Cell other)
     }
 }
 
-CellWord MarkOfMode(std::int32_t mode)
-{
-    return mode == ModeAlert ? AlertBit : SelectedBit;
-}
-
 } // namespace
 
-CellSet OpenTargets(std::int32_t mode)
+CellSet OpenTargets(std::int32_t mode, CellWord candidates)
 {
-    if (mode != ModeAlert && mode != ModeExplain) {
-        return AllCells;
-    }
-    CellSet marked;
-    for (int k = 0; k < 81; ++k) {
-        if ((WordOf(k) & MarkOfMode(mode)) != 0) {
-            marked.Add(k);
+    const CellWord without = mode == ModeAlert ? AlertBit : 0;
+    const CellWord with = mode == ModeExplain ? SelectedBit : 0;
+    return CellsWhere([=](CellWord word) {
+        return (word & candidates) != 0 && (word & (without | with)) == with;
+    });
+}
+
+CellSet MarkTwos(CellWord mark)
+{
+    CellSet twos = NoCells;
+    int cell = 0;
+    for (std::size_t column = 1; column <= 9; ++column) {
+        for (std::size_t row = 1; row <= 9; ++row, ++cell) {
+            CellWord &word = Grid[column][row];
+            word &= ~ScratchMarks;
+            if (CandidatesIn(word) == 2) {
+                word |= mark;
+                twos.Add(cell);
+            }
         }
     }
-    return mode == ModeAlert ? AllCells.Without(marked) : marked;
+    return twos;
 }
 
 CellList CellsSeenByEnds(Cell start, Cell end, Corner corner)

@@ -14,9 +14,16 @@ namespace kelvarine {
 // The chain from its first cell to the top of the stack. A search keeps what else it must know of
 // each cell in arrays of its own beside it, by depth.
 struct Chain {
-    int Depth = 0;                       // number of cells on the chain
-    std::array<std::uint8_t, 82> Cell{}; // 1..Depth, by CellIndex
-    CellSet On;                          // the same as a set
+    int Depth = 0;                     // number of cells on the chain
+    CellSet On = NoCells;              // these cells
+    std::array<std::uint8_t, 82> Cell; // the same by depth from 1 on, by CellIndex
+
+    void StartAt(int cell)
+    {
+        Depth = 0;
+        On = NoCells;
+        Push(cell);
+    }
 
     [[nodiscard]] int At(int depth) const
     {
@@ -45,13 +52,6 @@ struct Chain {
         On.Remove(Top());
         --Depth;
     }
-
-    void StartAt(int cell)
-    {
-        Depth = 0;
-        On = {};
-        Push(cell);
-    }
 };
 
 // Cell and word of a CellIndex.
@@ -70,9 +70,13 @@ inline CellSet PeersOf(int index)
     return PeerSets[static_cast<std::size_t>(index)];
 }
 
-// The cells at which a target would mean something to a mode. Of alerts that is a cell without the
-// mark, of an explanation a selected cell; a search may leave out what can end nowhere else.
-CellSet OpenTargets(std::int32_t mode);
+// The cells with any of some candidates at which a mode has something to do: in mode 1 those
+// without AlertBit, in mode 2 those with SelectedBit. A search may leave out what can end nowhere
+// else.
+CellSet OpenTargets(std::int32_t mode, CellWord candidates);
+
+// Clears the scratch marks of all cells, sets mark on those with two candidates and returns these.
+CellSet MarkTwos(CellWord mark);
 
 // Which of some peers of a cell comes first in the order of a walk: those of the column by
 // ascending row, those of the row by ascending column, the rest of the box column by column. There
@@ -98,10 +102,10 @@ struct Reach {
 template <typename Neighbours>
 Reach ReachFrom(int start, const Neighbours &neighboursOf)
 {
-    Reach reach{CellSet::Of(start), {}};
+    Reach reach{CellSet::Of(start), NoCells};
     Reach fresh = reach;
     while (fresh.Odd.Any() || fresh.Even.Any()) {
-        Reach next;
+        Reach next{NoCells, NoCells};
         for (; fresh.Odd.Any(); fresh.Odd.DropFirst()) {
             next.Even = next.Even | neighboursOf(fresh.Odd.First());
         }
@@ -118,14 +122,25 @@ Reach ReachFrom(int start, const Neighbours &neighboursOf)
 // start's row.
 enum class Corner : std::uint8_t { Taken, PassedOver };
 
+// A short list of cells; a line and a box at most.
 struct CellList {
-    std::array<kelvarine::Cell, 18> Items{};
+    std::array<kelvarine::Cell, 18> Items;
     std::size_t Count = 0;
 
     void Add(kelvarine::Cell cell)
     {
         Items[Count] = cell;
         ++Count;
+    }
+
+    [[nodiscard]] const kelvarine::Cell *begin() const
+    {
+        return Items.data();
+    }
+
+    [[nodiscard]] const kelvarine::Cell *end() const
+    {
+        return Items.data() + Count;
     }
 };
 

@@ -25,7 +25,7 @@ struct Search {
     std::int32_t Mode;
     Flag &Found;
     std::int32_t Size;
-    CellSet Pairs{}; // cells with two candidates
+    CellSet Pairs = NoCells; // cells with two candidates
     int Hinge = 0;
     const Pass *Current = nullptr;
     int Number = 0;
@@ -36,13 +36,7 @@ struct Search {
 
 CellSet PairCells()
 {
-    CellSet pairs;
-    for (int k = 0; k < 81; ++k) {
-        if (CandidatesIn(WordOf(k)) == 2) {
-            pairs.Add(k);
-        }
-    }
-    return pairs;
+    return CellsWhere([](CellWord word) { return CandidatesIn(word) == 2; });
 }
 
 CellSet LineOf(const Search &search)

@@ -23,63 +23,38 @@ constexpr ChainMarks Marks{.Odd = HintDomainBit, .Even = HintCellBit};
 
 struct Search {
     std::int32_t Mode;
-    Flag &Found;
-    CellSet Open{};                            // cells at which the mode still has to act
-    std::array<std::uint8_t, 512> CellsWith{}; // how many cells hold exactly these candidates
-    CellWord PairMask = 0;                     // candidates of the chain
-    CellSet Pairs{};                           // cells that hold exactly these
-    CellSet Targets{};                         // all that a chain from the start cell may hit
-    Chain Stack{};
-    std::array<CellSet, 82> LinePeers{}; // by depth: peers in column and row still to be visited
-    std::array<CellSet, 82> BoxPeers{};  // and, after them, in the box
+    Flag *Found;
+    CellSet Eligible;  // the cells with two candidates, after a removal any cell
+    CellWord PairMask; // candidates of the chain
+    CellSet Pairs;     // cells that hold exactly these
+    CellSet Targets;   // all that a chain from the start cell may hit
+    Chain Stack;
+    std::array<CellSet, 82> LinePeers; // by depth: peers in column and row still to be visited
+    std::array<CellSet, 82> BoxPeers;  // and, after them, in the box
 };
 
-std::uint8_t &CellsHolding(Search &search, CellWord word)
+// Whether a peer of the start cell holds the pair. Without one there is no chain.
+bool HasPartner(const Search &search, int start)
 {
-    return search.CellsWith[(word & CandidateMask) >> 1];
-}
-
-void Prepare(Search &search)
-{
-    for (const Cell cell : Cells) {
-        CellWord &word = WordAt(cell);
-        word &= ~ScratchMarks;
-        if (CandidatesIn(word) == 2) {
-            word |= ScratchMark0;
+    for (CellSet rest = PeersOf(start) & search.Eligible; rest.Any(); rest.DropFirst()) {
+        if ((WordOf(rest.First()) & CandidateMask) == search.PairMask) {
+            return true;
         }
-        ++CellsHolding(search, word);
     }
+    return false;
 }
 
 // Finds Pairs and Targets for a start cell.
 void Survey(Search &search, int start)
 {
-    CellSet holders;
-    search.Pairs = {};
-    for (int k = 0; k < 81; ++k) {
-        const CellWord word = WordOf(k);
-        if ((word & search.PairMask) != 0) {
-            holders.Add(k);
-        }
-        if ((word & CandidateMask) == search.PairMask) {
-            search.Pairs.Add(k);
-        }
-    }
+    const CellWord pair = search.PairMask;
+    search.Pairs = CellsWhere([=](CellWord word) { return (word & CandidateMask) == pair; });
     const Reach reach = ReachFrom(start, [&](int cell) { return PeersOf(cell) & search.Pairs; });
-    CellSet seen;
+    CellSet seen = NoCells;
     for (CellSet ends = reach.Even; ends.Any(); ends.DropFirst()) {
         seen = seen | PeersOf(ends.First());
     }
-    search.Targets = seen & PeersOf(start) & holders & search.Open;
-}
-
-void TakePair(Search &search, int target)
-{
-    CellWord &word = WordOf(target);
-    --CellsHolding(search, word);
-    word &= ~search.PairMask;
-    ++CellsHolding(search, word);
-    search.Pairs.Remove(target);
+    search.Targets = seen & PeersOf(start) & OpenTargets(search.Mode, pair);
 }
 
 // ---- Words ---------------------------------------------------------------------------------
@@ -104,7 +79,12 @@ bool ActOn(Search &search, int target, std::string_view leadIn)
 {
     const Cell cell = CellOf(target);
     return ActOnTarget(
-        search.Mode, search.Found, cell, [&](CellWord &) { TakePair(search, target); },
+        search.Mode, *search.Found, cell,
+        [&](CellWord &word) {
+            word &= ~search.PairMask;
+            search.Pairs.Remove(target);
+            search.Eligible = AllCells;
+        },
         [] { HintText = "There's a conflict with a Remote Pair."; },
         [&] { AddNumberLine(leadIn, LowestCandidate(WordAt(cell) & search.PairMask)); },
         [&] { Explain(search, cell); });
@@ -132,25 +112,22 @@ bool Evaluate(Search &search)
             }
             // Done for good: cells never gain a candidate or lose a mark during a call.
             search.Targets.Remove(target);
-            search.Open =
-                search.Mode == ModeAlert ? search.Open.Without(CellSet::Of(target)) : search.Open;
         }
         seen = seen.Without(house);
     }
     return false;
 }
 
-void Enter(Search &search, int cell)
+// Notes which peers may follow the top cell.
+void Open(Search &search)
 {
-    const CellSet free = search.Pairs.Without(search.Stack.On) & PeersOf(cell);
-    const CellSet box = HouseSetOf(CellOf(cell), HouseKind::Box);
-    const CellSet lines =
-        HouseSetOf(CellOf(cell), HouseKind::Column) | HouseSetOf(CellOf(cell), HouseKind::Row);
-    search.Stack.Push(cell);
+    const Cell top = CellOf(search.Stack.Top());
+    const CellSet free = search.Pairs.Without(search.Stack.On);
     const auto depth = static_cast<std::size_t>(search.Stack.Depth);
-    search.LinePeers[depth] = free & lines;
+    search.LinePeers[depth] =
+        free & (HouseSetOf(top, HouseKind::Column) | HouseSetOf(top, HouseKind::Row));
     // Cells of the box that lie in the column or row are visited again here; intended.
-    search.BoxPeers[depth] = free & box;
+    search.BoxPeers[depth] = free & HouseSetOf(top, HouseKind::Box);
 }
 
 // Enters the next peer of the top cell, if there is one and anything is left to be hit.
@@ -165,7 +142,8 @@ bool StepOn(Search &search)
         if (peers->Any()) {
             const int next = FirstPeer(search.Stack.Top(), *peers);
             peers->Remove(next);
-            Enter(search, next);
+            search.Stack.Push(next);
+            Open(search);
             return true;
         }
     }
@@ -174,8 +152,8 @@ bool StepOn(Search &search)
 
 bool Walk(Search &search, int start)
 {
-    search.Stack = {};
-    Enter(search, start);
+    search.Stack.StartAt(start);
+    Open(search);
     while (true) {
         if (StepOn(search)) {
             if (search.Stack.Depth % 2 == 0 && Evaluate(search)) {
@@ -196,15 +174,16 @@ void SearchRemotePairs(std::int32_t mode, Flag &found)
     if (MaxRPLinks == 0) {
         return;
     }
-    Search search{.Mode = mode, .Found = found, .Open = OpenTargets(mode)};
-    Prepare(search);
-    for (int start = 0; start < 81; ++start) {
-        // The mark tells of the start of the call; the cell may have lost candidates since then.
-        if ((WordOf(start) & ScratchMark0) == 0) {
-            continue;
-        }
+    Search search;
+    search.Mode = mode;
+    search.Found = &found;
+    const CellSet twos = MarkTwos(ScratchMark0);
+    search.Eligible = twos;
+    // A start cell may have lost candidates when its turn comes.
+    for (CellSet starts = twos; starts.Any(); starts.DropFirst()) {
+        const int start = starts.First();
         search.PairMask = WordOf(start) & CandidateMask;
-        if (search.PairMask == 0 || CellsHolding(search, search.PairMask) < 2) {
+        if (search.PairMask == 0 || !HasPartner(search, start)) {
             continue;
         }
         Survey(search, start);

@@ -16,17 +16,17 @@ using Partners = std::array<std::int8_t, 3>;
 
 struct Search {
     std::int32_t Mode;
-    Flag &Found;
-    CellSet Open{}; // cells at which the mode still has to act
-    CellSet Givens{};
-    std::array<CellSet, 10> Holders{}; // cells with a number as candidate
-    int Number = 0;
-    std::array<Partners, 81> Links{}; // strong links of the number
-    CellSet Linked{};                 // cells with a link
-    CellSet Targets{};                // all that a chain from the start cell may hit
-    Chain Stack{};
-    std::array<std::uint8_t, 82> NextHouse{}; // by depth: which house is tried next, 0..3
-    bool NowhereDone = false;                 // the walk from depth 0 comes once in a call
+    Flag *Found;
+    CellSet Givens;
+    std::array<CellSet, 10> Holders; // cells with a number as candidate
+    int Number;
+    CellSet OpenHolders;            // those of the number at which the mode still has to act
+    std::array<Partners, 81> Links; // strong links of the number
+    CellSet Linked;                 // cells with a link
+    CellSet Targets;                // all that a chain from the start cell may hit
+    Chain Stack;
+    std::array<std::uint8_t, 82> NextHouse; // by depth: which house is tried next, 0..3
+    bool DepthZeroDone;                     // the walk from there comes once in a call
 };
 
 CellSet &HoldersOf(Search &search)
@@ -36,6 +36,8 @@ CellSet &HoldersOf(Search &search)
 
 void FindPlaces(Search &search)
 {
+    search.Givens = NoCells;
+    search.Holders.fill(NoCells);
     for (int k = 0; k < 81; ++k) {
         const CellWord word = WordOf(k);
         if ((word & GivenBit) != 0) {
@@ -52,7 +54,7 @@ void FindLinks(Search &search)
 {
     const CellSet holders = HoldersOf(search);
     search.Links.fill({NoCell, NoCell, NoCell});
-    search.Linked = {};
+    search.Linked = NoCells;
     for (std::size_t house = 0; house < HouseSets.size(); ++house) {
         CellSet rest = holders & HouseSets[house];
         const CellSet places = rest;
@@ -82,20 +84,17 @@ const Partners &PartnersOf(const Search &search, int cell)
 void Survey(Search &search, int start)
 {
     const Reach reach = ReachFrom(start, [&](int cell) {
-        CellSet next;
+        CellSet next = NoCells;
         for (const int partner : PartnersOf(search, cell)) {
             next = partner == NoCell ? next : next | CellSet::Of(partner);
         }
         return next;
     });
-    search.Targets = {};
+    CellSet hit = (reach.Odd & PeersOf(start)).Any() ? reach.Odd : NoCells;
     for (CellSet ends = reach.Even; ends.Any(); ends.DropFirst()) {
-        search.Targets = search.Targets | SeenByEnds(start, ends.First());
+        hit = hit | SeenByEnds(start, ends.First());
     }
-    if ((reach.Odd & PeersOf(start)).Any()) {
-        search.Targets = search.Targets | reach.Odd;
-    }
-    search.Targets = search.Targets & HoldersOf(search) & search.Open;
+    search.Targets = hit & search.OpenHolders;
 }
 
 // Takes the number out of a cell. Links may appear by that and are found anew.
@@ -103,6 +102,7 @@ void TakeNumber(Search &search, int target)
 {
     WordOf(target) &= ~BitTable[static_cast<std::size_t>(search.Number)];
     HoldersOf(search).Remove(target);
+    search.OpenHolders.Remove(target);
 }
 
 // Brings what was found out before up to date after the search acted on a cell.
@@ -149,13 +149,13 @@ using Explanation = void (*)(const Search &search, Cell target);
 bool ActOn(Search &search, int target, std::string_view teaser, Explanation explain)
 {
     const bool over = ActOnTarget(
-        search.Mode, search.Found, CellOf(target), [&](CellWord &) { TakeNumber(search, target); },
+        search.Mode, *search.Found, CellOf(target), [&](CellWord &) { TakeNumber(search, target); },
         [=] { HintText = teaser; }, [&] { AddNumberLine(InvolvesNumber, search.Number); },
         [&] { explain(search, CellOf(target)); });
     if (over) {
         MarkChain(search.Stack, ScratchMark0);
     } else if (search.Mode == ModeAlert) {
-        search.Open.Remove(target);
+        search.OpenHolders.Remove(target);
     }
     return over;
 }
@@ -165,15 +165,14 @@ bool ActOnCellsSeen(Search &search)
 {
     const int start = search.Stack.Start();
     const int end = search.Stack.Top();
-    CellSet targets =
-        (SeenByEnds(start, end) & HoldersOf(search) & search.Open).Without(search.Stack.On);
+    CellSet targets = SeenByEnds(start, end) & search.OpenHolders.Without(search.Stack.On);
     if (!targets.Any()) {
         return false;
     }
+    bool acted = false;
     // The corner in the end's column is passed over, its counterpart is taken; intended.
-    const CellList cells = CellsSeenByEnds(CellOf(start), CellOf(end), Corner::PassedOver);
-    for (std::size_t k = 0; k < cells.Count; ++k) {
-        const int target = CellIndex(cells.Items[k]);
+    for (const Cell cell : CellsSeenByEnds(CellOf(start), CellOf(end), Corner::PassedOver)) {
+        const int target = CellIndex(cell);
         if (!targets.Has(target)) {
             continue;
         }
@@ -181,8 +180,11 @@ bool ActOnCellsSeen(Search &search)
             return true;
         }
         targets.Remove(target);
+        acted = true;
     }
-    Settle(search, start);
+    if (acted) {
+        Settle(search, start);
+    }
     return false;
 }
 
@@ -195,8 +197,8 @@ bool ActOnCellsSeen(Search &search)
 // It is kept all the same, for games are rated by it. It happens the first time in a call only.
 void EndWalkAtDepthZero(Search &search)
 {
-    if (!search.NowhereDone) {
-        search.NowhereDone = true;
+    if (!search.DepthZeroDone) {
+        search.DepthZeroDone = true;
         constexpr CellSet corner =
             HouseSets[18] & (HouseSets[0] | HouseSets[1]) & (HouseSets[9] | HouseSets[10]);
         const CellSet places = HoldersOf(search) & corner;
@@ -234,10 +236,9 @@ bool ActOnOddCells(Search &search)
 
 // ---- Walk ----------------------------------------------------------------------------------
 
-void Enter(Search &search, int cell)
+std::uint8_t &NextHouse(Search &search)
 {
-    search.Stack.Push(cell);
-    search.NextHouse[static_cast<std::size_t>(search.Stack.Depth)] = 0;
+    return search.NextHouse[static_cast<std::size_t>(search.Stack.Depth)];
 }
 
 // Enters the other end of the next strong link of the top cell, if there is one and anything is
@@ -248,12 +249,13 @@ bool StepOn(Search &search)
         return false;
     }
     const int top = search.Stack.Top();
-    std::uint8_t &house = search.NextHouse[static_cast<std::size_t>(search.Stack.Depth)];
+    std::uint8_t &house = NextHouse(search);
     while (house < 3) {
         const int partner = PartnersOf(search, top)[house];
         ++house;
         if (partner != NoCell && !search.Stack.On.Has(partner)) {
-            Enter(search, partner);
+            search.Stack.Push(partner);
+            NextHouse(search) = 0;
             return true;
         }
     }
@@ -262,8 +264,8 @@ bool StepOn(Search &search)
 
 bool Walk(Search &search, int start)
 {
-    search.Stack = {};
-    Enter(search, start);
+    search.Stack.StartAt(start);
+    NextHouse(search) = 0;
     while (search.Stack.Depth > 0) {
         if (StepOn(search)) {
             const bool even = search.Stack.Depth % 2 == 0;
@@ -281,6 +283,11 @@ bool Walk(Search &search, int start)
 bool WalkNumber(Search &search)
 {
     FindLinks(search);
+    if (!search.Linked.Any()) {
+        return false;
+    }
+    search.OpenHolders =
+        OpenTargets(search.Mode, BitTable[static_cast<std::size_t>(search.Number)]);
     for (CellSet starts = search.Linked; starts.Any();) {
         const int start = starts.First();
         Survey(search, start);
@@ -300,7 +307,10 @@ void SearchSinglesChains(std::int32_t mode, Flag &found)
         return;
     }
     ClearCellBits(ScratchMark0);
-    Search search{.Mode = mode, .Found = found, .Open = OpenTargets(mode)};
+    Search search;
+    search.Mode = mode;
+    search.Found = &found;
+    search.DepthZeroDone = false;
     FindPlaces(search);
     for (search.Number = 1; search.Number <= 9; ++search.Number) {
         if (WalkNumber(search)) {

@@ -22,16 +22,16 @@ struct Search {
     std::int32_t Mode;
     std::int32_t MinCells;
     std::int32_t MaxCells;
-    Flag &Found;
-    CellSet Open{};                           // cells at which the mode still has to act
-    std::array<CellSet, 10> Holders{};        // cells with a number as candidate
-    std::array<CellSet, 10> Links{};          // those of them that have two candidates
-    std::array<std::uint8_t, 81> NumberSum{}; // sum of the two numbers of a link
-    int StartNumber = 0;
-    Prospects Ahead{};
-    Chain Stack{};
-    std::array<CellSet, 82> Peers{};      // by depth: peers still to be visited
-    std::array<std::uint8_t, 82> Carry{}; // by depth: number carried out of the cell
+    Flag *Found;
+    std::array<CellSet, 10> Links;          // cells with two candidates, by number
+    std::array<std::uint8_t, 81> NumberSum; // of such a cell
+    CellWord TargetsKnown;                  // numbers whose Targets have been found
+    std::array<CellSet, 10> Targets;        // by number: where the mode still has to act
+    int StartNumber;
+    Prospects Ahead;
+    Chain Stack;
+    std::array<CellSet, 82> Peers;      // by depth: peers still to be visited
+    std::array<std::uint8_t, 82> Carry; // by depth: number carried out of the cell
 };
 
 // The number carried out of a link that another number is carried into.
@@ -45,46 +45,43 @@ CellSet LinksWith(const Search &search, int number)
     return search.Links[static_cast<std::size_t>(number)];
 }
 
-// Marks the links and counts them.
-int MarkLinks()
+void FindLinks(Search &search, CellSet twos)
 {
-    int count = 0;
-    for (const Cell cell : Cells) {
-        CellWord &word = WordAt(cell);
-        word &= ~ScratchMarks;
-        if (CandidatesIn(word) == 2) {
-            word |= ScratchMark1;
-            ++count;
-        }
+    search.Links.fill(NoCells);
+    for (CellSet rest = twos; rest.Any(); rest.DropFirst()) {
+        const int cell = rest.First();
+        const CellWord pair = WordOf(cell) & CandidateMask;
+        const int low = std::countr_zero(pair);
+        const int high = std::countr_zero(pair & (pair - 1));
+        search.Links[static_cast<std::size_t>(low)].Add(cell);
+        search.Links[static_cast<std::size_t>(high)].Add(cell);
+        search.NumberSum[static_cast<std::size_t>(cell)] = static_cast<std::uint8_t>(low + high);
     }
-    return count;
 }
 
-void FindPlaces(Search &search)
+// The open targets of the start number; found when they are first asked for.
+CellSet &TargetsOf(Search &search)
 {
-    for (int k = 0; k < 81; ++k) {
-        const CellWord word = WordOf(k);
-        int sum = 0;
-        for (CellWord rest = word & CandidateMask; rest != 0; rest &= rest - 1) {
-            const int number = std::countr_zero(rest);
-            search.Holders[static_cast<std::size_t>(number)].Add(k);
-            if ((word & ScratchMark1) != 0) {
-                search.Links[static_cast<std::size_t>(number)].Add(k);
-                sum += number;
-            }
+    const auto number = static_cast<std::size_t>(search.StartNumber);
+    if ((search.TargetsKnown & BitTable[number]) == 0) {
+        search.TargetsKnown |= BitTable[number];
+        search.Targets[number] = OpenTargets(search.Mode, BitTable[number]);
+    }
+    return search.Targets[number];
+}
+
+// Notes that a target is done with. An alert covers it for every number.
+void CloseTarget(Search &search, int target)
+{
+    TargetsOf(search).Remove(target);
+    if (search.Mode == ModeAlert) {
+        for (CellSet &targets : search.Targets) {
+            targets.Remove(target);
         }
-        search.NumberSum[static_cast<std::size_t>(k)] = static_cast<std::uint8_t>(sum);
     }
 }
 
 // ---- Prospects -----------------------------------------------------------------------------
-
-// Targets that a chain on the start number has with its start and some end.
-CellSet TargetsAt(const Search &search, int start, int end)
-{
-    return SeenByEnds(start, end) & search.Open &
-           search.Holders[static_cast<std::size_t>(search.StartNumber)];
-}
 
 // Works out Ahead from the ends backwards.
 void LookAhead(Search &search, int start)
@@ -95,7 +92,8 @@ void LookAhead(Search &search, int start)
     };
     std::array<Place, 162> queue; // each link at most once for each of its numbers
     std::size_t tail = 0;
-    search.Ahead.Any = {};
+    search.Ahead.Any.fill(NoCells);
+    const CellSet targets = TargetsOf(search);
     const auto enter = [&](int cell, int carried, int cells) {
         const auto number = static_cast<std::size_t>(carried);
         search.Ahead.Any[number].Add(cell);
@@ -105,7 +103,7 @@ void LookAhead(Search &search, int start)
         ++tail;
     };
     for (CellSet ends = LinksWith(search, search.StartNumber); ends.Any(); ends.DropFirst()) {
-        if (TargetsAt(search, start, ends.First()).Any()) {
+        if ((SeenByEnds(start, ends.First()) & targets).Any()) {
             enter(ends.First(), search.StartNumber, 0);
         }
     }
@@ -146,10 +144,7 @@ void Explain(const Search &search, Cell target)
 // as little as a cell that comes down to two candidates becomes one.
 void TakeNumber(Search &search, int target)
 {
-    CellWord &word = WordOf(target);
-    const auto number = static_cast<std::size_t>(search.StartNumber);
-    word &= ~(BitTable[number] | ScratchMark1);
-    search.Holders[number].Remove(target);
+    WordOf(target) &= ~(BitTable[static_cast<std::size_t>(search.StartNumber)] | ScratchMark1);
     for (CellSet &links : search.Links) {
         links.Remove(target);
     }
@@ -158,7 +153,7 @@ void TakeNumber(Search &search, int target)
 bool ActOn(Search &search, Cell target)
 {
     return ActOnTarget(
-        search.Mode, search.Found, target,
+        search.Mode, *search.Found, target,
         [&](CellWord &) { TakeNumber(search, CellIndex(target)); },
         [] { HintText = "There's a conflict with an XY-chain."; },
         [&] { AddNumberLine(InvolvesNumber, search.StartNumber); },
@@ -170,13 +165,11 @@ bool Evaluate(Search &search)
 {
     const int start = search.Stack.Start();
     const int end = search.Stack.Top();
-    CellSet targets = TargetsAt(search, start, end).Without(search.Stack.On);
+    CellSet targets = SeenByEnds(start, end) & TargetsOf(search).Without(search.Stack.On);
     if (!targets.Any()) {
         return false;
     }
-    const CellList cells = CellsSeenByEnds(CellOf(start), CellOf(end), Corner::Taken);
-    for (std::size_t k = 0; k < cells.Count; ++k) {
-        const Cell target = cells.Items[k];
+    for (const Cell target : CellsSeenByEnds(CellOf(start), CellOf(end), Corner::Taken)) {
         if (!targets.Has(CellIndex(target))) {
             continue;
         }
@@ -185,20 +178,19 @@ bool Evaluate(Search &search)
             return true;
         }
         targets.Remove(CellIndex(target));
-        if (search.Mode == ModeAlert) {
-            search.Open.Remove(CellIndex(target));
-        }
+        CloseTarget(search, CellIndex(target));
     }
     LookAhead(search, start);
     return false;
 }
 
-void Enter(Search &search, int cell, int carried)
+// Notes the number carried out of the top cell and which peers may follow it.
+void Open(Search &search, int carried)
 {
-    search.Stack.Push(cell);
     const auto depth = static_cast<std::size_t>(search.Stack.Depth);
     search.Carry[depth] = static_cast<std::uint8_t>(carried);
-    search.Peers[depth] = (PeersOf(cell) & LinksWith(search, carried)).Without(search.Stack.On);
+    search.Peers[depth] =
+        (PeersOf(search.Stack.Top()) & LinksWith(search, carried)).Without(search.Stack.On);
 }
 
 // Enters the next peer of the top cell from which the chain can get somewhere, if there is one.
@@ -213,7 +205,8 @@ bool StepOn(Search &search)
         peers.Remove(next);
         const int carriedOn = CarriedOn(search, next, carried);
         if (HasProspects(search, next, carriedOn, search.Stack.Depth + 1)) {
-            Enter(search, next, carriedOn);
+            search.Stack.Push(next);
+            Open(search, carriedOn);
             return true;
         }
     }
@@ -222,8 +215,8 @@ bool StepOn(Search &search)
 
 bool Walk(Search &search, int start, int carried)
 {
-    search.Stack = {};
-    Enter(search, start, carried);
+    search.Stack.StartAt(start);
+    Open(search, carried);
     while (true) {
         if (StepOn(search)) {
             const int depth = search.Stack.Depth;
@@ -264,16 +257,20 @@ void SearchXYChains(std::int32_t mode, std::int32_t minCells, std::int32_t maxCe
     if (maxCells < 2) {
         return;
     }
-    if (MarkLinks() < std::max(minCells, 2)) {
+    const CellSet twos = MarkTwos(ScratchMark1);
+    if (twos.Count() < std::max(minCells, 2)) {
         return; // too few links for a chain of that length
     }
-    Search search{.Mode = mode,
-                  .MinCells = minCells,
-                  .MaxCells = maxCells,
-                  .Found = found,
-                  .Open = OpenTargets(mode)};
-    FindPlaces(search);
-    for (int start = 0; start < 81; ++start) {
+    Search search;
+    search.Mode = mode;
+    search.MinCells = minCells;
+    search.MaxCells = maxCells;
+    search.Found = &found;
+    search.TargetsKnown = 0;
+    FindLinks(search, twos);
+    for (CellSet starts = twos; starts.Any(); starts.DropFirst()) {
+        const int start = starts.First();
+        // A removal takes the mark.
         if ((WordOf(start) & ScratchMark1) != 0 && WalkFrom(search, start)) {
             return;
         }

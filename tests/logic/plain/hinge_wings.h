@@ -4,6 +4,7 @@
 
 #include "grid/grid.h"
 #include "grid/names.h"
+#include "logic/plain/candidates.h"
 
 #include <string>
 
@@ -20,7 +21,7 @@ public:
     {
         for (int column = 1; column <= 9; ++column) {
             for (int row = 1; row <= 9; ++row) {
-                if ((At(column, row) & GivenBit) != 0 || CountCandidates(column, row) != Size) {
+                if ((At(column, row) & GivenBit) != 0 || CandidateCount(column, row) != Size) {
                     continue;
                 }
                 HingeColumn = column;

@@ -4,6 +4,7 @@
 
 #include "grid/grid.h"
 #include "grid/names.h"
+#include "logic/plain/candidates.h"
 
 #include <string>
 
@@ -24,7 +25,7 @@ public:
         for (int column = 1; column <= 9; ++column) {
             for (int row = 1; row <= 9; ++row) {
                 At(column, row) &= ~ScratchMarks;
-                if (CountCandidates(column, row) == 2) {
+                if (CandidateCount(column, row) == 2) {
                     At(column, row) |= ScratchMark1;
                 }
             }
