@@ -43,7 +43,7 @@ void StartGame(std::int32_t mode)
     ChainColumns[0] = 0;
     ClearPointerState();
     NumberFilter = CandidateMask;
-    if (mode != GameFromFile) {
+    if (mode < GameFromFile) {
         HistoryCount = 0;
         HistoryPosition = 0;
         PushUndoState();
@@ -58,7 +58,7 @@ void StartGame(std::int32_t mode)
     CountGivens();
     RateGame();
     ScanAlerts(ModeAlert);
-    if (mode != GameFromFile) {
+    if (mode < GameFromFile) {
         ResetSolveTime();
     }
     UpdateCaptions();
@@ -75,7 +75,8 @@ void QuerySaveGame()
     }
     RunPendingEvents();
     LastAnswer = AnsweredCancel;
-    if (AskYesNoCancel("Would you like to save this game first?") != Answer::Cancel) {
+    // A game without a file is not saved, so a Yes stops the caller as well: nothing is lost.
+    if (AskYesNoCancel("Would you like to save this game first?") == Answer::No) {
         LastAnswer = AnsweredNothing;
     }
 }
