@@ -24,10 +24,18 @@ namespace {
 constexpr int FirstStageInterval = 40; // milliseconds
 constexpr int OtherStageInterval = 100;
 constexpr int StageSeconds = 2;
+constexpr int SecondsOfDay = 24 * 60 * 60;
 constexpr std::int32_t LastStage = 6;
 
+int interval;     // of the timer; a stopped display keeps it for the next start
 int stageStart;   // whole seconds since midnight, 0 when not yet taken
 int stageCounter; // of the stages that change in turns
+
+// Seconds from one time of day to a later one, with midnight between them or not.
+int SecondsBetween(int start, int now)
+{
+    return now >= start ? now - start : now - start + SecondsOfDay;
+}
 
 Colour RandomColour()
 {
@@ -99,6 +107,7 @@ void SetWinDisplayDefaults()
     WinColours.fill(0);
     WinColoursSet = False;
     WinDisplayRunning = False;
+    interval = FirstStageInterval;
     stageStart = 0;
     stageCounter = 0;
 }
@@ -107,7 +116,7 @@ void StartWinDisplay()
 {
     WinStage = LastStage + 1;
     WinDisplayRunning = True;
-    SetWinTimer(true, FirstStageInterval);
+    SetWinTimer(true, interval);
 }
 
 void StopWinDisplay()
@@ -127,7 +136,7 @@ void WinDisplayTick()
     if (stageStart == 0) {
         stageStart = now;
     }
-    if (now - stageStart > StageSeconds) {
+    if (SecondsBetween(stageStart, now) > StageSeconds) {
         ++WinStage;
         stageStart = 0;
         stageCounter = 0;
@@ -135,7 +144,8 @@ void WinDisplayTick()
     if (WinStage > LastStage) {
         WinStage = 0;
     }
-    SetWinTimer(true, WinStage == 0 ? FirstStageInterval : OtherStageInterval);
+    interval = WinStage == 0 ? FirstStageInterval : OtherStageInterval;
+    SetWinTimer(true, interval);
     ChainColumns[0] = 0;
     DrawBoard();
     ChangeColours();
