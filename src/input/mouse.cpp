@@ -3,9 +3,8 @@
 #include "board/board.h"
 #include "board/geometry.h"
 #include "game/lifecycle.h"
-#include "game/win_display.h"
 #include "grid/grid.h"
-#include "logic/driver.h"
+#include "input/keys.h"
 
 #include <algorithm>
 
@@ -50,6 +49,18 @@ void PressCell(Cell cell, std::int32_t shift)
     DrawBoard();
 }
 
+// The cells between anchor and cursor, both included.
+void SelectRectangle(std::int32_t shift)
+{
+    const auto [left, right] = std::minmax(AnchorColumn, CursorColumn);
+    const auto [top, bottom] = std::minmax(AnchorRow, CursorRow);
+    for (std::int32_t column = left; column <= right; ++column) {
+        for (std::int32_t row = top; row <= bottom; ++row) {
+            SelectCell(MakeCell(column, row), shift);
+        }
+    }
+}
+
 // One line on or back, from 9 round to 1 and the other way.
 std::int32_t StepLine(std::int32_t line, int step)
 {
@@ -70,13 +81,9 @@ void SetMouseDefaults()
 
 void BoardPressed(std::int32_t button, std::int32_t shift, int x, int y)
 {
-    if (SearchActive != False) {
-        if (SearchKind == SearchingGame) {
-            QueryStopSearch();
-        }
+    if (!ReadyForCommand()) {
         return;
     }
-    StopWinDisplay();
     ClickX = x;
     ClickY = y;
     ClearPointerState();
@@ -105,15 +112,9 @@ void BoardMoved(std::int32_t button, std::int32_t shift, int x, int y)
             SetAnchor(*cell);
         }
     }
-    if (AnchorColumn == 0) {
-        return;
-    }
-    const auto [left, right] = std::minmax(AnchorColumn, CursorColumn);
-    const auto [top, bottom] = std::minmax(AnchorRow, CursorRow);
-    for (std::int32_t column = left; column <= right; ++column) {
-        for (std::int32_t row = top; row <= bottom; ++row) {
-            SelectCell(MakeCell(column, row), shift);
-        }
+    // Before any cell was hit there is no rectangle; the board is painted all the same.
+    if (AnchorColumn != 0) {
+        SelectRectangle(shift);
     }
     DrawBoard();
 }
