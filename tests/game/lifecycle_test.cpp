@@ -1,0 +1,441 @@
+#include "game/clock.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "game/win_display.h"
+#include "generator/game_number.h"
+#include "grid/grid.h"
+#include "logic/event_sound.h"
+#include "support/play.h"
+#include "support/positions.h"
+#include "support/presentation_double.h"
+
+#include <gtest/gtest.h>
+
+namespace kelvarine::testing {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class Lifecycle : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        Restart();
+    }
+};
+
+// Leftovers of an earlier game in everything that a start may touch.
+void LeaveTraces()
+{
+    ChainColumns[0] = 5;
+    AnchorColumn = 1;
+    AnchorRow = 2;
+    CursorColumn = 3;
+    CursorRow = 4;
+    NumberFilter = BitTable[3];
+    HistoryCount = 40;
+    HistoryPosition = 7;
+    SnapshotAvailable = True;
+    GameFilePath = "games/old.sdk";
+    StatsCounted = True;
+    SolveSeconds = 99;
+    PauseCaption = "Resume";
+    TimeCaption = "1:39 ";
+    GivenCount = 0;
+    GameRating = 0;
+    GameModified = False;
+    Seen.WindowTitle = "old";
+    History[StartSlot][5][5] = BitTable[8];
+}
+
+void ExpectFreshSession()
+{
+    EXPECT_EQ(ChainColumns[0], 0);
+    EXPECT_EQ(AnchorColumn, 0);
+    EXPECT_EQ(AnchorRow, 0);
+    EXPECT_EQ(CursorColumn, 0);
+    EXPECT_EQ(CursorRow, 0);
+    EXPECT_EQ(NumberFilter, 0x3FEU);
+    EXPECT_EQ(GivenCount, 30);
+    EXPECT_EQ(GameRating, 1);
+    EXPECT_EQ(Grid[3][1] & SolutionMask, BitTable[4] << SolutionShift);
+}
+
+// ---- StartGame -----------------------------------------------------------------------------
+
+TEST_F(Lifecycle, NewGameResetsEverything)
+{
+    LeaveTraces();
+    SetGame(EasyGame);
+    const GridTable before = Grid;
+    StartGame(0);
+    ExpectFreshSession();
+    EXPECT_EQ(HistoryCount, 1);
+    EXPECT_EQ(HistoryPosition, 1);
+    EXPECT_EQ(SnapshotAvailable, False);
+    EXPECT_EQ(GameFilePath, "");
+    EXPECT_EQ(Seen.WindowTitle, "Kelvarine");
+    EXPECT_EQ(StatsCounted, False);
+    EXPECT_EQ(SolveSeconds, 0);
+    EXPECT_EQ(ClockRunning, True);
+    EXPECT_TRUE(Seen.ClockTimerOn);
+    EXPECT_EQ(PauseCaption, "Pause");
+    EXPECT_EQ(TimeCaption, "1:39 ") << "the new time shows at the next tick";
+    EXPECT_EQ(Acts(), Texts{"stop sound: "}) << "the caller paints";
+    // Both are taken before the rating writes the solution.
+    EXPECT_TRUE(SameCells(History[StartSlot], before));
+    EXPECT_TRUE(SameCells(Level(1), before));
+}
+
+TEST_F(Lifecycle, SameGameKeepsNameStartPositionAndStatisticsFlag)
+{
+    LeaveTraces();
+    const GridTable start = History[StartSlot];
+    SetGame(EasyGame);
+    StartGame(1);
+    ExpectFreshSession();
+    EXPECT_EQ(HistoryCount, 1);
+    EXPECT_EQ(HistoryPosition, 1);
+    EXPECT_EQ(SnapshotAvailable, False);
+    EXPECT_EQ(SolveSeconds, 0);
+    EXPECT_EQ(ClockRunning, True);
+    EXPECT_EQ(PauseCaption, "Pause");
+    EXPECT_EQ(GameModified, True);
+    EXPECT_EQ(GameFilePath, "games/old.sdk");
+    EXPECT_EQ(Seen.WindowTitle, "old");
+    EXPECT_EQ(StatsCounted, True);
+    EXPECT_TRUE(SameCells(History[StartSlot], start));
+}
+
+TEST_F(Lifecycle, GameFromFileTouchesNoHistoryTimeOrName)
+{
+    LeaveTraces();
+    const auto history = History;
+    SetGame(EasyGame);
+    StartGame(2);
+    ExpectFreshSession();
+    EXPECT_EQ(HistoryCount, 40);
+    EXPECT_EQ(HistoryPosition, 7);
+    for (std::size_t slot = 0; slot <= SnapshotSlot; ++slot) {
+        EXPECT_EQ(History[slot], history[slot]);
+    }
+    EXPECT_EQ(SnapshotAvailable, True);
+    EXPECT_EQ(SolveSeconds, 99);
+    EXPECT_EQ(ClockRunning, False);
+    EXPECT_FALSE(Seen.ClockTimerOn);
+    EXPECT_EQ(PauseCaption, "Resume");
+    EXPECT_EQ(GameModified, False);
+    EXPECT_EQ(GameFilePath, "games/old.sdk");
+    EXPECT_EQ(Seen.WindowTitle, "old");
+    EXPECT_EQ(StatsCounted, True);
+    EXPECT_EQ(Acts(), Texts{"stop sound: "});
+}
+
+TEST_F(Lifecycle, FreshlyStartedGameCountsAsModified)
+{
+    SetGame(EasyGame);
+    StartGame(0);
+    EXPECT_EQ(GameModified, True);
+}
+
+TEST_F(Lifecycle, EveryStartScansForAlerts)
+{
+    for (const std::int32_t mode : {0, 1, 2}) {
+        Restart();
+        AlertMask = 0x6;
+        SetGivens("55.......");
+        Grid[9][9] |= AlertBit;
+        StartGame(mode);
+        EXPECT_EQ(CellsWith(AlertBit), "A1 B1");
+        EXPECT_EQ(GameRating, 7);
+    }
+}
+
+TEST_F(Lifecycle, FullGridReadFromAFileRunsTheDisplayAndIsRecorded)
+{
+    SetGivens(EasySolution);
+    StartGame(2);
+    EXPECT_EQ(GameRating, 5);
+    EXPECT_EQ(WinDisplayRunning, True);
+    EXPECT_TRUE(Seen.WinTimerOn);
+    EXPECT_EQ(WinStage, 7);
+    EXPECT_EQ(StatsCounted, True);
+}
+
+TEST_F(Lifecycle, SolvedNewGameStopsTheClockThatItsStartSetRunning)
+{
+    TimeCaption = "0:07 ";
+    SetGivens(EasySolution);
+    StartGame(0);
+    EXPECT_EQ(ClockRunning, False);
+    EXPECT_FALSE(Seen.ClockTimerOn);
+    EXPECT_EQ(TimeCaption, "Solved at 0:07 ");
+    EXPECT_EQ(StatsCounted, True);
+}
+
+TEST_F(Lifecycle, UnsolvedStartLeavesTheDisplayOff)
+{
+    SetGame(EasyGame);
+    StartGame(0);
+    EXPECT_EQ(WinDisplayRunning, False);
+    EXPECT_EQ(StatsCounted, False);
+}
+
+// ---- QuerySaveGame -------------------------------------------------------------------------
+
+TEST_F(Lifecycle, UnmodifiedGameIsNotAskedAbout)
+{
+    LastAnswer = 2;
+    QuerySaveGame();
+    EXPECT_EQ(LastAnswer, 0);
+    EXPECT_EQ(Seen.Calls, Texts{});
+}
+
+TEST_F(Lifecycle, SaveQuestionComesAfterPendingEvents)
+{
+    GameModified = True;
+    Seen.SaveAnswers = {Answer::No};
+    LastAnswer = 2;
+    QuerySaveGame();
+    EXPECT_EQ(LastAnswer, 0);
+    EXPECT_EQ(Seen.Calls, (Texts{"pending events: ",
+                                 "save question: Would you like to save this game first?"}));
+    EXPECT_EQ(GameModified, True);
+}
+
+TEST_F(Lifecycle, CancelInTheSaveQuestionStopsTheCaller)
+{
+    GameModified = True;
+    Seen.SaveAnswers = {Answer::Cancel};
+    QuerySaveGame();
+    EXPECT_EQ(LastAnswer, 2);
+}
+
+TEST_F(Lifecycle, YesStopsTheCallerOfAGameWithoutAFile)
+{
+    GameModified = True;
+    Seen.SaveAnswers = {Answer::Yes};
+    QuerySaveGame();
+    EXPECT_EQ(LastAnswer, 2);
+    EXPECT_EQ(GameModified, True);
+}
+
+// ---- UpdateStatistics ----------------------------------------------------------------------
+
+TEST_F(Lifecycle, WinClearsMarksAndKeepsNumbersGivensAndSolutions)
+{
+    for (const Cell cell : Cells) {
+        WordAt(cell) = 0xFFFFFFFF;
+    }
+    NumberFilter = BitTable[4];
+    UpdateStatistics();
+    for (const Cell cell : Cells) {
+        EXPECT_EQ(WordAt(cell), 0x008FFBFFU);
+    }
+    EXPECT_EQ(NumberFilter, 0x3FEU);
+    EXPECT_EQ(WinStage, 7);
+    EXPECT_EQ(WinDisplayRunning, True);
+    EXPECT_TRUE(Seen.WinTimerOn);
+}
+
+TEST_F(Lifecycle, WinTunePlaysOnAtTheWinVolume)
+{
+    WinFiles = {"", "first.win", "second.win"};
+    WinSound = 2;
+    SoundVolumes = {0x1000, 0x2000, 0x3000, 0x4000};
+    UpdateStatistics();
+    EXPECT_EQ(Acts(), Texts{"sound loop: second.win"});
+    EXPECT_EQ(Seen.SoundVolume, 0x40004000U);
+}
+
+TEST_F(Lifecycle, NoTuneWithoutASelectedFile)
+{
+    WinFiles = {"", "first.win", ""};
+    for (const std::int32_t index : {0, 2, 3, -1, 2147483647}) {
+        WinSound = index;
+        UpdateStatistics();
+    }
+    EXPECT_EQ(Acts(), Texts{});
+    WinSound = 1;
+    SoundDisabled = True;
+    UpdateStatistics();
+    EXPECT_EQ(Acts(), Texts{});
+}
+
+TEST_F(Lifecycle, WinStopsTheRunningClock)
+{
+    ResetSolveTime();
+    TimeCaption = "12:34 ";
+    UpdateStatistics();
+    EXPECT_EQ(ClockRunning, False);
+    EXPECT_FALSE(Seen.ClockTimerOn);
+    EXPECT_EQ(TimeCaption, "Solved at 12:34 ");
+    EXPECT_EQ(Seen.Calls.back(), "captions: ");
+    UpdateStatistics();
+    EXPECT_EQ(TimeCaption, "Solved at 12:34 ");
+}
+
+TEST_F(Lifecycle, PausedClockKeepsItsCaptionAtAWin)
+{
+    TimeCaption = "Paused at 0:05 ";
+    UpdateStatistics();
+    EXPECT_EQ(TimeCaption, "Paused at 0:05 ");
+}
+
+TEST_F(Lifecycle, OnlyRatedGamesCount)
+{
+    for (std::int32_t rating = 0; rating <= 7; ++rating) {
+        StatsCounted = False;
+        GameRating = rating;
+        UpdateStatistics();
+        EXPECT_EQ(StatsCounted, rating >= 1 && rating <= 5 ? True : False) << rating;
+    }
+}
+
+TEST_F(Lifecycle, GameThatCountedBeforeItWasSavedStaysCounted)
+{
+    SetGivens(EasySolution);
+    StatsCounted = True;
+    StartGame(2);
+    EXPECT_EQ(StatsCounted, True);
+    EXPECT_EQ(WinDisplayRunning, True);
+}
+
+// ---- What follows a change -----------------------------------------------------------------
+
+TEST_F(Lifecycle, ChangeIsFollowedByScanWinTestBoardAndWindow)
+{
+    SetGivens(EasySolution);
+    WinFiles = {"", "tune.win"};
+    WinSound = 1;
+    FinishChange();
+    EXPECT_EQ(Acts(), (Texts{"sound loop: tune.win", "board: ", "refresh: "}));
+
+    Restart();
+    SetGivens("55.......");
+    AlertMask = 0x2;
+    AlertFiles = {"", "clash.alr"};
+    AlertSound = 1;
+    FinishChange();
+    EXPECT_EQ(Acts(), (Texts{"sound: clash.alr", "board: ", "refresh: "}));
+    EXPECT_EQ(WinDisplayRunning, False);
+}
+
+TEST_F(Lifecycle, ScanAndTestWinPaintsNothing)
+{
+    SetGivens(EasySolution);
+    ScanAndTestWin();
+    EXPECT_EQ(WinDisplayRunning, True);
+    EXPECT_EQ(Acts(), Texts{});
+}
+
+// ---- Blank grid and restart ----------------------------------------------------------------
+
+TEST_F(Lifecycle, BlankGridStartsAnEmptyGame)
+{
+    StartSavedGame(EasyGame);
+    Grid[0][0] = 7;
+    GameModified = True;
+    Seen.SaveAnswers = {Answer::No};
+    GameNumber = 12;
+    mnuGameBlankGrid();
+    EXPECT_EQ(Acts(),
+              (Texts{"pending events: ", "save question: Would you like to save this game first?",
+                     "stop sound: ", "board: ", "refresh: "}));
+    EXPECT_EQ(Grid, GridTable{});
+    EXPECT_EQ(GivenCount, 0);
+    EXPECT_EQ(GameRating, 6);
+    EXPECT_EQ(HistoryCount, 1);
+    EXPECT_TRUE(SameCells(History[StartSlot], GridTable{}));
+    EXPECT_EQ(GameModified, True);
+}
+
+TEST_F(Lifecycle, BlankGridOfASavedGameAsksNothing)
+{
+    StartSavedGame(EasyGame);
+    mnuGameBlankGrid();
+    EXPECT_EQ(Acts(), (Texts{"stop sound: ", "board: ", "refresh: "}));
+}
+
+TEST_F(Lifecycle, CancelBeforeABlankGridChangesNothingAtAll)
+{
+    for (const Answer answer : {Answer::Cancel, Answer::Yes}) {
+        StartSavedGame(EasyGame);
+        GameModified = True;
+        LastAnswer = 2;
+        const std::string before = ProgramState();
+        Seen.SaveAnswers = {answer};
+        mnuGameBlankGrid();
+        EXPECT_EQ(Acts(), (Texts{"pending events: ",
+                                 "save question: Would you like to save this game first?"}));
+        ForgetRecord();
+        EXPECT_EQ(ProgramState(), before);
+    }
+}
+
+TEST_F(Lifecycle, RestartAsksAndNoKeepsThePosition)
+{
+    StartSavedGame(EasyGame);
+    Grid[3][1] = BitTable[4];
+    PushUndoState();
+    const std::string before = ProgramState();
+    Seen.YesNoAnswers = {false};
+    mnuRestartSameGame();
+    EXPECT_EQ(Seen.Calls, (Texts{"question: Are you sure you want to abandon your position and "
+                                 "start over?"}));
+    EXPECT_EQ(Seen.Titles, Texts{"Kelvarine"});
+    ForgetRecord();
+    EXPECT_EQ(ProgramState(), before);
+}
+
+TEST_F(Lifecycle, RestartGoesBackToTheStartPosition)
+{
+    StartSavedGame(EasyGame);
+    for (CellWord n = 1; n <= 150; ++n) {
+        Grid[3][1] = BitTable[n % 9 + 1] | (n << ColourShift & CellColour);
+        PushUndoState();
+    }
+    SnapshotAvailable = True;
+    GameFilePath = "mine.sdk";
+    SolveSeconds = 42;
+    Grid[0][4] = 9;
+    Seen.YesNoAnswers = {true};
+    mnuRestartSameGame();
+    EXPECT_EQ(Acts(), (Texts{"question: Are you sure you want to abandon your position and "
+                             "start over?",
+                             "stop sound: ", "board: ", "refresh: "}));
+    EXPECT_TRUE(SameCells(Grid, History[StartSlot], ~SolutionMask));
+    EXPECT_EQ(Grid[3][1] & CandidateMask, CandidateMask);
+    EXPECT_EQ(Grid[0][4], 9U) << "only the 81 cells come back";
+    EXPECT_EQ(HistoryCount, 1);
+    EXPECT_EQ(SnapshotAvailable, False);
+    EXPECT_EQ(GameFilePath, "mine.sdk");
+    EXPECT_EQ(SolveSeconds, 0);
+}
+
+TEST_F(Lifecycle, RestartAfterABlankGridGivesTheBlankGridAgain)
+{
+    StartSavedGame(EasyGame);
+    mnuGameBlankGrid();
+    Grid[5][5] = BitTable[5];
+    PushUndoState();
+    Seen.YesNoAnswers = {true};
+    mnuRestartSameGame();
+    EXPECT_EQ(Grid, GridTable{});
+}
+
+TEST_F(Lifecycle, GameWonAndRestartedDoesNotCountWhenItIsWonAgain)
+{
+    SetGame(EasyGame);
+    StartGame(0);
+    SetGivens(EasySolution);
+    FinishChange();
+    EXPECT_EQ(StatsCounted, True);
+    Seen.YesNoAnswers = {true};
+    mnuRestartSameGame();
+    EXPECT_EQ(GameRating, 1);
+    EXPECT_EQ(StatsCounted, True);
+}
+
+} // namespace
+} // namespace kelvarine::testing
