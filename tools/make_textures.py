@@ -1,0 +1,225 @@
+#!/usr/bin/env python3
+"""Makes data/textures.png: a strip of grey tiles that the board is grained with.
+
+Thirteen tiles of 56 by 56 pixels stand one below the other. The first is white and leaves a colour
+as it is; the others look like materials. Every tile repeats without a seam, because each is built
+on a torus: noise is filtered in the frequency domain, distances wrap around, waves have a whole
+number of periods. The seed is fixed, so that the same picture comes out every time.
+
+Needs numpy and Pillow (Debian: python3-numpy, python3-pil).
+"""
+
+import pathlib
+
+import numpy as np
+from PIL import Image
+
+SIDE = 56
+Y, X = np.mgrid[0:SIDE, 0:SIDE].astype(float)
+
+
+def generator(number):
+    return np.random.default_rng(1000 + number)
+
+
+def unit(field):
+    """Stretches a field to 0..1."""
+    return (field - field.min()) / (field.max() - field.min())
+
+
+def noise(rng, size_x, size_y, roughness=2.0):
+    """Smooth noise of mean 0 and deviation 1 whose features are about so many pixels large."""
+    spectrum = np.fft.fft2(rng.standard_normal((SIDE, SIDE)))
+    fx = np.fft.fftfreq(SIDE)[None, :] * size_x
+    fy = np.fft.fftfreq(SIDE)[:, None] * size_y
+    field = np.fft.ifft2(spectrum / (1 + (fx**2 + fy**2) * 4) ** roughness).real
+    return (field - field.mean()) / field.std()
+
+
+def at(field, x, y):
+    """Value of a field at places between its pixels, around the edges."""
+    x0, y0 = np.floor(x).astype(int), np.floor(y).astype(int)
+    fx, fy = x - x0, y - y0
+
+    def pick(dx, dy):
+        return field[(y0 + dy) % SIDE, (x0 + dx) % SIDE]
+
+    upper = pick(0, 0) * (1 - fx) + pick(1, 0) * fx
+    lower = pick(0, 1) * (1 - fx) + pick(1, 1) * fx
+    return upper * (1 - fy) + lower * fy
+
+
+def light(height, strength=1.0):
+    """Brightness of a relief lit from the top left."""
+    slope_x = height - np.roll(height, 1, 1)
+    slope_y = height - np.roll(height, 1, 0)
+    return strength * (slope_x + slope_y)
+
+
+def cells(rng, across, down, jitter, warp=0.0):
+    """Distances to the two nearest of some jittered points, and the number of the nearest."""
+    width, height = SIDE / across, SIDE / down
+    points = [
+        ((i + 0.5 * (j % 2) + 0.5 + jitter * rng.uniform(-0.5, 0.5)) * width,
+         (j + 0.5 + jitter * rng.uniform(-0.5, 0.5)) * height)
+        for j in range(down) for i in range(across)
+    ]
+    x, y = X, Y
+    if warp:
+        x = X + warp * noise(rng, 9, 9)
+        y = Y + warp * noise(rng, 9, 9)
+    distances = []
+    for px, py in points:
+        dx = (x - px + SIDE / 2) % SIDE - SIDE / 2
+        dy = (y - py + SIDE / 2) % SIDE - SIDE / 2
+        distances.append(np.hypot(dx, dy))
+    distances = np.array(distances)
+    order = np.sort(distances, axis=0)
+    return order[0], order[1], distances.argmin(axis=0)
+
+
+def weave(rng, pitch, over_warp, relief, thread_tone, slub):
+    """Cloth of crossing threads; over_warp tells where the upright thread lies on top."""
+    i, j = (X // pitch).astype(int), (Y // pitch).astype(int)
+    count = SIDE // pitch
+    warp_tone = thread_tone * rng.standard_normal(count)[i]
+    weft_tone = thread_tone * rng.standard_normal(count)[j]
+    u, v = (X % pitch + 0.5) / pitch, (Y % pitch + 0.5) / pitch
+    round_u, round_v = np.sin(np.pi * u), np.sin(np.pi * v)
+    # Each thread is round across and bends down where it dives under the next.
+    warp = relief * (round_u * (0.55 + 0.45 * round_v)) + warp_tone + slub * noise(rng, 1.5, 14)
+    weft = relief * (round_v * (0.55 + 0.45 * round_u)) + weft_tone + slub * noise(rng, 14, 1.5)
+    return np.where(over_warp(i, j), warp, weft - 0.12 * relief)
+
+
+def linen():
+    rng = generator(1)
+    return 205, 14, weave(rng, 2, lambda i, j: (i + j) % 2 == 0, 6.0, 0.3, 0.24)
+
+
+def brushed_metal():
+    rng = generator(2)
+    streaks = noise(rng, 60, 1.0, 1.2) + 0.5 * noise(rng, 25, 0.6, 1.2)
+    sheen = 0.7 * np.cos(2 * np.pi * (Y / SIDE + 0.02 * np.sin(2 * np.pi * X / SIDE)))
+    return 200, 13, streaks + sheen
+
+
+def wood():
+    rng = generator(3)
+    bend = noise(rng, 14, 46, 2.0)
+    rings = X / SIDE * 5 + 0.22 * bend
+    phase = rings % 1.0
+    # A year's wood darkens slowly and breaks off sharply.
+    year = np.where(phase < 0.86, phase / 0.86, (1 - phase) / 0.14)
+    fibres = noise(rng, 0.8, 30, 1.2)
+    pores = np.minimum(0, noise(rng, 0.7, 7, 1.5) + 1.4)
+    return 178, 20, -1.3 * year**1.6 + 0.35 * fibres + 0.5 * pores
+
+
+def stone():
+    rng = generator(4)
+    near, second, which = cells(rng, 4, 4, 0.8, 1.2)
+    gap = np.clip((second - near) / 2.6, 0, 1)
+    dome = 6 * np.sqrt(gap)
+    tone = rng.uniform(-1, 1, 16)[which]
+    face = light(dome, 0.35) + 0.5 * tone + 0.22 * noise(rng, 1.5, 1.5)
+    return 172, 24, np.where(gap < 0.35, -2.4 + gap, face)
+
+
+def paper():
+    rng = generator(5)
+    fibres = np.zeros((SIDE, SIDE))
+    for _ in range(46):
+        x, y = rng.uniform(0, SIDE, 2)
+        angle = rng.uniform(0, 2 * np.pi)
+        bend = rng.uniform(-0.12, 0.12)
+        tone = rng.choice([-1.0, -0.6, 0.7])
+        for _ in range(rng.integers(9, 22)):
+            fibres[int(y) % SIDE, int(x) % SIDE] = tone
+            x, y, angle = x + np.cos(angle), y + np.sin(angle), angle + bend
+    pulp = 0.35 * noise(rng, 5, 5) + 0.3 * light(noise(rng, 2.5, 2.5))
+    return 226, 8, fibres + pulp
+
+
+def leather():
+    rng = generator(6)
+    near, second, _ = cells(rng, 9, 10, 0.85, 0.7)
+    gap = np.clip((second - near) / 3.0, 0, 1)
+    dome = np.sqrt(gap)
+    return 168, 19, 1.6 * dome + light(dome, 1.5) + 0.35 * noise(rng, 9, 9)
+
+
+def canvas():
+    rng = generator(7)
+    return 190, 22, weave(rng, 7, lambda i, j: (i + j) % 2 == 0, 2.0, 0.18, 0.3)
+
+
+def marble():
+    rng = generator(8)
+    bend_x, bend_y = 3.5 * noise(rng, 12, 12), 3.5 * noise(rng, 12, 12)
+    # Veins run slantwise across the whole tile, two wide ones and five thin ones, and wander.
+    wide = np.abs(np.sin(np.pi * (X + bend_x + 2 * (Y + bend_y)) / SIDE))
+    thin = np.abs(np.sin(np.pi * (3 * (X + bend_y) - 2 * (Y + bend_x)) / SIDE))
+    depth = 0.6 + 0.4 * np.tanh(noise(rng, 14, 14))
+    veins = depth * (2.2 * np.exp(-wide / 0.10) + 0.8 * np.exp(-thin / 0.10))
+    return 217, 15, 0.2 * noise(rng, 16, 16) - veins
+
+
+def sand():
+    rng = generator(9)
+    wave = 0.13 * noise(rng, 24, 13, 2.4)
+    phase = (Y / SIDE * 5 + X / SIDE + wave) % 1.0
+    # Ripples: a long windward slope in the light, a short one behind the crest in the shade.
+    slope = np.where(phase < 0.68, np.sin(np.pi * phase / 0.68),
+                     -np.sin(np.pi * (phase - 0.68) / 0.32))
+    return 206, 14, 1.2 * slope + 0.4 * noise(rng, 0.8, 0.8, 1.0)
+
+
+def tweed():
+    rng = generator(10)
+    # Herringbone: twill whose diagonal turns round every 14 pixels.
+    half = 14
+    side = np.where((X // half) % 2 == 0, X % half, half - 1 - X % half)
+    twill = ((Y + side) // 2) % 4 < 2
+    threads = np.where(twill, 1.0, -1.0) + 0.35 * noise(rng, 1, 1, 1.0)
+    flecks = noise(rng, 1.2, 1.2, 1.5)
+    return 164, 26, threads + np.where(flecks > 2.0, 1.2, 0) - np.where(flecks < -2.0, 1.0, 0)
+
+
+def slate():
+    rng = generator(11)
+    layers = 0.7 * noise(rng, 30, 8, 1.7) + 0.6 * noise(rng, 14, 4, 1.6)
+    steps = np.floor(layers * 2.2) / 2.2
+    broken = 0.75 * steps + 0.25 * layers
+    return 150, 16, light(broken, 1.5) + 0.55 * layers + 0.12 * noise(rng, 2, 1)
+
+
+def bark():
+    rng = generator(12)
+    ridge = np.abs(at(noise(rng, 6, 26), X + 2.2 * noise(rng, 16, 12), Y))
+    height = np.clip(ridge, 0, 1.3)
+    furrow = np.exp(-ridge / 0.16)
+    return 148, 27, 0.9 * height + light(height, 1.3) - 1.3 * furrow + 0.25 * noise(rng, 1.2, 4)
+
+
+MATERIALS = [linen, brushed_metal, wood, stone, paper, leather, canvas, marble, sand, tweed, slate,
+             bark]
+
+
+def tile(material):
+    mean, contrast, field = material()
+    field = (field - field.mean()) / field.std()
+    grey = np.clip(mean + contrast * np.clip(field, -3, 3), 0, 255)
+    return np.rint(grey).astype(np.uint8)
+
+
+def main():
+    white = np.full((SIDE, SIDE), 255, np.uint8)
+    strip = np.vstack([white] + [tile(material) for material in MATERIALS])
+    target = pathlib.Path(__file__).resolve().parent.parent / "data" / "textures.png"
+    target.parent.mkdir(exist_ok=True)
+    Image.fromarray(strip, "L").save(target, optimize=True)
+
+
+if __name__ == "__main__":
+    main()
