@@ -54,15 +54,18 @@ void LayoutBoard(int clientWidth, int clientHeight, int toolbarHeight)
 {
     const int lines = 4 * PrimaryThickness + 6 * SecondaryThickness;
     const int edges = 2 * (MarginThickness + BorderThickness);
-    CellHeight = std::max(1, (clientHeight - lines - edges - toolbarHeight) / 9);
-    CellWidth = std::max(1, (clientWidth - lines - edges) / 9);
+    const int roomDown = (clientHeight - lines - edges - toolbarHeight) / 9;
+    const int roomAcross = (clientWidth - lines - edges) / 9;
+    CellHeight = std::max(1, roomDown);
+    CellWidth = std::max(1, roomAcross);
 
     BoardPlace.Width = 9 * CellWidth + lines + 2 * BorderThickness;
     BoardPlace.Height = 9 * CellHeight + lines + 2 * BorderThickness;
     BoardPlace.X = (clientWidth - BoardPlace.Width) / 2;
     BoardPlace.Y = (clientHeight - BoardPlace.Height + toolbarHeight) / 2;
 
-    const int side = std::min(CellWidth, CellHeight);
+    // Cells that had no room at all, though they are one pixel, get the smallest of fonts.
+    const int side = std::min(roomAcross, roomDown);
     GivenFontSize = FontSize(side, 1.5);
     PairFontSize = FontSize(side, 3);
     QuadFontSize = FontSize(side, 4);

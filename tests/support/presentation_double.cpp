@@ -1,6 +1,5 @@
 #include "support/presentation_double.h"
 
-#include "board/board.h"
 #include "configure/defaults.h"
 
 namespace kelvarine {
@@ -159,12 +158,6 @@ void DrawSearchBanner(std::int32_t gamesScreened)
 void ResizeWindow()
 {
     Record("resize", "");
-}
-
-void DrawBoard()
-{
-    Record("board", "");
-    ++Seen.BoardPaints;
 }
 
 } // namespace kelvarine

@@ -21,7 +21,7 @@ struct PresentationRecord {
     std::deque<std::string> TextAnswers;
     std::string Clipboard;
     std::string WindowTitle;
-    int BoardPaints = 0; // calls of DrawBoard
+    int BoardPaints = 0; // calls of DrawBoard where that is a double, too
     int WindowRefreshes = 0;
     int Yields = 0;
     int WaitCursorDepth = 0;

@@ -1,0 +1,92 @@
+#include "board/board_painter.h"
+
+#include "board/board.h"
+#include "board/cell_painter.h"
+#include "board/grid_painter.h"
+#include "board/number_painter.h"
+#include "game/clock.h"
+#include "grid/grid.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kelvarine {
+
+namespace {
+
+QImage picBoardBuild; // keeps its pixels between paintings
+QImage picBoard;      // shares the pixels of picBoardBuild until a banner is drawn on it
+
+void Resize(QImage &picture, QSize size, double ratio)
+{
+    if (picture.isNull()) {
+        picture = QImage(size, QImage::Format_RGB32);
+        picture.fill(Qt::black);
+    } else if (picture.size() != size) {
+        picture = picture.copy(QRect(QPoint(0, 0), size));
+    }
+    if (picture.devicePixelRatio() != ratio) {
+        picture.setDevicePixelRatio(ratio);
+    }
+}
+
+} // namespace
+
+void SetBoardPictureSize(int width, int height, double ratio)
+{
+    const QSize size(std::max(1, static_cast<int>(std::lround(width * ratio))),
+                     std::max(1, static_cast<int>(std::lround(height * ratio))));
+    Resize(picBoardBuild, size, ratio);
+    Resize(picBoard, size, ratio);
+}
+
+const QImage &BoardPicture()
+{
+    return picBoard;
+}
+
+QImage &VisibleBoardPicture()
+{
+    return picBoard;
+}
+
+void PaintBoard(QImage &picture)
+{
+    const Canvas canvas = CanvasOf(picture);
+    if (canvas.Pixels == nullptr) {
+        return;
+    }
+    // 1. Lines, and what grains and frames them.
+    DrawPrimaryGrid(canvas);
+    CloseGrid(canvas);
+    DrawSecondaryGrid(canvas);
+    TextureBackground(canvas);
+    DrawExteriorBorder(canvas);
+
+    // 2. Cells.
+    for (const Cell cell : Cells) {
+        DrawCell(canvas, cell);
+    }
+
+    // 3. Numbers, hidden while the game is paused.
+    if (IsPaused()) {
+        return;
+    }
+    for (const Cell cell : Cells) {
+        DrawNumbers(canvas, cell);
+    }
+}
+
+void DrawBoard()
+{
+    if (SearchActive != False) {
+        return;
+    }
+    // With the visible picture out of the way nothing is copied when the other one is painted on.
+    picBoard = QImage();
+    PaintBoard(picBoardBuild);
+    picBoard = picBoardBuild;
+    ShowBoardPicture();
+}
+
+} // namespace kelvarine
