@@ -145,16 +145,6 @@ void RefreshWindow()
     ++Seen.WindowRefreshes;
 }
 
-void DrawBanner(std::string_view text)
-{
-    Record("banner", text);
-}
-
-void DrawSearchBanner(std::int32_t gamesScreened)
-{
-    Record("search banner", std::to_string(gamesScreened));
-}
-
 void ResizeWindow()
 {
     Record("resize", "");

@@ -1,0 +1,52 @@
+#include "ui/board_widget.h"
+
+#include "board/board_painter.h"
+#include "input/keys.h"
+#include "input/mouse.h"
+#include "ui/key_decoder.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace kelvarine {
+
+BoardWidget::BoardWidget(QWidget *parent) : QWidget(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    // The picture covers all of it, so there is nothing to erase.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(tr("Sudoku board"));
+}
+
+void BoardWidget::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.drawImage(0, 0, BoardPicture());
+}
+
+void BoardWidget::mousePressEvent(QMouseEvent *event)
+{
+    const std::int32_t button = event->button() == Qt::RightButton ? RightButton : LeftButton;
+    const QPoint place = event->position().toPoint();
+    BoardPressed(button, ModifiersOf(event->modifiers()), place.x(), place.y());
+}
+
+void BoardWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    const std::int32_t button = event->buttons().testFlag(Qt::LeftButton) ? LeftButton : NoButton;
+    const QPoint place = event->position().toPoint();
+    BoardMoved(button, ModifiersOf(event->modifiers()), place.x(), place.y());
+}
+
+void BoardWidget::keyPressEvent(QKeyEvent *event)
+{
+    const std::int32_t code = KeyCodeOf(*event);
+    if (code == 0) {
+        event->ignore();
+        return;
+    }
+    KeyDown(code, ModifiersOf(event->modifiers()));
+}
+
+} // namespace kelvarine

@@ -1,0 +1,21 @@
+// picBoard: the visible board. It shows the finished picture and hands mouse and keys on.
+#pragma once
+
+#include <QWidget>
+
+namespace kelvarine {
+
+class BoardWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit BoardWidget(QWidget *parent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+};
+
+} // namespace kelvarine

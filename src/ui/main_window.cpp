@@ -1,0 +1,120 @@
+#include "ui/main_window.h"
+
+#include "board/board.h"
+#include "board/board_painter.h"
+#include "board/geometry.h"
+#include "board/look.h"
+#include "board/margin_painter.h"
+#include "game/lifecycle.h"
+#include "input/keys.h"
+#include "input/mouse.h"
+#include "logic/driver.h"
+#include "ui/board_widget.h"
+#include "ui/key_decoder.h"
+#include "ui/menus.h"
+#include "ui/presentation.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr QSize StartSize{760, 830};
+constexpr QSize SmallestSize{160, 160};
+
+MainWindow *mainWindow = nullptr;
+
+} // namespace
+
+MainWindow *Window()
+{
+    return mainWindow;
+}
+
+// ---- Client area ---------------------------------------------------------------------------
+
+ClientArea::ClientArea(QWidget *parent) : QWidget(parent), Board(new BoardWidget(this))
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusProxy(Board);
+}
+
+void ClientArea::Layout()
+{
+    LayoutBoard(width(), height(), 0);
+    Board->setGeometry(BoardPlace.X, BoardPlace.Y, BoardPlace.Width, BoardPlace.Height);
+    SetBoardPictureSize(BoardPlace.Width, BoardPlace.Height, devicePixelRatioF());
+}
+
+void ClientArea::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    PaintWindowTexts(painter, width(), height());
+}
+
+void ClientArea::resizeEvent(QResizeEvent * /*event*/)
+{
+    Layout();
+    DrawBoard();
+    update();
+}
+
+void ClientArea::mousePressEvent(QMouseEvent *event)
+{
+    BoardPressed(NoButton, ModifiersOf(event->modifiers()), -1, -1);
+    Board->setFocus(Qt::MouseFocusReason);
+}
+
+// ---- Main window ---------------------------------------------------------------------------
+
+MainWindow::MainWindow() : Client(new ClientArea(this)), timeBar(new QMenuBar(this))
+{
+    mainWindow = this;
+    setCentralWidget(Client);
+    BuildMenus();
+    setMinimumSize(SmallestSize);
+    resize(StartSize);
+    Client->Board->setFocus();
+}
+
+void MainWindow::BuildMenus()
+{
+    timeBar->setNativeMenuBar(false);
+    kelvarine::BuildMenus(menuBar(), timeBar);
+    menuBar()->setCornerWidget(timeBar, Qt::TopRightCorner);
+}
+
+void MainWindow::UpdateMenuCaptions()
+{
+    UpdateMenus(timeBar);
+    // The corner keeps the size that it had when it was set, so a longer caption needs this.
+    menuBar()->setCornerWidget(timeBar, Qt::TopRightCorner);
+    timeBar->show();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+    if (!ReadyForCommand()) {
+        return;
+    }
+    QuerySaveGame();
+    if (LastAnswer != AnsweredCancel) {
+        StopSound();
+        event->accept();
+    }
+}
+
+void MainWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (const std::int32_t code = KeyCodeOf(*event); code != 0) {
+        KeyDown(code, ModifiersOf(event->modifiers()));
+    }
+}
+
+} // namespace kelvarine

@@ -1,0 +1,54 @@
+// The main window: the menu bar, the margin with its texts and the board in it.
+#pragma once
+
+#include <QMainWindow>
+
+class QMenuBar;
+
+namespace kelvarine {
+
+class BoardWidget;
+
+// The client area: paints the exterior margin and holds the board.
+class ClientArea : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ClientArea(QWidget *parent);
+
+    // Works the sizes out anew and moves the board.
+    void Layout();
+
+    BoardWidget *const Board;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+};
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    MainWindow();
+
+    // Brings the captions of the clock's menu up to date.
+    void UpdateMenuCaptions();
+
+    ClientArea *const Client;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void BuildMenus();
+
+    QMenuBar *timeBar; // the clock, at the far right end of the menu bar
+};
+
+// The one main window, or null before it stands and after it has gone.
+MainWindow *Window();
+
+} // namespace kelvarine

@@ -1,0 +1,169 @@
+// The seam to the world, over the toolkit.
+#include "board/board.h"
+#include "board/board_painter.h"
+#include "game/clock.h"
+#include "game/win_display.h"
+#include "ui/board_widget.h"
+#include "ui/main_window.h"
+#include "ui/presentation.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QTime>
+#include <QTimer>
+
+#include <chrono>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr int ClockInterval = 1000; // milliseconds
+constexpr std::chrono::milliseconds YieldInterval{10};
+
+QString Text(std::string_view text)
+{
+    QString converted = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return converted.replace(u'\r', u'\n');
+}
+
+QMessageBox::StandardButton RunBox(QMessageBox::Icon icon, std::string_view text,
+                                   std::string_view title, QMessageBox::StandardButtons buttons,
+                                   QMessageBox::StandardButton defaultButton)
+{
+    QMessageBox box(icon, Text(title.empty() ? ProgramName : title), Text(text), buttons, Window());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(defaultButton);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+// The two timers live as long as the window, which owns them.
+QTimer &MakeTimer(void (*tick)())
+{
+    auto *timer = new QTimer(Window());
+    timer->setTimerType(Qt::CoarseTimer);
+    QObject::connect(timer, &QTimer::timeout, timer, tick);
+    return *timer;
+}
+
+} // namespace
+
+void ShowMessage(std::string_view text, std::string_view title)
+{
+    RunBox(QMessageBox::NoIcon, text, title, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+bool AskYesNo(std::string_view text, std::string_view title)
+{
+    return RunBox(QMessageBox::Question, text, title, QMessageBox::Yes | QMessageBox::No,
+                  QMessageBox::No) == QMessageBox::Yes;
+}
+
+Answer AskYesNoCancel(std::string_view text)
+{
+    switch (RunBox(QMessageBox::Question, text, ProgramName,
+                   QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes)) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    default:
+        return Answer::Cancel;
+    }
+}
+
+std::string AskText(std::string_view prompt)
+{
+    return QInputDialog::getText(Window(), Text(ProgramName), Text(prompt)).toStdString();
+}
+
+void YieldToEvents()
+{
+    static std::chrono::steady_clock::time_point last;
+    const auto now = std::chrono::steady_clock::now();
+    if (now - last >= YieldInterval) {
+        QCoreApplication::processEvents();
+        last = std::chrono::steady_clock::now();
+    }
+}
+
+void RunPendingEvents()
+{
+    QCoreApplication::processEvents();
+}
+
+void SetWaitCursor(bool on)
+{
+    if (on) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+double SecondsSinceMidnight()
+{
+    return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+}
+
+void SetClockTimer(bool on)
+{
+    static QTimer &timer = MakeTimer(ClockTick);
+    if (on) {
+        timer.start(ClockInterval);
+    } else {
+        timer.stop();
+    }
+}
+
+void SetWinTimer(bool on, int milliseconds)
+{
+    static QTimer &timer = MakeTimer(WinDisplayTick);
+    if (on) {
+        timer.start(milliseconds);
+    } else {
+        timer.stop();
+    }
+}
+
+std::string ClipboardText()
+{
+    return QGuiApplication::clipboard()->text().toStdString();
+}
+
+void SetClipboardText(std::string_view text)
+{
+    QGuiApplication::clipboard()->setText(
+        QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+void SetWindowTitle(std::string_view title)
+{
+    Window()->setWindowTitle(Text(title));
+}
+
+void UpdateCaptions()
+{
+    Window()->UpdateMenuCaptions();
+}
+
+void RefreshWindow()
+{
+    Window()->Client->update();
+}
+
+void ResizeWindow()
+{
+    Window()->Client->Layout();
+    DrawBoard();
+    RefreshWindow();
+}
+
+void ShowBoardPicture()
+{
+    Window()->Client->Board->update();
+}
+
+} // namespace kelvarine

@@ -1,0 +1,183 @@
+#!/usr/bin/python3
+"""A first game in the real window: pasted, played by mouse and keyboard, undone, solved."""
+
+import signal
+import sys
+import time
+
+from desktop import (Desktop, Game, GIVEN_FILL, SELECTED_FILL, UNKNOWN_FILL, wait_for)
+
+PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
+SOLUTION = "534678912672195348198342567859761423426853791713924856961537284287419635345286179"
+
+
+def expect(condition, what):
+    if not condition:
+        raise AssertionError(what)
+    print("ok:", what, flush=True)
+
+
+def paste(desktop, game, text):
+    desktop.set_clipboard(text)
+    desktop.key("ctrl+v")
+    time.sleep(0.5)
+
+
+def answer_save_question(desktop, game, key):
+    box = desktop.dialog(other_than=[game.window])
+    desktop.key(key)
+    desktop.gone(box)
+    game.focus()
+
+
+def open_puzzle(desktop, game):
+    paste(desktop, game, PUZZLE)
+    board = wait_for(lambda: next((b for b in [game.board()] if b.fill(1, 1) == GIVEN_FILL), None),
+                     "the pasted puzzle on the board")
+    expect(board.fill(3, 1) == UNKNOWN_FILL, "an open cell has the colour of unknown cells")
+    expect(board.ink(1, 1) > 0.05, "a given shows its number")
+    expect(board.ink(3, 1) == 0, "an open cell is empty")
+    expect(game.copy_line() == PUZZLE, "the clipboard gets the same puzzle back")
+
+
+def play_by_mouse_and_keys(desktop, game):
+    game.click(3, 1)
+    expect(game.board().fill(3, 1) == SELECTED_FILL, "a click selects a cell")
+    desktop.key("1", "ctrl+2", "ctrl+4")
+    wait_for(lambda: game.board().has_pencilmark(3, 1, 4), "the pencilmark 4")
+    board = game.board()
+    marks = [n for n in range(1, 10) if board.has_pencilmark(3, 1, n)]
+    expect(marks == [1, 2, 4], "digits with Ctrl add pencilmarks at their places")
+    desktop.key("shift+1")
+    time.sleep(0.3)
+    board = game.board()
+    expect([n for n in range(1, 10) if board.has_pencilmark(3, 1, n)] == [2, 4],
+           "a digit with Shift takes one away")
+    expect(game.copy_line().startswith("5 3 24.7."), "the clipboard tells the pencilmarks")
+    desktop.key("4")
+    expect(game.copy_line().startswith("534.7"), "a plain digit places a number")
+    desktop.key("Prior", "Prior")
+    expect(game.copy_line().startswith("5 3 124.7."), "two steps back")
+    desktop.key("Next")
+    expect(game.copy_line().startswith("5 3 24.7."), "one step forward")
+    desktop.key("ctrl+y")
+    expect(game.copy_line().startswith("534.7"), "forward to the end by the other key")
+    desktop.key("Right")
+    board = game.board()
+    expect(board.fill(4, 1) == SELECTED_FILL and board.fill(3, 1) == UNKNOWN_FILL,
+           "an arrow walks on")
+    game.click(9, 9, ["Control_L"])
+    expect(game.board().fill(9, 9) == SELECTED_FILL and game.board().fill(4, 1) == SELECTED_FILL,
+           "a click with Ctrl adds a cell")
+    game.click(9, 9, ["Shift_L"])
+    expect(game.board().fill(9, 9) == GIVEN_FILL, "a click with Shift takes it out")
+    game.drag((1, 5), (3, 6))
+    board = game.board()
+    expect(all(board.fill(c, r) == SELECTED_FILL for c in (1, 2, 3) for r in (5, 6)),
+           "a drag selects a rectangle")
+    expect(board.fill(4, 5) != SELECTED_FILL, "and nothing beside it")
+    desktop.key("0")
+    expect("123456789" in game.copy_line(), "0 fills all pencilmarks in")
+    desktop.key("Delete")
+    expect("123456789" not in game.copy_line(), "Delete takes them out")
+
+
+def solve_and_win(desktop, game):
+    desktop.key("shift+z")
+    line = wait_for(lambda: game.board().ink(3, 1) >= 0 and not win_is_still(game),
+                    "the win display to move")
+    expect(line, "the win display runs")
+    desktop.key("Down")
+    time.sleep(0.3)
+    expect(win_is_still(game), "a key stops the win display")
+    expect(game.copy_line() == SOLUTION, "the engine found the solution")
+
+
+def win_is_still(game):
+    first = game.board()
+    time.sleep(0.35)
+    second = game.board()
+    return all(first.fill(c, r) == second.fill(c, r) for c in range(1, 10) for r in range(1, 10))
+
+
+def bad_clipboards(desktop, game):
+    before = game.copy_line()
+    for text in (b"", b"abcdefghi" * 9, b"\x00\xff\xfe" * 1000):
+        desktop.set_clipboard(text)
+        desktop.key("ctrl+v")
+        answer_save_question(desktop, game, "alt+n")
+        box = desktop.dialog(other_than=[game.window])
+        desktop.key("Return")
+        desktop.gone(box)
+        game.focus()
+    desktop.set_clipboard("5" + "." * 39)
+    desktop.key("ctrl+v")
+    answer_save_question(desktop, game, "alt+n")
+    box = desktop.dialog(other_than=[game.window])
+    desktop.key("Return")  # No is the default
+    desktop.gone(box)
+    game.focus()
+    expect(game.copy_line() == before, "bad clipboards lose nothing")
+    desktop.set_clipboard("." * 10_000_000)
+    desktop.key("ctrl+v")
+    answer_save_question(desktop, game, "alt+n")
+    expect(game.copy_line() == "." * 81, "ten megabytes of text are a game at once")
+
+
+def sizes(desktop, game, pictures):
+    paste_over(desktop, game, PUZZLE)
+    game.click(3, 1)
+    desktop.key("1", "ctrl+2", "ctrl+4")
+    for width, height in ((600, 660), (900, 980), (1600, 1300), (160, 160)):
+        game.resize(width, height)
+        picture = game.picture()
+        expect(abs(picture.size[0] - width) < 3, f"the window takes {width} pixels")
+        if pictures:
+            picture.save(f"{pictures}/first_game_{width}.png")
+        if width >= 600:
+            expect(game.board().fill(1, 1) == GIVEN_FILL, f"the board is whole at {width} pixels")
+
+
+def paste_over(desktop, game, text):
+    desktop.set_clipboard(text)
+    desktop.key("ctrl+v")
+    answer_save_question(desktop, game, "alt+n")
+    wait_for(lambda: game.board().fill(1, 1) == GIVEN_FILL, "the puzzle on the board")
+
+
+def end_by_signal(desktop, game):
+    game.resize(900, 980)
+    game.process.send_signal(signal.SIGTERM)
+    answer_save_question_quietly(desktop, game, "Escape")
+    expect(game.process.poll() is None, "Cancel keeps the program alive")
+    game.focus()
+    game.process.send_signal(signal.SIGTERM)
+    desktop.dialog(other_than=[game.window])
+    desktop.key("alt+n")
+    wait_for(lambda: game.process.poll() is not None, "the program to end")
+    expect(game.process.returncode == 0, "the program ends as after closing the window")
+
+
+def answer_save_question_quietly(desktop, game, key):
+    box = desktop.dialog(other_than=[game.window])
+    desktop.key(key)
+    desktop.gone(box)
+
+
+def main():
+    program = sys.argv[1]
+    pictures = sys.argv[2] if len(sys.argv) > 2 else None
+    with Desktop() as desktop:
+        game = Game(desktop, program)
+        game.resize(900, 980)
+        open_puzzle(desktop, game)
+        play_by_mouse_and_keys(desktop, game)
+        solve_and_win(desktop, game)
+        bad_clipboards(desktop, game)
+        sizes(desktop, game, pictures)
+        end_by_signal(desktop, game)
+    print("first game: all as it should be")
+
+
+if __name__ == "__main__":
+    main()
