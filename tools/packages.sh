@@ -1,0 +1,14 @@
+# The Debian packages that the scripts need, by what for.
+
+BUILD_PACKAGES=(
+    g++ cmake ninja-build
+    qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev
+)
+PLAY_PACKAGES=(fonts-liberation)
+# A virtual display with real keys and a picture of it, for machines without a screen.
+SCREEN_PACKAGES=(xvfb xauth xdotool openbox imagemagick)
+CHECK_PACKAGES=(
+    libgtest-dev librapidcheck-dev libbenchmark-dev pkg-config
+    clang-format clang-tidy
+    python3 python3-pil xclip x11-xkb-utils x11-xserver-utils
+)
