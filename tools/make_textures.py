@@ -6,6 +6,10 @@ as it is; the others look like materials. Every tile repeats without a seam, bec
 on a torus: noise is filtered in the frequency domain, distances wrap around, waves have a whole
 number of periods. The seed is fixed, so that the same picture comes out every time.
 
+The board combines tile and colour by a bitwise AND, which turns most greys into odd tints of the
+colour. So the tiles use only greys of a chain in which each darker one lacks the bits that the
+lighter ones lack, and one more: then a darker grey leaves no part of any colour brighter.
+
 Needs numpy and Pillow (Debian: python3-numpy, python3-pil).
 """
 
@@ -15,6 +19,7 @@ import numpy as np
 from PIL import Image
 
 SIDE = 56
+GREYS = np.array([0b10000011, 0b11000011, 0b11100011, 0b11110011, 0b11111011, 0b11111111])
 Y, X = np.mgrid[0:SIDE, 0:SIDE].astype(float)
 
 
@@ -94,14 +99,14 @@ def weave(rng, pitch, over_warp, relief, thread_tone, slub):
 
 def linen():
     rng = generator(1)
-    return 205, 14, weave(rng, 2, lambda i, j: (i + j) % 2 == 0, 6.0, 0.3, 0.24)
+    return 226, 18, weave(rng, 2, lambda i, j: (i + j) % 2 == 0, 6.0, 0.3, 0.24)
 
 
 def brushed_metal():
     rng = generator(2)
     streaks = noise(rng, 60, 1.0, 1.2) + 0.5 * noise(rng, 25, 0.6, 1.2)
     sheen = 0.7 * np.cos(2 * np.pi * (Y / SIDE + 0.02 * np.sin(2 * np.pi * X / SIDE)))
-    return 200, 13, streaks + sheen
+    return 224, 17, streaks + sheen
 
 
 def wood():
@@ -113,7 +118,7 @@ def wood():
     year = np.where(phase < 0.86, phase / 0.86, (1 - phase) / 0.14)
     fibres = noise(rng, 0.8, 30, 1.2)
     pores = np.minimum(0, noise(rng, 0.7, 7, 1.5) + 1.4)
-    return 178, 20, -1.3 * year**1.6 + 0.35 * fibres + 0.5 * pores
+    return 205, 26, -1.3 * year**1.6 + 0.35 * fibres + 0.5 * pores
 
 
 def stone():
@@ -122,8 +127,8 @@ def stone():
     gap = np.clip((second - near) / 2.6, 0, 1)
     dome = 6 * np.sqrt(gap)
     tone = rng.uniform(-1, 1, 16)[which]
-    face = light(dome, 0.35) + 0.5 * tone + 0.22 * noise(rng, 1.5, 1.5)
-    return 172, 24, np.where(gap < 0.35, -2.4 + gap, face)
+    face = light(dome, 0.35) + 0.35 * tone + 0.12 * noise(rng, 1.5, 1.5)
+    return 208, 31, np.where(gap < 0.35, -2.4 + gap, face)
 
 
 def paper():
@@ -138,7 +143,7 @@ def paper():
             fibres[int(y) % SIDE, int(x) % SIDE] = tone
             x, y, angle = x + np.cos(angle), y + np.sin(angle), angle + bend
     pulp = 0.35 * noise(rng, 5, 5) + 0.3 * light(noise(rng, 2.5, 2.5))
-    return 226, 8, fibres + pulp
+    return 228, 10, fibres + pulp
 
 
 def leather():
@@ -146,12 +151,12 @@ def leather():
     near, second, _ = cells(rng, 9, 10, 0.85, 0.7)
     gap = np.clip((second - near) / 3.0, 0, 1)
     dome = np.sqrt(gap)
-    return 168, 19, 1.6 * dome + light(dome, 1.5) + 0.35 * noise(rng, 9, 9)
+    return 206, 25, 1.6 * dome + light(dome, 1.5) + 0.15 * noise(rng, 9, 9)
 
 
 def canvas():
     rng = generator(7)
-    return 190, 22, weave(rng, 7, lambda i, j: (i + j) % 2 == 0, 2.0, 0.18, 0.3)
+    return 216, 29, weave(rng, 7, lambda i, j: (i + j) % 2 == 0, 2.0, 0.06, 0.16)
 
 
 def marble():
@@ -161,8 +166,8 @@ def marble():
     wide = np.abs(np.sin(np.pi * (X + bend_x + 2 * (Y + bend_y)) / SIDE))
     thin = np.abs(np.sin(np.pi * (3 * (X + bend_y) - 2 * (Y + bend_x)) / SIDE))
     depth = 0.6 + 0.4 * np.tanh(noise(rng, 14, 14))
-    veins = depth * (2.2 * np.exp(-wide / 0.10) + 0.8 * np.exp(-thin / 0.10))
-    return 217, 15, 0.2 * noise(rng, 16, 16) - veins
+    veins = depth * (2.4 * np.exp(-wide / 0.07) + 0.9 * np.exp(-thin / 0.07))
+    return 229, 18, 0.06 * noise(rng, 16, 16) - veins
 
 
 def sand():
@@ -172,7 +177,7 @@ def sand():
     # Ripples: a long windward slope in the light, a short one behind the crest in the shade.
     slope = np.where(phase < 0.68, np.sin(np.pi * phase / 0.68),
                      -np.sin(np.pi * (phase - 0.68) / 0.32))
-    return 206, 14, 1.2 * slope + 0.4 * noise(rng, 0.8, 0.8, 1.0)
+    return 226, 18, 1.2 * slope + 0.4 * noise(rng, 0.8, 0.8, 1.0)
 
 
 def tweed():
@@ -183,7 +188,7 @@ def tweed():
     twill = ((Y + side) // 2) % 4 < 2
     threads = np.where(twill, 1.0, -1.0) + 0.35 * noise(rng, 1, 1, 1.0)
     flecks = noise(rng, 1.2, 1.2, 1.5)
-    return 164, 26, threads + np.where(flecks > 2.0, 1.2, 0) - np.where(flecks < -2.0, 1.0, 0)
+    return 212, 34, threads + np.where(flecks > 2.0, 1.2, 0) - np.where(flecks < -2.0, 1.0, 0)
 
 
 def slate():
@@ -191,7 +196,7 @@ def slate():
     layers = 0.7 * noise(rng, 30, 8, 1.7) + 0.6 * noise(rng, 14, 4, 1.6)
     steps = np.floor(layers * 2.2) / 2.2
     broken = 0.75 * steps + 0.25 * layers
-    return 150, 16, light(broken, 1.5) + 0.55 * layers + 0.12 * noise(rng, 2, 1)
+    return 198, 21, light(broken, 1.5) + 0.55 * layers + 0.12 * noise(rng, 2, 1)
 
 
 def bark():
@@ -199,7 +204,7 @@ def bark():
     ridge = np.abs(at(noise(rng, 6, 26), X + 2.2 * noise(rng, 16, 12), Y))
     height = np.clip(ridge, 0, 1.3)
     furrow = np.exp(-ridge / 0.16)
-    return 148, 27, 0.9 * height + light(height, 1.3) - 1.3 * furrow + 0.25 * noise(rng, 1.2, 4)
+    return 196, 35, 0.9 * height + light(height, 1.3) - 1.3 * furrow + 0.25 * noise(rng, 1.2, 4)
 
 
 MATERIALS = [linen, brushed_metal, wood, stone, paper, leather, canvas, marble, sand, tweed, slate,
@@ -207,10 +212,15 @@ MATERIALS = [linen, brushed_metal, wood, stone, paper, leather, canvas, marble, 
 
 
 def tile(material):
+    """The tile of a material in greys of the chain, whose mean is the wanted one."""
     mean, contrast, field = material()
-    field = (field - field.mean()) / field.std()
-    grey = np.clip(mean + contrast * np.clip(field, -3, 3), 0, 255)
-    return np.rint(grey).astype(np.uint8)
+    field = contrast * np.clip((field - field.mean()) / field.std(), -3, 3)
+    shift = float(mean)
+    for _ in range(40):
+        nearest = np.abs((shift + field)[..., None] - GREYS).argmin(axis=-1)
+        grey = GREYS[nearest]
+        shift += 0.5 * (mean - grey.mean())
+    return grey.astype(np.uint8)
 
 
 def main():

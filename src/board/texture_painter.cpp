@@ -35,10 +35,8 @@ void CutTiles(double ratio)
     const int side = std::max(1, static_cast<int>(std::lround(TileSide * ratio)));
     for (int tile = 0; tile < TileCount; ++tile) {
         const QImage cut = strip.copy(0, tile * TileSide, TileSide, TileSide);
-        tileSet.Tiles[static_cast<std::size_t>(tile)] =
-            side == TileSide
-                ? cut
-                : cut.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        // Not smoothed: greys between those of the tiles would tint the colours beneath.
+        tileSet.Tiles[static_cast<std::size_t>(tile)] = cut.scaled(side, side);
     }
     tileSet.Ratio = ratio;
 }
