@@ -57,6 +57,18 @@ struct CellSet {
         *this = *this | Of(cell);
     }
 
+    // Adds cells of a column, bit 0 of the bits for row 1.
+    constexpr void AddColumn(int column, std::uint64_t bits)
+    {
+        const int first = (column - 1) * 9;
+        if (first < 64) {
+            Low |= bits << first;
+            High |= first == 63 ? bits >> 1 : 0; // column 8 begins in the last bit
+        } else {
+            High |= bits << (first - 64);
+        }
+    }
+
     constexpr void Remove(int cell)
     {
         *this = Without(Of(cell));
@@ -125,13 +137,12 @@ template <typename Test>
 CellSet CellsWhere(const Test &test)
 {
     CellSet set = NoCells;
-    int cell = 0;
     for (std::size_t column = 1; column <= 9; ++column) {
-        for (std::size_t row = 1; row <= 9; ++row, ++cell) {
-            if (test(Grid[column][row])) {
-                set.Add(cell);
-            }
+        std::uint64_t bits = 0; // without a branch by cell
+        for (std::size_t row = 1; row <= 9; ++row) {
+            bits |= static_cast<std::uint64_t>(test(Grid[column][row])) << row;
         }
+        set.AddColumn(static_cast<int>(column), bits >> 1);
     }
     return set;
 }

@@ -38,30 +38,13 @@ void AddCrossing(CellList &list, const House &line, Cell other)
 
 } // namespace
 
-CellSet OpenTargets(std::int32_t mode, CellWord candidates)
-{
-    const CellWord without = mode == ModeAlert ? AlertBit : 0;
-    const CellWord with = mode == ModeExplain ? SelectedBit : 0;
-    return CellsWhere([=](CellWord word) {
-        return (word & candidates) != 0 && (word & (without | with)) == with;
-    });
-}
-
 CellSet MarkTwos(CellWord mark)
 {
-    CellSet twos = NoCells;
-    int cell = 0;
-    for (std::size_t column = 1; column <= 9; ++column) {
-        for (std::size_t row = 1; row <= 9; ++row, ++cell) {
-            CellWord &word = Grid[column][row];
-            word &= ~ScratchMarks;
-            if (CandidatesIn(word) == 2) {
-                word |= mark;
-                twos.Add(cell);
-            }
-        }
-    }
-    return twos;
+    return CellsWhere([=](CellWord &word) {
+        const bool two = CandidatesIn(word) == 2;
+        word = (word & ~ScratchMarks) | (two ? mark : 0);
+        return two;
+    });
 }
 
 CellList CellsSeenByEnds(Cell start, Cell end, Corner corner)

@@ -70,10 +70,22 @@ inline CellSet PeersOf(int index)
     return PeerSets[static_cast<std::size_t>(index)];
 }
 
-// The cells with any of some candidates at which a mode has something to do: in mode 1 those
-// without AlertBit, in mode 2 those with SelectedBit. A search may leave out what can end nowhere
-// else.
-CellSet OpenTargets(std::int32_t mode, CellWord candidates);
+// Those of some cells that have any of some candidates and at which a mode has something to do: in
+// mode 1 the cells without AlertBit, in mode 2 those with SelectedBit. Candidates only go and marks
+// only come during a call, so a search may leave out what can end at no such cell.
+inline CellSet OpenTargets(std::int32_t mode, CellWord candidates, CellSet among)
+{
+    const CellWord without = mode == ModeAlert ? AlertBit : 0;
+    const CellWord with = mode == ModeExplain ? SelectedBit : 0;
+    CellSet open = among;
+    for (; among.Any(); among.DropFirst()) {
+        const CellWord word = WordOf(among.First());
+        if ((word & candidates) == 0 || (word & (without | with)) != with) {
+            open.Remove(among.First());
+        }
+    }
+    return open;
+}
 
 // Clears the scratch marks of all cells, sets mark on those with two candidates and returns these.
 CellSet MarkTwos(CellWord mark);

@@ -25,18 +25,20 @@ struct Search {
     std::int32_t Mode;
     Flag &Found;
     std::int32_t Size;
-    CellSet Pairs = NoCells; // cells with two candidates
+    std::array<CellSet, 10> Pairs{}; // by number: cells with it and one other candidate
     int Hinge = 0;
     const Pass *Current = nullptr;
     int Number = 0;
     std::size_t WingCount = 0; // wings of the number, in the lists from element 1 on
     bool OutsideBox = false;   // a wing in the line lies outside the hinge's box
     bool BoxWing = false;      // a wing was found in the box only
+    bool Removed = false;      // a removal may have made other cells hinges
 };
 
-CellSet PairCells()
+CellSet HingeCells(std::int32_t size)
 {
-    return CellsWhere([](CellWord word) { return CandidatesIn(word) == 2; });
+    return CellsWhere(
+        [=](CellWord word) { return CandidatesIn(word) == size && (word & GivenBit) == 0; });
 }
 
 CellSet LineOf(const Search &search)
@@ -47,6 +49,19 @@ CellSet LineOf(const Search &search)
 CellSet BoxOf(const Search &search)
 {
     return HouseSetOf(CellOf(search.Hinge), HouseKind::Box);
+}
+
+// Finds Pairs.
+void FindPairs(Search &search)
+{
+    search.Pairs.fill(NoCells);
+    CellSet twos = CellsWhere([](CellWord word) { return CandidatesIn(word) == 2; });
+    for (; twos.Any(); twos.DropFirst()) {
+        const CellWord pair = WordOf(twos.First()) & CandidateMask;
+        for (CellWord rest = pair; rest != 0; rest &= rest - 1) {
+            search.Pairs[static_cast<std::size_t>(std::countr_zero(rest))].Add(twos.First());
+        }
+    }
 }
 
 // ---- Words ---------------------------------------------------------------------------------
@@ -97,10 +112,8 @@ void TakeNumber(Search &search, int target)
 {
     CellWord &word = WordOf(target);
     word &= ~BitTable[static_cast<std::size_t>(search.Number)];
-    search.Pairs.Remove(target);
-    if (CandidatesIn(word) == 2) {
-        search.Pairs.Add(target);
-    }
+    search.Removed = true;
+    FindPairs(search);
 }
 
 // Acts on the targets among some cells, in scan order.
@@ -139,30 +152,20 @@ bool ActOnTargets(Search &search)
 
 // ---- Wings ---------------------------------------------------------------------------------
 
-// The first cell of some that holds exactly two numbers, or -1.
-int FindPair(const Search &search, CellSet cells, CellWord pairMask)
+// Looks for a wing with the number and one other in the line and then in the box; in either the
+// first in scan order is taken.
+bool FindWing(Search &search, int other)
 {
-    for (CellSet rest = search.Pairs & cells; rest.Any(); rest.DropFirst()) {
-        if ((WordOf(rest.First()) & CandidateMask) == pairMask) {
-            return rest.First();
-        }
+    const CellSet pairs = search.Pairs[static_cast<std::size_t>(search.Number)] &
+                          search.Pairs[static_cast<std::size_t>(other)];
+    const CellSet inLine = pairs & LineOf(search);
+    const CellSet inBox = pairs & BoxOf(search);
+    if (!inLine.Any() && !inBox.Any()) {
+        return false;
     }
-    return -1;
-}
-
-// Looks for a wing in the line and then in the box.
-bool FindWing(Search &search, CellWord pairMask)
-{
-    int wing = FindPair(search, LineOf(search), pairMask);
-    if (wing >= 0) {
-        search.OutsideBox = search.OutsideBox || !BoxOf(search).Has(wing);
-    } else {
-        wing = FindPair(search, BoxOf(search), pairMask);
-        if (wing < 0) {
-            return false;
-        }
-        search.BoxWing = true;
-    }
+    const int wing = inLine.Any() ? inLine.First() : inBox.First();
+    search.OutsideBox = search.OutsideBox || !BoxOf(search).Has(wing);
+    search.BoxWing = search.BoxWing || !inLine.Any();
     ++search.WingCount;
     ChainColumns[search.WingCount] = CellOf(wing).Column;
     ChainRows[search.WingCount] = CellOf(wing).Row;
@@ -176,31 +179,15 @@ bool FindWings(Search &search)
 {
     const CellWord bit = BitTable[static_cast<std::size_t>(search.Number)];
     for (CellWord rest = WordOf(search.Hinge) & CandidateMask & ~bit; rest != 0; rest &= rest - 1) {
-        if (!FindWing(search, bit | (rest & (~rest + 1)))) {
+        if (!FindWing(search, std::countr_zero(rest))) {
             return false;
         }
     }
     return true;
 }
 
-// Whether any cell could be a wing of the hinge in this pass. Without one nothing happens.
-bool HasWings(const Search &search)
-{
-    const CellWord others = ~WordOf(search.Hinge) & CandidateMask;
-    for (CellSet rest = search.Pairs & (LineOf(search) | BoxOf(search)); rest.Any();
-         rest.DropFirst()) {
-        if ((WordOf(rest.First()) & others) == 0) {
-            return true;
-        }
-    }
-    return false;
-}
-
 bool RunPass(Search &search)
 {
-    if (!HasWings(search)) {
-        return false;
-    }
     const CellWord hinge = WordOf(search.Hinge);
     for (search.Number = 1; search.Number <= 9; ++search.Number) {
         search.WingCount = 0;
@@ -219,8 +206,25 @@ bool RunPass(Search &search)
     return false;
 }
 
+// Whether any peer of the hinge holds two of its candidates and nothing else. Without one nothing
+// happens.
+bool HasWings(const Search &search)
+{
+    CellSet once = NoCells;
+    CellSet twice = NoCells;
+    for (CellWord rest = WordOf(search.Hinge) & CandidateMask; rest != 0; rest &= rest - 1) {
+        const CellSet pairs = search.Pairs[static_cast<std::size_t>(std::countr_zero(rest))];
+        twice = twice | (once & pairs);
+        once = once | pairs;
+    }
+    return (twice & PeersOf(search.Hinge)).Any();
+}
+
 bool RunPasses(Search &search)
 {
+    if (!HasWings(search)) {
+        return false;
+    }
     for (const Pass &pass : Passes) {
         search.Current = &pass;
         if (RunPass(search)) {
@@ -235,22 +239,22 @@ bool RunPasses(Search &search)
 void SearchHingeWings(std::int32_t mode, Flag &found, std::int32_t size)
 {
     Search search{.Mode = mode, .Found = found, .Size = size};
-    bool hingeSeen = false;
-    for (int k = 0; k < 81; ++k) {
-        const CellWord word = WordOf(k);
-        if ((word & GivenBit) != 0 || CandidatesIn(word) != size) {
-            continue;
-        }
-        if (!hingeSeen) {
-            hingeSeen = true;
-            search.Pairs = PairCells();
-        }
-        search.Hinge = k;
-        WordOf(k) |= ScratchMark2;
+    CellSet hinges = HingeCells(size);
+    if (hinges.Any()) {
+        FindPairs(search);
+    }
+    while (hinges.Any()) {
+        search.Hinge = hinges.First();
+        WordOf(search.Hinge) |= ScratchMark2;
         if (RunPasses(search)) {
             return;
         }
-        WordOf(k) &= ~ScratchMark2;
+        WordOf(search.Hinge) &= ~ScratchMark2;
+        hinges.DropFirst();
+        if (search.Removed) {
+            hinges = HingeCells(size).After(search.Hinge);
+            search.Removed = false;
+        }
     }
 }
 

@@ -33,28 +33,32 @@ struct Search {
     std::array<CellSet, 82> BoxPeers;  // and, after them, in the box
 };
 
-// Whether a peer of the start cell holds the pair. Without one there is no chain.
-bool HasPartner(const Search &search, int start)
+// The cells that hold exactly the pair.
+CellSet PairCells(const Search &search)
 {
-    for (CellSet rest = PeersOf(start) & search.Eligible; rest.Any(); rest.DropFirst()) {
+    CellSet pairs = NoCells;
+    for (CellSet rest = search.Eligible; rest.Any(); rest.DropFirst()) {
         if ((WordOf(rest.First()) & CandidateMask) == search.PairMask) {
-            return true;
+            pairs.Add(rest.First());
         }
     }
-    return false;
+    return pairs;
 }
 
 // Finds Pairs and Targets for a start cell.
 void Survey(Search &search, int start)
 {
-    const CellWord pair = search.PairMask;
-    search.Pairs = CellsWhere([=](CellWord word) { return (word & CandidateMask) == pair; });
+    search.Targets = NoCells;
+    search.Pairs = PairCells(search);
+    if (!(search.Pairs & PeersOf(start)).Any()) {
+        return; // no chain at all
+    }
     const Reach reach = ReachFrom(start, [&](int cell) { return PeersOf(cell) & search.Pairs; });
     CellSet seen = NoCells;
     for (CellSet ends = reach.Even; ends.Any(); ends.DropFirst()) {
         seen = seen | PeersOf(ends.First());
     }
-    search.Targets = seen & PeersOf(start) & OpenTargets(search.Mode, pair);
+    search.Targets = OpenTargets(search.Mode, search.PairMask, seen & PeersOf(start));
 }
 
 // ---- Words ---------------------------------------------------------------------------------
@@ -183,8 +187,8 @@ void SearchRemotePairs(std::int32_t mode, Flag &found)
     for (CellSet starts = twos; starts.Any(); starts.DropFirst()) {
         const int start = starts.First();
         search.PairMask = WordOf(start) & CandidateMask;
-        if (search.PairMask == 0 || !HasPartner(search, start)) {
-            continue;
+        if (search.PairMask == 0) {
+            continue; // nothing to be taken away
         }
         Survey(search, start);
         if (search.Targets.Any() && Walk(search, start)) {

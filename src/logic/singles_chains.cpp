@@ -20,7 +20,6 @@ struct Search {
     CellSet Givens;
     std::array<CellSet, 10> Holders; // cells with a number as candidate
     int Number;
-    CellSet OpenHolders;            // those of the number at which the mode still has to act
     std::array<Partners, 81> Links; // strong links of the number
     CellSet Linked;                 // cells with a link
     CellSet Targets;                // all that a chain from the start cell may hit
@@ -28,6 +27,11 @@ struct Search {
     std::array<std::uint8_t, 82> NextHouse; // by depth: which house is tried next, 0..3
     bool DepthZeroDone;                     // the walk from there comes once in a call
 };
+
+CellWord NumberBit(const Search &search)
+{
+    return BitTable[static_cast<std::size_t>(search.Number)];
+}
 
 CellSet &HoldersOf(Search &search)
 {
@@ -94,15 +98,14 @@ void Survey(Search &search, int start)
     for (CellSet ends = reach.Even; ends.Any(); ends.DropFirst()) {
         hit = hit | SeenByEnds(start, ends.First());
     }
-    search.Targets = hit & search.OpenHolders;
+    search.Targets = OpenTargets(search.Mode, NumberBit(search), hit);
 }
 
 // Takes the number out of a cell. Links may appear by that and are found anew.
 void TakeNumber(Search &search, int target)
 {
-    WordOf(target) &= ~BitTable[static_cast<std::size_t>(search.Number)];
+    WordOf(target) &= ~NumberBit(search);
     HoldersOf(search).Remove(target);
-    search.OpenHolders.Remove(target);
 }
 
 // Brings what was found out before up to date after the search acted on a cell.
@@ -155,7 +158,6 @@ bool ActOn(Search &search, int target, std::string_view teaser, Explanation expl
     if (over) {
         MarkChain(search.Stack, ScratchMark0);
     } else if (search.Mode == ModeAlert) {
-        search.OpenHolders.Remove(target);
     }
     return over;
 }
@@ -165,7 +167,8 @@ bool ActOnCellsSeen(Search &search)
 {
     const int start = search.Stack.Start();
     const int end = search.Stack.Top();
-    CellSet targets = SeenByEnds(start, end) & search.OpenHolders.Without(search.Stack.On);
+    CellSet targets = OpenTargets(search.Mode, NumberBit(search),
+                                  SeenByEnds(start, end).Without(search.Stack.On));
     if (!targets.Any()) {
         return false;
     }
@@ -283,11 +286,6 @@ bool Walk(Search &search, int start)
 bool WalkNumber(Search &search)
 {
     FindLinks(search);
-    if (!search.Linked.Any()) {
-        return false;
-    }
-    search.OpenHolders =
-        OpenTargets(search.Mode, BitTable[static_cast<std::size_t>(search.Number)]);
     for (CellSet starts = search.Linked; starts.Any();) {
         const int start = starts.First();
         Survey(search, start);

@@ -10,6 +10,9 @@ namespace {
 
 constexpr ChainMarks Marks{.Odd = HintDomainBit, .Even = HintCellBit};
 
+// A walk that takes more steps than this looks ahead before it goes on.
+constexpr int ShortWalk = 12;
+
 // How many more cells a chain needs at least, by the number carried out of a cell, to be complete
 // in a cell that has a target in common with the start. Marks and candidates only go during a
 // call, so a step with no prospect can be left out: nothing can be found behind it.
@@ -25,10 +28,9 @@ struct Search {
     Flag *Found;
     std::array<CellSet, 10> Links;          // cells with two candidates, by number
     std::array<std::uint8_t, 81> NumberSum; // of such a cell
-    CellWord TargetsKnown;                  // numbers whose Targets have been found
-    std::array<CellSet, 10> Targets;        // by number: where the mode still has to act
     int StartNumber;
-    Prospects Ahead;
+    int StepsLeft;   // of a short walk
+    Prospects Ahead; // known when none is left
     Chain Stack;
     std::array<CellSet, 82> Peers;      // by depth: peers still to be visited
     std::array<std::uint8_t, 82> Carry; // by depth: number carried out of the cell
@@ -59,33 +61,19 @@ void FindLinks(Search &search, CellSet twos)
     }
 }
 
-// The open targets of the start number; found when they are first asked for.
-CellSet &TargetsOf(Search &search)
+// The open targets of a complete chain, cells of the chain included.
+CellSet TargetsOf(const Search &search, int start, int end)
 {
-    const auto number = static_cast<std::size_t>(search.StartNumber);
-    if ((search.TargetsKnown & BitTable[number]) == 0) {
-        search.TargetsKnown |= BitTable[number];
-        search.Targets[number] = OpenTargets(search.Mode, BitTable[number]);
-    }
-    return search.Targets[number];
-}
-
-// Notes that a target is done with. An alert covers it for every number.
-void CloseTarget(Search &search, int target)
-{
-    TargetsOf(search).Remove(target);
-    if (search.Mode == ModeAlert) {
-        for (CellSet &targets : search.Targets) {
-            targets.Remove(target);
-        }
-    }
+    return OpenTargets(search.Mode, BitTable[static_cast<std::size_t>(search.StartNumber)],
+                       SeenByEnds(start, end));
 }
 
 // ---- Prospects -----------------------------------------------------------------------------
 
 // Works out Ahead from the ends backwards.
-void LookAhead(Search &search, int start)
+void LookAhead(Search &search)
 {
+    const int start = search.Stack.Start();
     struct Place {
         std::uint8_t Cell;
         std::uint8_t Carried;
@@ -93,7 +81,6 @@ void LookAhead(Search &search, int start)
     std::array<Place, 162> queue; // each link at most once for each of its numbers
     std::size_t tail = 0;
     search.Ahead.Any.fill(NoCells);
-    const CellSet targets = TargetsOf(search);
     const auto enter = [&](int cell, int carried, int cells) {
         const auto number = static_cast<std::size_t>(carried);
         search.Ahead.Any[number].Add(cell);
@@ -103,7 +90,7 @@ void LookAhead(Search &search, int start)
         ++tail;
     };
     for (CellSet ends = LinksWith(search, search.StartNumber); ends.Any(); ends.DropFirst()) {
-        if ((SeenByEnds(start, ends.First()) & targets).Any()) {
+        if (TargetsOf(search, start, ends.First()).Any()) {
             enter(ends.First(), search.StartNumber, 0);
         }
     }
@@ -123,6 +110,9 @@ void LookAhead(Search &search, int start)
 // can still find something.
 bool HasProspects(const Search &search, int cell, int carried, int depth)
 {
+    if (search.StepsLeft > 0) {
+        return true; // not known yet
+    }
     const auto number = static_cast<std::size_t>(carried);
     return search.Ahead.Any[number].Has(cell) &&
            depth + search.Ahead.Cells[number][static_cast<std::size_t>(cell)] <= search.MaxCells;
@@ -165,7 +155,7 @@ bool Evaluate(Search &search)
 {
     const int start = search.Stack.Start();
     const int end = search.Stack.Top();
-    CellSet targets = SeenByEnds(start, end) & TargetsOf(search).Without(search.Stack.On);
+    CellSet targets = TargetsOf(search, start, end).Without(search.Stack.On);
     if (!targets.Any()) {
         return false;
     }
@@ -178,9 +168,10 @@ bool Evaluate(Search &search)
             return true;
         }
         targets.Remove(CellIndex(target));
-        CloseTarget(search, CellIndex(target));
     }
-    LookAhead(search, start);
+    if (search.StepsLeft == 0) {
+        LookAhead(search);
+    }
     return false;
 }
 
@@ -188,9 +179,14 @@ bool Evaluate(Search &search)
 void Open(Search &search, int carried)
 {
     const auto depth = static_cast<std::size_t>(search.Stack.Depth);
+    CellSet peers = PeersOf(search.Stack.Top()) & LinksWith(search, carried);
+    if (search.Stack.Depth + 1 >= search.MaxCells) {
+        // No cell may follow at all, or just one, which must complete the chain.
+        peers = search.Stack.Depth < search.MaxCells ? peers & LinksWith(search, search.StartNumber)
+                                                     : NoCells;
+    }
     search.Carry[depth] = static_cast<std::uint8_t>(carried);
-    search.Peers[depth] =
-        (PeersOf(search.Stack.Top()) & LinksWith(search, carried)).Without(search.Stack.On);
+    search.Peers[depth] = peers.Without(search.Stack.On);
 }
 
 // Enters the next peer of the top cell from which the chain can get somewhere, if there is one.
@@ -200,13 +196,16 @@ bool StepOn(Search &search)
     const int carried = search.Carry[depth];
     CellSet &peers = search.Peers[depth];
     peers = peers & LinksWith(search, carried);
-    while (peers.Any() && search.Stack.Depth < search.MaxCells) {
+    while (peers.Any()) {
         const int next = FirstPeer(search.Stack.Top(), peers);
         peers.Remove(next);
         const int carriedOn = CarriedOn(search, next, carried);
         if (HasProspects(search, next, carriedOn, search.Stack.Depth + 1)) {
             search.Stack.Push(next);
             Open(search, carriedOn);
+            if (search.StepsLeft > 0 && --search.StepsLeft == 0) {
+                LookAhead(search);
+            }
             return true;
         }
     }
@@ -215,6 +214,7 @@ bool StepOn(Search &search)
 
 bool Walk(Search &search, int start, int carried)
 {
+    search.StepsLeft = ShortWalk;
     search.Stack.StartAt(start);
     Open(search, carried);
     while (true) {
@@ -239,11 +239,7 @@ bool WalkFrom(Search &search, int start)
     for (CellWord rest = WordOf(start) & CandidateMask; rest != 0; rest &= rest - 1) {
         search.StartNumber = std::countr_zero(rest);
         const int carried = CarriedOn(search, start, search.StartNumber);
-        if (!(PeersOf(start) & LinksWith(search, carried)).Any()) {
-            continue;
-        }
-        LookAhead(search, start);
-        if (HasProspects(search, start, carried, 1) && Walk(search, start, carried)) {
+        if ((PeersOf(start) & LinksWith(search, carried)).Any() && Walk(search, start, carried)) {
             return true;
         }
     }
@@ -266,7 +262,6 @@ void SearchXYChains(std::int32_t mode, std::int32_t minCells, std::int32_t maxCe
     search.MinCells = minCells;
     search.MaxCells = maxCells;
     search.Found = &found;
-    search.TargetsKnown = 0;
     FindLinks(search, twos);
     for (CellSet starts = twos; starts.Any(); starts.DropFirst()) {
         const int start = starts.First();
