@@ -21,14 +21,6 @@ void ExplainGivenConflict(const House &house, Cell first, Cell other)
     WordAt(other) |= HintCellBit;
 }
 
-void LocateGivenConflict(const House &house)
-{
-    HintText += LineEnd;
-    HintText += "It's in a ";
-    HintText += HouseWord(house.Kind);
-    HintText += ".";
-}
-
 // Runs the operations of one technique; true when one of them left a text.
 bool RunAlertScan(const TechniqueRow &row, std::int32_t mode)
 {
@@ -115,8 +107,8 @@ bool FindGivenConflicts(std::int32_t mode)
                 conflict = true;
                 if (ActOnTarget(
                         actingMode, unused, other, [](CellWord &) {},
-                        [] { HintText = "There's a conflict with given cells."; },
-                        [&] { LocateGivenConflict(house); },
+                        [] { Tease("There's a conflict with given cells."); },
+                        [&] { LocateInHouse(HouseWord(house.Kind)); },
                         [&] { ExplainGivenConflict(house, first, other); })) {
                     return true;
                 }

@@ -15,20 +15,6 @@ bool HoldsNumber(CellWord word)
     return CandidatesIn(word) == 1;
 }
 
-// The lines of the first two hint stages.
-void Tease(std::string_view line)
-{
-    HintText = line;
-}
-
-void LocateInHouse(const House &house)
-{
-    HintText += LineEnd;
-    HintText += "It's in a ";
-    HintText += HouseWord(house.Kind);
-    HintText += ".";
-}
-
 // ---- Words of the unplaced forms -----------------------------------------------------------
 
 constexpr std::string_view LastCandidateTeaser = "There's an unplaced last candidate.";
@@ -168,7 +154,7 @@ void FindUnplacedLastCandidate(std::int32_t mode, Flag &found)
         const CellWord missing = CandidateMask & ~numbers;
         if (ActOnTarget(
                 mode, found, open, [=](CellWord &word) { SetCandidates(word, missing); },
-                [] { Tease(LastCandidateTeaser); }, [&] { LocateInHouse(house); },
+                [] { Tease(LastCandidateTeaser); }, [&] { LocateInHouse(HouseWord(house.Kind)); },
                 [&] { ExplainLastCandidate(open, house, missing); })) {
             return;
         }
@@ -235,7 +221,8 @@ void FindUnplacedHiddenSingle(std::int32_t mode, Flag &found)
             });
             if (ActOnTarget(
                     mode, found, target, [=](CellWord &word) { SetCandidates(word, bit); },
-                    [] { Tease(HiddenSingleTeaser); }, [&] { LocateInHouse(house); },
+                    [] { Tease(HiddenSingleTeaser); },
+                    [&] { LocateInHouse(HouseWord(house.Kind)); },
                     [&] { ExplainHiddenSingle(target, house, number); })) {
                 return;
             }

@@ -50,4 +50,38 @@ std::string NameOf(Cell cell)
     return CellName(cell.Column, cell.Row);
 }
 
+std::string NamesOf(std::span<const Cell> cells)
+{
+    std::string names;
+    for (const Cell cell : cells) {
+        names += NameOf(cell) + " ";
+    }
+    return names;
+}
+
+void Tease(std::string_view line)
+{
+    HintText = line;
+}
+
+void LocateInHouse(std::string_view houseWord)
+{
+    HintText += LineEnd;
+    HintText += "It's in a ";
+    HintText += houseWord;
+    HintText += ".";
+}
+
+std::string JoinNumbers(CellWord numbers)
+{
+    std::string text;
+    for (int left = CandidatesIn(numbers); left > 0; --left) {
+        const int number = LowestCandidate(numbers);
+        numbers &= ~BitTable[static_cast<std::size_t>(number)];
+        text += std::to_string(number);
+        text += left > 2 ? "," : left == 2 ? " and " : "";
+    }
+    return text;
+}
+
 } // namespace kelvarine

@@ -10,6 +10,7 @@
 #include "grid/grid.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -80,5 +81,17 @@ std::string HouseName(const House &house);
 
 // CellName of a cell.
 std::string NameOf(Cell cell);
+
+// CellName of every cell of a list, each followed by a blank.
+std::string NamesOf(std::span<const Cell> cells);
+
+// Writes the one line of the first hint stage over HintText.
+void Tease(std::string_view line);
+
+// Appends "It's in a column." to HintText as a new line, with the word for the kind of house.
+void LocateInHouse(std::string_view houseWord);
+
+// The numbers of a mask in ascending order: "7", "2 and 7", "2,4 and 7".
+std::string JoinNumbers(CellWord numbers);
 
 } // namespace kelvarine
