@@ -1,10 +1,15 @@
 #include "logic/technique_table.h"
 
+#include "grid/grid.h"
 #include "logic/fish.h"
 #include "logic/hidden_groups.h"
+#include "logic/hinge_wings.h"
 #include "logic/intersections.h"
 #include "logic/naked_groups.h"
+#include "logic/remote_pairs.h"
 #include "logic/singles.h"
+#include "logic/singles_chains.h"
+#include "logic/xy_chains.h"
 
 namespace kelvarine {
 
@@ -16,6 +21,21 @@ void Sized(std::int32_t mode, Flag &found)
 {
     Search(mode, found, Size);
 }
+
+// Chains of exactly three cells.
+void SearchXYWings(std::int32_t mode, Flag &found)
+{
+    SearchXYChains(mode, 3, 3, found);
+}
+
+void SearchAllXYChains(std::int32_t mode, Flag &found)
+{
+    SearchXYChains(mode, 0, MaxXYLinks, found);
+}
+
+constexpr OperationList LargeHingeWings{Sized<SearchHingeWings, 4>, Sized<SearchHingeWings, 5>,
+                                        Sized<SearchHingeWings, 6>, Sized<SearchHingeWings, 7>,
+                                        Sized<SearchHingeWings, 8>, Sized<SearchHingeWings, 9>};
 
 constexpr std::array Rows{
     TechniqueRow{
@@ -113,6 +133,54 @@ constexpr std::array Rows{
         .Driver = {Sized<SearchFishColumns, 4>, Sized<SearchFishRows, 4>},
         .DriverRunsAll = true,
         .AlertScan = {Sized<SearchFishColumns, 4>, Sized<SearchFishRows, 4>},
+    },
+    TechniqueRow{
+        .Number = 13,
+        .ReportName = "XY-wing",
+        .DriverApply = {SearchXYWings},
+        .Driver = {SearchXYWings},
+        .DriverRunsAll = false,
+        .AlertScan = {SearchXYWings},
+    },
+    TechniqueRow{
+        .Number = 14,
+        .ReportName = "Remote pairs",
+        .DriverApply = {SearchRemotePairs},
+        .Driver = {SearchRemotePairs},
+        .DriverRunsAll = false,
+        .AlertScan = {SearchRemotePairs},
+    },
+    TechniqueRow{
+        .Number = 15,
+        .ReportName = "XY-chain",
+        .DriverApply = {SearchAllXYChains},
+        .Driver = {SearchAllXYChains},
+        .DriverRunsAll = false,
+        .AlertScan = {ScanXYChains},
+    },
+    TechniqueRow{
+        .Number = 16,
+        .ReportName = "XYZ-wing",
+        .DriverApply = {Sized<SearchHingeWings, 3>},
+        .Driver = {Sized<SearchHingeWings, 3>},
+        .DriverRunsAll = false,
+        .AlertScan = {Sized<SearchHingeWings, 3>},
+    },
+    TechniqueRow{
+        .Number = 17,
+        .ReportName = "Hinge-wing",
+        .DriverApply = LargeHingeWings,
+        .Driver = LargeHingeWings,
+        .DriverRunsAll = false,
+        .AlertScan = LargeHingeWings,
+    },
+    TechniqueRow{
+        .Number = 18,
+        .ReportName = "Singles chain",
+        .DriverApply = {SearchSinglesChains},
+        .Driver = {SearchSinglesChains},
+        .DriverRunsAll = false,
+        .AlertScan = {SearchSinglesChains},
     },
 };
 

@@ -1,0 +1,204 @@
+#include "game/new_games.h"
+
+#include "board/board.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "generator/game_number.h"
+#include "generator/generator.h"
+#include "generator/patterns.h"
+#include "grid/grid.h"
+#include "logic/driver.h"
+#include "logic/rating.h"
+#include "ui/presentation.h"
+
+#include <memory>
+#include <string>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr std::int32_t FewestGivensFound = 17; // no game with one solution has fewer
+
+// ---- Checks of the settings ----------------------------------------------------------------
+
+bool IsSelected(std::size_t level)
+{
+    return (DifficultySelection & BitTable[level]) != 0;
+}
+
+bool SelectsNoLevel()
+{
+    return (DifficultySelection & 0x3E) == 0;
+}
+
+// Trial and error makes up level 5, so that one always has something.
+bool SelectsLevelWithTechniques()
+{
+    for (std::size_t level = 1; level <= 5; ++level) {
+        if (IsSelected(level) && (LevelTable[level] != 0 || level == 5)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// Whether the logic that is applied to new games would solve every game of the wished levels.
+bool AppliedLogicSolvesAll()
+{
+    if (SolveOnStart == False || IsSelected(5)) {
+        return false;
+    }
+    for (std::size_t level = 1; level <= 5; ++level) {
+        if (IsSelected(level) && (LevelTable[level] & ~SolveMask) != 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+constexpr std::string_view NoLevelNotice = "Please select one or more level's of difficulty\r"
+                                           "on the \"New Games\" tab of the configuration screen.";
+
+constexpr std::string_view NoTechniqueNotice =
+    "There area no logic techniques that meet your requested level of difficulty.\r"
+    "\r"
+    "On the configuration screen:\r"
+    "\r"
+    "Please select one or more different levels of difficulty on the \"New Games\" tab\r"
+    "and/or change the difficulty rating of the logic techniques on the \"Logic\" tab.\r";
+
+constexpr std::string_view AllSolvedNotice =
+    "You've chosen to apply selected solve logic to your new games.\r"
+    "\r"
+    "However, the techniques you've selected for solving on the logic tab will not\r"
+    "allow you to generate a game that meets your requested level of difficulty.\r"
+    "\r"
+    "Please select one or more different levels of difficulty on the \"New Games\" tab\r"
+    "and/or change your solve selections on the \"Logic\" tab.";
+
+constexpr std::string_view RangeNotice =
+    "A new game cannot be generated because the minimum # of givens exceeds\r"
+    "the maximum # of givens on the \"New Games\" tab of the configuration screen.";
+
+std::string FewGivensQuestion()
+{
+    return "The maximum # of givens is set to " + std::to_string(MaxGivens) +
+           " on the \"New Games\" tab of the configuration screen,\r"
+           "yet a single-solution game with less than 17 givens has never been found.\r"
+           "\r"
+           "Would you like to continue searching anyway?";
+}
+
+// True when the settings can work, or the player wants to try all the same.
+bool SettingsAreAccepted()
+{
+    if (SelectsNoLevel()) {
+        ShowMessage(NoLevelNotice);
+        return false;
+    }
+    if (!SelectsLevelWithTechniques()) {
+        ShowMessage(NoTechniqueNotice);
+        return false;
+    }
+    if (AppliedLogicSolvesAll()) {
+        ShowMessage(AllSolvedNotice);
+        return false;
+    }
+    if (MinGivens > MaxGivens) {
+        ShowMessage(RangeNotice);
+        return false;
+    }
+    return MaxGivens >= FewestGivensFound || AskYesNo(FewGivensQuestion());
+}
+
+// ---- The game in hand ----------------------------------------------------------------------
+
+// What a search may touch and a stopped one must give back. The logic that is applied to new
+// games records undo states, also for games that are thrown away.
+struct GameInHand {
+    GridTable Cells = Grid;
+    std::array<GridTable, HistorySlots> Levels = History;
+    std::int32_t Count = HistoryCount;
+    std::int32_t Position = HistoryPosition;
+    Flag Modified = GameModified;
+};
+
+void BringBack(const GameInHand &game)
+{
+    Grid = game.Cells;
+    History = game.Levels;
+    HistoryCount = game.Count;
+    HistoryPosition = game.Position;
+    GameModified = game.Modified;
+    CountGivens();
+    RateGame();
+}
+
+void FillIfWished()
+{
+    if (SolveOnStart != False || FillOnStart != False) {
+        FillPencilmarks();
+    }
+}
+
+// Makes games until one is left unsolved by the logic that is applied to it, and starts it.
+void SearchAndStart(const GameInHand &before)
+{
+    while (true) {
+        if (!GenerateGame()) {
+            BringBack(before);
+            return;
+        }
+        FillIfWished();
+        if (SolveOnStart == False || ApplyLogic(SolveAsPlayer) == NotSolved) {
+            StartGame(NewGame);
+            return;
+        }
+    }
+}
+
+} // namespace
+
+void mnuGameRandom()
+{
+    QuerySaveGame();
+    if (LastAnswer == AnsweredCancel) {
+        return;
+    }
+    if (RevealPattern != ExposeManually && !SettingsAreAccepted()) {
+        return;
+    }
+    // The history is too large for the stack.
+    const auto before = std::make_unique<GameInHand>();
+    GamesScreened = 0;
+    SearchAndStart(*before);
+    DrawBoard();
+    RefreshWindow();
+}
+
+void UserSelectedGame()
+{
+    QuerySaveGame();
+    if (LastAnswer == AnsweredCancel) {
+        return;
+    }
+    const auto before = std::make_unique<GameInHand>();
+    GamesScreened = 0;
+    if (!SelectGameNumber(UserSelected)) {
+        return;
+    }
+    if (GenerateGame()) {
+        FillIfWished();
+        if (SolveOnStart != False) {
+            ApplyLogic(SolveAsPlayer);
+        }
+        StartGame(NewGame);
+    } else {
+        BringBack(*before);
+    }
+    DrawBoard();
+    RefreshWindow();
+}
+
+} // namespace kelvarine

@@ -1,0 +1,98 @@
+#!/usr/bin/python3
+"""Asks for a random game, then for one that cannot be found, stops the search in every way and
+finds the earlier game back."""
+
+import sys
+import time
+
+from desktop import Desktop, Game, GIVEN_FILL, wait_for
+
+
+def expect(condition, what):
+    if not condition:
+        raise AssertionError(what)
+    print("ok:", what, flush=True)
+
+
+def answer(desktop, game, key):
+    box = desktop.dialog(other_than=[game.window])
+    desktop.key(key)
+    desktop.gone(box)
+    game.focus()
+
+
+def makes_a_game(desktop, program):
+    game = Game(desktop, program)
+    game.resize(900, 980)
+    expect(game.copy_line() == "." * 81, "the program starts on an empty grid")
+    desktop.key("ctrl+n")
+    line = wait_for(lambda: next((l for l in [game.copy_line()] if l != "." * 81), None),
+                    "a random game")
+    expect(17 <= sum(mark != "." for mark in line) <= 40, "it has 17 to 40 givens")
+    game.process.kill()
+    game.process.wait()
+
+
+def banner_is_up(game):
+    """The white box of the banner covers the middle of the board."""
+    picture = game.picture()
+    width, height = picture.size
+    box = picture.crop((width // 2 - 60, height // 2 - 40, width // 2 + 60, height // 2 + 60))
+    pixels = list(box.getdata())
+    return sum(1 for pixel in pixels if min(pixel) > 240) > len(pixels) // 3
+
+
+def banner_moves(game):
+    first = game.picture()
+    time.sleep(0.3)
+    return game.picture().tobytes() != first.tobytes()
+
+
+def stops_a_search(desktop, program, pictures):
+    game = Game(desktop, program)
+    game.resize(900, 980)
+    desktop.set_clipboard("5" + "." * 79 + "9")
+    desktop.key("ctrl+v")
+    wait_for(lambda: game.board().fill(1, 1) == GIVEN_FILL, "the earlier game")
+
+    ways = {
+        "a key": lambda: desktop.key("5"),
+        "a click": lambda: desktop.xdotool("mousemove", "--window", game.window, 300, 300,
+                                           "click", 1),
+        "a menu": lambda: desktop.key("alt+a"),
+        "closing the window": lambda: desktop.key("alt+F4"),
+    }
+    for way, act in ways.items():
+        desktop.key("ctrl+n")
+        answer(desktop, game, "alt+n")  # save first?
+        answer(desktop, game, "alt+y")  # search all the same?
+        wait_for(lambda: banner_is_up(game), "the banner")
+        expect(banner_moves(game), "the count of games goes up")
+        if pictures:
+            game.picture().save(f"{pictures}/search.png")
+        start = time.monotonic()
+        act()
+        box = desktop.dialog(other_than=[game.window])
+        expect(time.monotonic() - start < 1.0, f"{way} brings the question at once")
+        desktop.key("Return")  # No is the default
+        desktop.gone(box)
+        game.focus()
+        expect(banner_moves(game), "on No the search goes on")
+        act()
+        answer(desktop, game, "alt+y")
+        line = game.copy_line()
+        expect(line == "5" + "." * 79 + "9", f"stopped by {way}, the earlier game is back")
+        expect(game.board().fill(1, 1) == GIVEN_FILL, "and on the board")
+    game.process.kill()
+
+
+def main():
+    pictures = sys.argv[3] if len(sys.argv) > 3 else None
+    with Desktop() as desktop:
+        makes_a_game(desktop, sys.argv[1])
+        stops_a_search(desktop, sys.argv[2], pictures)
+    print("random game: all as it should be")
+
+
+if __name__ == "__main__":
+    main()
