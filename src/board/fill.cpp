@@ -62,8 +62,10 @@ std::optional<Colour> WinPattern(Cell cell)
         return WinColours[cell.Row];
     case 5:
         return WinColours[(column + row) % 2 == 1 ? 2 : 1];
-    case 6:
-        return WinColours[static_cast<std::size_t>((column + 2) / 3 * ((row + 2) / 3))];
+    case 6: {
+        const int product = (column + 2) / 3 * ((row + 2) / 3);
+        return WinColours[static_cast<std::size_t>(product)];
+    }
     default:
         return std::nullopt;
     }

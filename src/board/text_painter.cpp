@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <string>
 
 namespace kelvarine {
 
@@ -13,11 +14,11 @@ namespace {
 
 constexpr double PixelsPerPoint = 96.0 / 72.0;
 
-Face FaceOf(QRawFont font)
+Face FaceOf(const QRawFont &font)
 {
     const int ascent = static_cast<int>(std::lround(font.ascent()));
     const int height = ascent + static_cast<int>(std::lround(font.descent()));
-    return {std::move(font), ascent, height};
+    return {font, ascent, height};
 }
 
 QString Letters(std::string_view text)

@@ -3,6 +3,7 @@
 #include "board/fill.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 // The macro declares a function of the global namespace, so it cannot stand in ours.
