@@ -79,6 +79,7 @@ TEST_F(GridLines, ClosingBarsLieRightAndBelow)
     EXPECT_EQ(RowOf(picture, CellY(2), right, right + 7), bar);
     EXPECT_EQ(ColumnOf(picture, CellX(2), bottom, bottom + 7), bar);
     EXPECT_EQ(PixelAt(picture, right - 1, CellY(2)), Untouched);
+    EXPECT_EQ(PixelAt(picture, CellX(2), bottom - 1), Untouched);
     EXPECT_EQ(PixelAt(picture, right + 8, CellY(2)), Untouched);
     EXPECT_EQ(PixelAt(picture, CellX(2), bottom + 8), Untouched);
     // They begin at the first cell, not in the corner of the bars before it.

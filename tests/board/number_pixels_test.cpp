@@ -101,6 +101,23 @@ TEST_F(Numbers, DigitsAreDrawnWholeAndDifferFromEachOther)
     }
 }
 
+TEST_F(Numbers, EdgesOfDigitsBlendWithWhatLiesBeneath)
+{
+    ColourTable[UnknownCellColour] = 0xFFFFFF;
+    ColourTable[UnknownNumberColour] = 0x00FF00;
+    WordAt(Place) = Candidates("8");
+    const QImage board = PaintedBoard();
+    int blended = 0;
+    for (int y = CellY(5); y < CellY(5) + CellHeight; ++y) {
+        for (const Colour colour : RowOf(board, y, CellX(5), CellX(5) + CellWidth - 1)) {
+            EXPECT_EQ(colour >> 8 & 0xFF, 0xFFU);
+            EXPECT_EQ(colour >> 16, colour & 0xFF);
+            blended += colour != 0xFFFFFF && colour != 0x00FF00 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(blended, 20);
+}
+
 TEST_F(Numbers, PairStandsOnTheDiagonal)
 {
     PencilmarkLayout = 0;
