@@ -70,8 +70,10 @@ int CountCandidates(int column, int row)
 
 void ClearCellBits(CellWord mask)
 {
-    for (const Cell cell : Cells) {
-        WordAt(cell) &= ~mask;
+    for (std::size_t column = 1; column <= 9; ++column) {
+        for (std::size_t row = 1; row <= 9; ++row) {
+            Grid[column][row] &= ~mask;
+        }
     }
 }
 
@@ -116,8 +118,8 @@ void SaveStartPosition()
 
 void CopyCells(const GridTable &from, GridTable &to)
 {
-    for (const Cell cell : Cells) {
-        to[cell.Column][cell.Row] = from[cell.Column][cell.Row];
+    for (std::size_t column = 1; column <= 9; ++column) {
+        std::copy(from[column].begin() + 1, from[column].end(), to[column].begin() + 1);
     }
 }
 

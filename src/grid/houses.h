@@ -83,11 +83,21 @@ inline constexpr auto Houses = [] {
     return houses;
 }();
 
-// The three houses of a cell as indices into Houses: column, row, box.
-constexpr std::array<std::uint8_t, 3> HousesOf(int column, int row)
+// The three houses of every cell, in scan order, as indices into Houses: column, row, box.
+inline constexpr auto CellHouses = [] {
+    std::array<std::array<std::uint8_t, 3>, 81> houses{};
+    for (const Cell cell : Cells) {
+        houses[static_cast<std::size_t>(CellIndex(cell))] = {
+            static_cast<std::uint8_t>(cell.Column - 1), static_cast<std::uint8_t>(cell.Row + 8),
+            static_cast<std::uint8_t>(18 + BoxIndex(cell.Column, cell.Row))};
+    }
+    return houses;
+}();
+
+// The three houses of the cell at column and row, both 1..9.
+constexpr const std::array<std::uint8_t, 3> &HousesOf(int column, int row)
 {
-    return {static_cast<std::uint8_t>(column - 1), static_cast<std::uint8_t>(row + 8),
-            static_cast<std::uint8_t>(18 + BoxIndex(column, row))};
+    return CellHouses[static_cast<std::size_t>(CellIndex(column, row))];
 }
 
 // True when two different cells share a column, a row or a box.

@@ -67,28 +67,22 @@ void SetCandidates(CellWord &word, CellWord mask)
     word = (word & ~CandidateMask) | mask;
 }
 
-// The numbers already placed in each house.
-std::array<CellWord, 27> PlacedNumbers()
+// The numbers already placed in each house, as the tallies' numbers in at least one cell.
+HouseTallies PlacedNumbers()
 {
-    std::array<CellWord, 27> placed{};
-    for (const Cell cell : Cells) {
-        const CellWord word = WordAt(cell);
-        if (HoldsNumber(word)) {
-            for (const std::uint8_t house : HousesOf(cell.Column, cell.Row)) {
-                placed[house] |= word & CandidateMask;
-            }
-        }
-    }
-    return placed;
+    return TallyHouses([](std::size_t /*index*/, CellWord word) {
+        return HoldsNumber(word) ? word & CandidateMask : 0;
+    });
 }
 
-CellWord PlacedInDomain(const std::array<CellWord, 27> &placed, Cell cell)
+// Numbers that any of a cell's houses holds once, and that any of them holds twice.
+Tally InDomain(const HouseTallies &tallies, std::size_t index)
 {
-    CellWord numbers = 0;
-    for (const std::uint8_t house : HousesOf(cell.Column, cell.Row)) {
-        numbers |= placed[house];
-    }
-    return numbers;
+    const auto &houses = CellHouses[index];
+    const Tally &column = tallies[houses[0]];
+    const Tally &row = tallies[houses[1]];
+    const Tally &box = tallies[houses[2]];
+    return {column.Once | row.Once | box.Once, column.Twice | row.Twice | box.Twice};
 }
 
 // First cell of a house, in scan order, that passes a test; the house must have one.
@@ -98,38 +92,52 @@ Cell FirstCell(const House &house, const Test &test)
     return *std::ranges::find_if(house.Cells, test);
 }
 
-// Tally of the cells of a house that are no givens, together with what stands in the way of
-// finding a hidden single there: numbers of givens and numbers that already stand alone.
-struct OpenNumbers {
-    Tally Open;
-    CellWord Closed = 0;
+// Candidates that may be hidden singles, and those that stand in the way of one in their houses:
+// numbers of givens and numbers that already stand alone.
+CellWord OpenNumbers(CellWord word)
+{
+    return (word & GivenBit) != 0 ? 0 : word & CandidateMask;
+}
 
-    void Add(CellWord word)
-    {
-        if ((word & GivenBit) != 0) {
-            Closed |= word & CandidateMask;
-            return;
-        }
-        Open.Add(word);
-        if (HoldsNumber(word)) {
-            Closed |= word & CandidateMask;
-        }
-    }
+CellWord ClosedNumbers(CellWord word)
+{
+    return (word & GivenBit) != 0 || HoldsNumber(word) ? word & CandidateMask : 0;
+}
 
-    // Numbers with one place left, in a cell that has other candidates too.
-    [[nodiscard]] CellWord Singles() const
-    {
-        return Open.Single() & ~Closed;
-    }
-};
-
+// Numbers with one place left in a house, in a cell that has other candidates too.
 CellWord HiddenSinglesOf(const House &house)
 {
-    OpenNumbers numbers;
+    Tally open;
+    CellWord closed = 0;
     for (const Cell cell : house.Cells) {
-        numbers.Add(WordAt(cell));
+        open.Add(OpenNumbers(WordAt(cell)));
+        closed |= ClosedNumbers(WordAt(cell));
     }
-    return numbers.Singles();
+    return open.Single() & ~closed;
+}
+
+using HouseNumbers = std::array<CellWord, 27>;
+
+HouseNumbers HiddenSinglesNow()
+{
+    const HouseTallies open =
+        TallyHouses([](std::size_t /*index*/, CellWord word) { return OpenNumbers(word); });
+    const HouseTallies closed =
+        TallyHouses([](std::size_t /*index*/, CellWord word) { return ClosedNumbers(word); });
+    HouseNumbers singles{};
+    for (std::size_t h = 0; h < singles.size(); ++h) {
+        singles[h] = open[h].Single() & ~closed[h].Once;
+    }
+    return singles;
+}
+
+CellWord AnyOf(const HouseNumbers &numbers)
+{
+    CellWord any = 0;
+    for (const CellWord house : numbers) {
+        any |= house;
+    }
+    return any;
 }
 
 } // namespace
@@ -163,19 +171,20 @@ void FindUnplacedLastCandidate(std::int32_t mode, Flag &found)
 
 void FindUnplacedNakedSingle(std::int32_t mode, Flag &found)
 {
-    std::array<CellWord, 27> placed = PlacedNumbers();
-    for (const Cell cell : Cells) {
+    HouseTallies placed = PlacedNumbers();
+    for (std::size_t k = 0; k < Cells.size(); ++k) {
+        const Cell cell = Cells[k];
         if (HoldsNumber(WordAt(cell))) {
             continue;
         }
-        const CellWord open = CandidateMask & ~PlacedInDomain(placed, cell);
+        const CellWord open = CandidateMask & ~InDomain(placed, k).Once;
         if (CandidatesIn(open) != 1) {
             continue;
         }
         const auto place = [&](CellWord &word) {
             SetCandidates(word, open);
-            for (const std::uint8_t house : HousesOf(cell.Column, cell.Row)) {
-                placed[house] |= open;
+            for (const std::uint8_t house : CellHouses[k]) {
+                placed[house].Add(open);
             }
         };
         if (ActOnTarget(
@@ -190,29 +199,23 @@ void FindUnplacedHiddenSingle(std::int32_t mode, Flag &found)
 {
     // What each open cell could hold by the numbers placed now. Placements of this call do not
     // change it: all of them are judged on the position at its start.
-    const std::array<CellWord, 27> placed = PlacedNumbers();
+    const HouseTallies placed = PlacedNumbers();
     std::array<CellWord, 81> possible{};
-    HouseTallies tallies{};
-    for (std::size_t k = 0; k < Cells.size(); ++k) {
-        const Cell cell = Cells[k];
-        if (!HoldsNumber(WordAt(cell))) {
-            possible[k] = CandidateMask & ~PlacedInDomain(placed, cell);
-            for (const std::uint8_t house : HousesOf(cell.Column, cell.Row)) {
-                tallies[house].Add(possible[k]);
-            }
-        }
-    }
-    CellWord any = 0;
-    for (std::size_t h = 0; h < Houses.size(); ++h) {
-        any |= tallies[h].Single();
-    }
+    const HouseTallies tallies = TallyHouses([&](std::size_t index, CellWord word) {
+        possible[index] = HoldsNumber(word) ? 0 : CandidateMask & ~InDomain(placed, index).Once;
+        return possible[index];
+    });
+    HouseNumbers singles{};
+    std::ranges::transform(tallies, singles.begin(),
+                           [](const Tally &house) { return house.Single(); });
+    const CellWord any = AnyOf(singles);
     for (int number = 1; number <= 9; ++number) {
         const CellWord bit = BitTable[static_cast<std::size_t>(number)];
         if ((any & bit) == 0) {
             continue;
         }
         for (std::size_t h = 0; h < Houses.size(); ++h) {
-            if ((tallies[h].Single() & bit) == 0) {
+            if ((singles[h] & bit) == 0) {
                 continue;
             }
             const House &house = Houses[h];
@@ -235,30 +238,30 @@ void ApplyNakedSingles(std::int32_t mode, Flag &found)
     if (mode != ModeChange) {
         return;
     }
-    // Numbers that occur twice in a house; the removals below can only shorten these, so a number
-    // that is missing here needs no walk.
-    HouseTallies tallies{};
-    for (const Cell cell : Cells) {
-        for (const std::uint8_t house : HousesOf(cell.Column, cell.Row)) {
-            tallies[house].Add(WordAt(cell));
+    // The numbers that the cells met so far take out of their houses. Each cell is met as it stands
+    // after the removals of those before it; the words themselves are brought up to date at the
+    // end, which is the same, since only removals happen in between.
+    HouseTallies removed{};
+    std::array<CellWord, 81> own{}; // what a cell takes out of its houses
+    for (std::size_t k = 0; k < Cells.size(); ++k) {
+        const CellWord word = WordAt(Cells[k]);
+        const bool isGiven = (word & GivenBit) != 0;
+        const CellWord numbers = word & CandidateMask & ~(isGiven ? 0 : InDomain(removed, k).Once);
+        if (HoldsNumber(numbers)) {
+            own[k] = numbers;
+            for (const std::uint8_t house : CellHouses[k]) {
+                removed[house].Add(numbers);
+            }
         }
     }
-    for (const Cell cell : Cells) {
-        const CellWord number = WordAt(cell) & CandidateMask;
-        if (!HoldsNumber(number)) {
-            continue;
-        }
-        for (const std::uint8_t house : HousesOf(cell.Column, cell.Row)) {
-            if ((tallies[house].Twice & number) == 0) {
-                continue;
-            }
-            for (const Cell other : Houses[house].Cells) {
-                CellWord &word = WordAt(other);
-                if (other != cell && (word & GivenBit) == 0 && (word & number) != 0) {
-                    word &= ~number;
-                    found = True;
-                }
-            }
+    for (std::size_t k = 0; k < Cells.size(); ++k) {
+        CellWord &word = WordAt(Cells[k]);
+        const Tally domain = InDomain(removed, k);
+        // A cell loses its own number only to another cell.
+        const CellWord gone = (domain.Once & ~own[k]) | (domain.Twice & own[k]);
+        if ((word & GivenBit) == 0 && (word & gone) != 0) {
+            word &= ~gone;
+            found = True;
         }
     }
 }
@@ -268,19 +271,8 @@ void ApplyHiddenSingles(std::int32_t mode, Flag &found)
     if (mode != ModeChange) {
         return;
     }
-    std::array<OpenNumbers, 27> open{};
-    for (const Cell cell : Cells) {
-        for (const std::uint8_t house : HousesOf(cell.Column, cell.Row)) {
-            open[house].Add(WordAt(cell));
-        }
-    }
-    std::array<CellWord, 27> singles{};
-    CellWord any = 0;
-    for (std::size_t h = 0; h < Houses.size(); ++h) {
-        singles[h] = open[h].Singles();
-        any |= singles[h];
-    }
-    if (any == 0) {
+    HouseNumbers singles = HiddenSinglesNow();
+    if (AnyOf(singles) == 0) {
         return;
     }
     for (int number = 1; number <= 9; ++number) {
