@@ -8,6 +8,7 @@
 #include "game/lifecycle.h"
 #include "game/win_display.h"
 #include "generator/game_number.h"
+#include "generator/generator.h"
 #include "grid/grid.h"
 #include "input/mouse.h"
 #include "logic/driver.h"
@@ -24,6 +25,7 @@ void SetDefaults()
     SetLifecycleDefaults();
     SetClockDefaults();
     SetWinDisplayDefaults();
+    SetGeneratorDefaults();
     GameNumber = 0;
     SetLookDefaults();
     SetGeometryDefaults();

@@ -4,6 +4,7 @@
 #include "game/assistance.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
+#include "game/new_games.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
 #include "input/mouse.h"
@@ -92,6 +93,7 @@ constexpr std::array Rows{
     KeyRow{'L', ShiftKey, nullptr},
     KeyRow{'L', CtrlKey, Plain<mnuApplyLogic>},
     KeyRow{'L', AnyShift, Plain<mnuShowLogicNeeded>},
+    KeyRow{'N', CtrlKey, Plain<mnuGameRandom>},
     KeyRow{'R', CtrlKey, Plain<mnuRestartSameGame>},
     KeyRow{'S', CtrlKey, nullptr},
     KeyRow{'S', ShiftKey | CtrlKey, nullptr},

@@ -7,6 +7,7 @@
 #include "game/clock.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
+#include "game/new_games.h"
 #include "grid/grid.h"
 #include "input/keys.h"
 #include "input/mouse.h"
@@ -85,6 +86,7 @@ bool IsInView(std::int32_t number)
 constexpr std::array Rows{
     MenuRow{1, "mnuGame", "&Game", ""},
     MenuRow{2, "mnuNew", "&New", ""},
+    MenuRow{3, "mnuGameRandom", "&Random", "Ctrl+N", Plain<mnuGameRandom>},
     MenuRow{3, "mnuGameClipboard", "From &clipboard", "Ctrl+V", Plain<mnuGameClipboard>},
     MenuRow{3, "mnuGameTextString", "From &text string", "Ctrl+T", Plain<mnuGameTextString>},
     MenuRow{3, "mnuGameBlankGrid", "&Blank grid", "Ctrl+B", Plain<mnuGameBlankGrid>},

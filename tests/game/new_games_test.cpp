@@ -179,10 +179,8 @@ TEST_F(NewGames, StopIsHeardAtEveryYield)
     const GridTable before = Grid;
     MaxGivens = 40;
     DifficultySelection = BitTable[5];
-    LevelTable[6] = BitTable[18]; // never used by a game that ends there: nothing passes
-    LevelTable[5] |= BitTable[18];
-    LevelTable[4] &= ~BitTable[18];
-    MaxSinglesLinks = 81;
+    LevelTable[6] = BitTable[19]; // no technique stands behind it, so nothing passes
+    LevelTable[5] |= BitTable[19];
     for (int stopAt = 1; stopAt < 1500; stopAt += 7) {
         GameModified = False;
         Seen.Yields = 0;
