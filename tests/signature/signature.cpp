@@ -89,7 +89,8 @@ void MakeAbsurdPosition(int number)
     init_genrand(static_cast<std::uint32_t>(number) + 100000);
     for (const Cell cell : Cells) {
         CellWord &word = WordAt(cell);
-        word = Draw() << 1 ^ Draw();
+        word = Draw() << 1; // in two steps: the order of the draws must be settled
+        word ^= Draw();
         for (int k = 0; k < number % 4; ++k) {
             word &= ~(Draw() & CandidateMask);
         }

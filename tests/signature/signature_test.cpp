@@ -6,7 +6,7 @@ namespace kelvarine::testing {
 namespace {
 
 // A commit that changes this number says why; one that only makes things faster leaves it alone.
-constexpr std::uint64_t Expected = 0;
+constexpr std::uint64_t Expected = 7798220367753086184ULL;
 
 TEST(Signature, IsTheOneInTheRepository)
 {
