@@ -37,15 +37,6 @@ void Append(std::string &list, const std::string &item)
     list += (list.empty() ? "" : " ") + item;
 }
 
-std::string WithAllCandidates(std::string_view drawing)
-{
-    std::string text;
-    for (const char mark : drawing) {
-        text += mark == '*' ? "123456789" : std::string(1, mark);
-    }
-    return text;
-}
-
 void DescribeChanges(const GridTable &before, Left &left)
 {
     constexpr CellWord told =
@@ -109,10 +100,19 @@ void PrintTo(const Left &left, std::ostream *out)
     line("Other", left.Other);
 }
 
+void SetPosition(std::string_view drawing)
+{
+    std::string text;
+    for (const char mark : drawing) {
+        text += mark == '*' ? "123456789" : std::string(1, mark);
+    }
+    SetPencilmarks(text);
+}
+
 Left Call(const Technique &technique, std::int32_t mode, std::string_view drawing,
           std::string_view selected)
 {
-    SetPencilmarks(WithAllCandidates(drawing));
+    SetPosition(drawing);
     AddBits(selected, SelectedBit);
     HintText.clear();
     HintTitle.clear();

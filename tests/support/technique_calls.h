@@ -31,8 +31,11 @@ struct Left {
 
 void PrintTo(const Left &left, std::ostream *out);
 
-// Draws a position as SetPencilmarks does, with "*" for all nine candidates; selects some cells,
-// calls the technique on it with no words and no list standing, and tells what it left.
+// Reads a position as SetPencilmarks does, with "*" for all nine candidates. Replaces Grid.
+void SetPosition(std::string_view drawing);
+
+// Draws a position with SetPosition, selects some cells, calls the technique on it with no words
+// and no list standing, and tells what it left.
 Left Call(const Technique &technique, std::int32_t mode, std::string_view drawing,
           std::string_view selected = "");
 
