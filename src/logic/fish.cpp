@@ -194,7 +194,7 @@ Places CoverOf(const PlacesByHouse &places, const FishForm &form, CellWord base,
 bool ActOnFish(const Fish &fish, std::int32_t mode, Flag &found)
 {
     const CellWord bit = BitTable[static_cast<std::size_t>(fish.Number)];
-    const std::size_t name = static_cast<std::size_t>(fish.Size - 2);
+    const auto name = static_cast<std::size_t>(fish.Size - 2);
     for (Places cover = fish.Cover; cover != 0; cover &= static_cast<Places>(cover - 1)) {
         const House &line = Houses[fish.Form.FirstCover + FirstPlace(cover)];
         for (std::size_t k = 0; k < line.Cells.size(); ++k) {

@@ -270,13 +270,13 @@ bool VisitHouses(Search &search, Flag &found, int number, PlacesByHouse &listed)
 {
     const PlacesByHouse &places = search.Table.Of[static_cast<std::size_t>(number)];
     search.Counts = CountsOf(places);
-    for (std::uint8_t h = 0; h < Houses.size(); ++h) {
+    for (std::size_t next = 1; next <= Houses.size(); ++next) {
+        const auto h = static_cast<std::uint8_t>(next - 1);
         // A cell without candidates ends the walk before any conclusion.
         const auto &locked = h < FirstBox ? Tabulated<AreLockedInLine> : Tabulated<AreLockedInBox>;
         if (!locked[places[h]] || search.Table.Filled[h] != AllPlaces) {
             continue;
         }
-        const std::size_t next = h + std::size_t{1};
         if (h < FirstBox ? ActInLine(search, number, h, places[h])
                          : ActInBox(search, number, h, places[h])) {
             std::fill(listed.begin() + next, listed.end(), Places{0});
