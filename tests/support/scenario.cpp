@@ -1,0 +1,41 @@
+#include "support/scenario.h"
+
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "generator/random_source.h"
+#include "grid/grid.h"
+#include "support/play.h"
+#include "support/presentation_double.h"
+
+namespace kelvarine::testing {
+
+void SetScenario(CellWord filter)
+{
+    Restart();
+    init_genrand(1);
+    StartSavedGame(EasyGame);
+    mnuTakeSnapshot();
+    for (const CellWord candidates : {0x01EU, 0x1F8U, 0x0AAU}) {
+        Grid[3][1] = candidates | SelectedBit;
+        Grid[4][1] = candidates << 1 | SelectedBit;
+        Grid[5][1] |= SelectedBit; // a given
+        PushUndoState();
+    }
+    Undo();
+    AnchorColumn = 3;
+    AnchorRow = 1;
+    CursorColumn = 3;
+    CursorRow = 1;
+    NumberFilter = filter;
+    GameModified = False;
+    ForgetRecord();
+}
+
+std::string StateAfter(const std::function<void()> &command, CellWord filter)
+{
+    SetScenario(filter);
+    command();
+    return ProgramState();
+}
+
+} // namespace kelvarine::testing
