@@ -14,6 +14,11 @@
 namespace kelvarine::testing {
 namespace {
 
+std::size_t CountSolutionsOf(std::string_view marks, std::size_t limit)
+{
+    return SolutionsOf(FieldOf(marks), limit).size();
+}
+
 class Generator : public ::testing::Test {
 protected:
     void SetUp() override
@@ -67,7 +72,7 @@ void ExpectFinishedGame()
     EXPECT_GE(givens, MinGivens);
     EXPECT_LE(givens, MaxGivens);
     const std::string numbers = NumbersOf(Grid);
-    EXPECT_EQ(CountSolutionsOf(numbers, 2), 1) << numbers;
+    EXPECT_EQ(CountSolutionsOf(numbers, 2), 1U) << numbers;
 }
 
 class GeneratorPattern : public Generator, public ::testing::WithParamInterface<std::int32_t> {};
@@ -203,7 +208,7 @@ TEST_F(Generator, ResultIsMinimalForTheLastTestOfEveryCell)
         if (game[place] != '.') {
             std::string less = game;
             less[place] = '.';
-            EXPECT_EQ(CountSolutionsOf(less, 2), 2) << "the given at " << place << " is not needed";
+            EXPECT_EQ(CountSolutionsOf(less, 2), 2U) << "the given at " << place << " is not needed";
         }
     }
 }

@@ -1,79 +1,99 @@
 #include "support/solution_counter.h"
 
-#include <array>
 #include <bit>
-#include <cstddef>
 
 namespace kelvarine::testing {
 
 namespace {
 
-struct Board {
-    std::array<unsigned, 9> Rows{};
-    std::array<unsigned, 9> Columns{};
-    std::array<unsigned, 9> Boxes{};
-    std::array<bool, 81> Filled{};
-
-    [[nodiscard]] unsigned Free(std::size_t place) const
-    {
-        return 0x1FFU & ~(Rows[place / 9] | Columns[place % 9] | Boxes[BoxOf(place)]);
-    }
-
-    void Toggle(std::size_t place, unsigned bit)
-    {
-        Rows[place / 9] ^= bit;
-        Columns[place % 9] ^= bit;
-        Boxes[BoxOf(place)] ^= bit;
-        Filled[place] = !Filled[place];
-    }
-
-    static std::size_t BoxOf(std::size_t place)
-    {
-        return place / 27 * 3 + place % 9 / 3;
-    }
+struct Search {
+    CandidateField Field{};
+    std::array<std::uint16_t, 9> RowUsed{};
+    std::array<std::uint16_t, 9> ColumnUsed{};
+    std::array<std::uint16_t, 9> BoxUsed{};
+    Solution Numbers{}; // 0 for an open cell
+    std::size_t Limit = 0;
+    std::vector<Solution> Found;
 };
 
-int Count(Board &board, int limit)
+constexpr std::size_t BoxOf(std::size_t place)
 {
-    std::size_t best = 81;
+    return place / 27 * 3 + place % 9 / 3;
+}
+
+unsigned Choices(const Search &search, std::size_t place)
+{
+    const unsigned used =
+        search.RowUsed[place / 9] | search.ColumnUsed[place % 9] | search.BoxUsed[BoxOf(place)];
+    return search.Field[place] & AnyNumber & ~used;
+}
+
+void Toggle(Search &search, std::size_t place, std::uint16_t bit)
+{
+    search.RowUsed[place / 9] ^= bit;
+    search.ColumnUsed[place % 9] ^= bit;
+    search.BoxUsed[BoxOf(place)] ^= bit;
+}
+
+// The open cell with the fewest choices, or 81 when all cells hold a number.
+std::size_t NarrowestCell(const Search &search)
+{
+    std::size_t narrowest = 81;
     int fewest = 10;
-    for (std::size_t place = 0; place < 81; ++place) {
-        if (!board.Filled[place]) {
-            const int choices = std::popcount(board.Free(place));
-            if (choices < fewest) {
-                fewest = choices;
-                best = place;
+    for (std::size_t place = 0; place < 81 && fewest > 1; ++place) {
+        if (search.Numbers[place] == 0) {
+            const int count = std::popcount(Choices(search, place));
+            if (count < fewest) {
+                fewest = count;
+                narrowest = place;
             }
         }
     }
-    if (best == 81) {
-        return 1;
+    return narrowest;
+}
+
+void Extend(Search &search)
+{
+    const std::size_t place = NarrowestCell(search);
+    if (place == 81) {
+        search.Found.push_back(search.Numbers);
+        return;
     }
-    int found = 0;
-    for (unsigned free = board.Free(best); free != 0 && found < limit; free &= free - 1) {
-        const unsigned bit = free & (~free + 1);
-        board.Toggle(best, bit);
-        found += Count(board, limit - found);
-        board.Toggle(best, bit);
+    for (unsigned rest = Choices(search, place); rest != 0 && search.Found.size() < search.Limit;
+         rest &= rest - 1) {
+        const int number = std::countr_zero(rest);
+        const auto bit = static_cast<std::uint16_t>(1U << number);
+        search.Numbers[place] = static_cast<std::uint8_t>(number);
+        Toggle(search, place, bit);
+        Extend(search);
+        Toggle(search, place, bit);
     }
-    return found;
+    search.Numbers[place] = 0;
 }
 
 } // namespace
 
-int CountSolutionsOf(std::string_view marks, int limit)
+CandidateField FieldOf(std::string_view line)
 {
-    Board board;
-    for (std::size_t place = 0; place < 81; ++place) {
-        if (marks[place] != '.') {
-            const unsigned bit = 1U << static_cast<unsigned>(marks[place] - '1');
-            if ((board.Free(place) & bit) == 0) {
-                return 0;
-            }
-            board.Toggle(place, bit);
+    CandidateField field{};
+    field.fill(AnyNumber);
+    for (std::size_t place = 0; place < field.size() && place < line.size(); ++place) {
+        if (line[place] >= '1' && line[place] <= '9') {
+            field[place] = static_cast<std::uint16_t>(1U << (line[place] - '0'));
         }
     }
-    return Count(board, limit);
+    return field;
+}
+
+std::vector<Solution> SolutionsOf(const CandidateField &field, std::size_t limit)
+{
+    Search search;
+    search.Field = field;
+    search.Limit = limit;
+    if (limit > 0) {
+        Extend(search);
+    }
+    return search.Found;
 }
 
 } // namespace kelvarine::testing

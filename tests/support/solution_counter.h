@@ -1,11 +1,28 @@
-// Counts solutions by plain backtracking, independently of the program's own code.
+// Finds the solutions of a sudoku by plain backtracking, apart from everything that is tested with
+// it: it includes nothing of the program.
 #pragma once
 
+#include <array>
+#include <cstddef>
+#include <cstdint>
 #include <string_view>
+#include <vector>
 
 namespace kelvarine::testing {
 
-// Number of solutions, at most limit, of 81 marks row after row: a digit 1..9 or "." for empty.
-int CountSolutionsOf(std::string_view marks, int limit);
+// What each of the 81 cells may hold, row by row: bit n stands for number n, 1..9.
+using CandidateField = std::array<std::uint16_t, 81>;
+
+// The numbers 1..9 of the 81 cells, row by row.
+using Solution = std::array<std::uint8_t, 81>;
+
+// Any number in a cell.
+inline constexpr std::uint16_t AnyNumber = 0x3FE;
+
+// The field of a game drawn as 81 marks: a digit 1..9 is a given, any other mark an open cell.
+CandidateField FieldOf(std::string_view line);
+
+// The solutions of a field in the order of the search, at most limit of them.
+std::vector<Solution> SolutionsOf(const CandidateField &field, std::size_t limit);
 
 } // namespace kelvarine::testing
