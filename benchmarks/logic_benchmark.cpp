@@ -1,0 +1,173 @@
+// What the logic costs on games of every level: counting, rating, the alert scan, the first stage
+// of a hint, and each technique alone. Each benchmark goes through a sample of positions; the
+// counters tell the median, the mean and the worst of one position in microseconds.
+#include "configure/defaults.h"
+#include "generator/random_source.h"
+#include "grid/grid.h"
+#include "logic/alerts.h"
+#include "logic/driver.h"
+#include "logic/rating.h"
+#include "logic/technique.h"
+#include "logic/technique_table.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <fstream>
+#include <functional>
+#include <numeric>
+#include <string>
+#include <vector>
+
+namespace kelvarine {
+namespace {
+
+using Sample = std::vector<GridTable>;
+
+// Lines of a file, each ending in 81 marks, with all pencilmarks filled in. Lines with a number in
+// front are taken only from that level on.
+Sample ReadGames(const char *path, int fromLevel)
+{
+    std::ifstream file(path);
+    Sample games;
+    std::string line;
+    while (std::getline(file, line)) {
+        if (line.size() < 81 || (line[1] == ' ' && line[0] - '0' < fromLevel)) {
+            continue;
+        }
+        const std::string marks = line.substr(line.size() - 81);
+        Grid = {};
+        for (std::size_t place = 0; place < 81; ++place) {
+            if (marks[place] != '.') {
+                Grid[place % 9 + 1][place / 9 + 1] =
+                    BitTable[static_cast<std::size_t>(marks[place] - '0')] | GivenBit;
+            }
+        }
+        FillPencilmarks();
+        games.push_back(Grid);
+    }
+    return games;
+}
+
+// Sets games back to a position of play by running some techniques on them.
+Sample AfterTechniques(Sample games, std::uint32_t mask)
+{
+    for (GridTable &game : games) {
+        Grid = game;
+        SolveMask = mask;
+        ApplyLogic(SolveForRating);
+        game = Grid;
+    }
+    std::erase_if(games, [](const GridTable &game) {
+        Grid = game;
+        return IsGridSolved() != False;
+    });
+    return games;
+}
+
+// Games in the middle: about half of the open cells have their number, the pencilmarks of all
+// others follow from the numbers.
+Sample MidGames(Sample games)
+{
+    init_genrand(1);
+    for (GridTable &game : games) {
+        Grid = game;
+        RateGame();
+        for (const Cell cell : Cells) {
+            CellWord &word = WordAt(cell);
+            if ((word & GivenBit) == 0 && genrand_real2() < 0.5) {
+                word = (word & ~CandidateMask) | (word & SolutionMask) >> SolutionShift;
+            }
+        }
+        Flag found = True;
+        while (found != False) {
+            found = False;
+            FindTechnique(1)->Driver[0](ModeChange, found);
+        }
+        game = Grid;
+    }
+    return games;
+}
+
+void Measure(benchmark::State &state, const Sample &sample, const std::function<void()> &work)
+{
+    using Clock = std::chrono::steady_clock;
+    std::vector<double> times(sample.size(), 1e9);
+    for (auto _ : state) {
+        for (std::size_t k = 0; k < sample.size(); ++k) {
+            Grid = sample[k];
+            const auto start = Clock::now();
+            work();
+            const std::chrono::duration<double, std::micro> time = Clock::now() - start;
+            times[k] = std::min(times[k], time.count());
+        }
+    }
+    std::ranges::sort(times);
+    state.counters["median_us"] = times[times.size() / 2];
+    state.counters["mean_us"] =
+        std::accumulate(times.begin(), times.end(), 0.0) / static_cast<double>(times.size());
+    state.counters["worst_us"] = times.back();
+    state.counters["positions"] = static_cast<double>(times.size());
+}
+
+void Register(const std::string &name, const Sample &sample, const std::function<void()> &work)
+{
+    benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State &state) {
+        Measure(state, sample, work);
+    })->Unit(benchmark::kMillisecond);
+}
+
+void RegisterTechniques(const Sample &sample)
+{
+    for (const TechniqueRow &row : Techniques) {
+        for (const std::int32_t mode : {ModeChange, ModeAlert}) {
+            const OperationList list = mode == ModeChange ? row.Driver : row.AlertScan;
+            Register(std::string(row.ReportName) + ", mode " + std::to_string(mode), sample, [=] {
+                Flag found = False;
+                HintText.clear();
+                for (const Operation operation : list) {
+                    if (operation != nullptr) {
+                        operation(mode, found);
+                    }
+                }
+            });
+        }
+    }
+}
+
+void RegisterAll()
+{
+    SetDefaults();
+    const Sample sparse = ReadGames(TEST_DATA "/puzzles.txt", 0);
+    const Sample all = ReadGames(TEST_DATA "/levels.txt", 1);
+    const Sample hard = ReadGames(TEST_DATA "/levels.txt", 4);
+    const Sample middle = MidGames(all);
+    const std::uint32_t upToFish = 0x1FFE;
+    const Sample stuck = AfterTechniques(hard, upToFish);
+
+    const auto count = [] {
+        SolveMask = CountingMask;
+        ApplyLogic(CountSolutions);
+    };
+    Register("count, 18 to 30 givens", sparse, count);
+    Register("count, games that need chains or trial", hard, count);
+    Register("rate, games that need chains or trial", hard, RateGame);
+    Register("rate, games of all levels", all, RateGame);
+    AlertMask = RatingMask;
+    Register("alert scan, mid-game", middle, [] { ScanAlerts(ModeAlert); });
+    Register("alert scan, stuck", stuck, [] { ScanAlerts(ModeAlert); });
+    Register("first hint stage, stuck", stuck, [] { ScanAlerts(ModeTeaser); });
+    RegisterTechniques(AfterTechniques(all, 0x6));
+}
+
+} // namespace
+} // namespace kelvarine
+
+int main(int argc, char **argv)
+{
+    kelvarine::RegisterAll();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
