@@ -35,11 +35,6 @@ protected:
     }
 };
 
-std::string Dots(std::size_t count)
-{
-    return std::string(count, '.');
-}
-
 void OpenClipboard(std::string text)
 {
     Seen.Clipboard = std::move(text);
@@ -107,6 +102,8 @@ TEST_F(TextCommands, OuterLineEndsAreNoBlanks)
     OpenClipboard("\r\n 12" + Dots(80));
     EXPECT_EQ(CellsWith(GivenBit), "");
     EXPECT_EQ(Grid[1][1] & LastingFields, BitTable[1] | BitTable[2]);
+    OpenClipboard("12" + Dots(80) + " \r\n");
+    EXPECT_EQ(Grid[1][1] & LastingFields, BitTable[1] | BitTable[2]) << "the blank counts";
 }
 
 TEST_F(TextCommands, TypedTextBecomesANewGame)

@@ -21,11 +21,6 @@ protected:
     }
 };
 
-std::string Dots(std::size_t count)
-{
-    return std::string(count, '.');
-}
-
 // A drawing with its lines ended as in a text that leaves the program.
 std::string WithLineEnds(std::string_view drawing)
 {

@@ -316,7 +316,8 @@ TEST_F(HistoryOfMoves, BehavesAsAListOverThousandsOfRandomSteps)
     // The states in use, newest first, and which of them is on view.
     std::vector<CellWord> states{0};
     std::size_t onView = 0;
-    Restart();
+    HistoryCount = 0;
+    HistoryPosition = 0;
     PushUndoState();
     // Runs of undo, redo and pushes, so that both ends are reached.
     for (int step = 0; step < 6000; ++step) {

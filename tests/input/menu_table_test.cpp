@@ -211,7 +211,7 @@ std::optional<KeyPress> KeyOf(std::string_view shortcut)
     } else if (shortcut == " -") {
         key.Code = 189;
     } else if (shortcut.size() == 1) {
-        key.Code = shortcut.front();
+        key.Code = static_cast<unsigned char>(shortcut.front());
     } else {
         return std::nullopt;
     }

@@ -175,6 +175,16 @@ TEST_F(Mouse, RightPressSelectsNothing)
     ExpectPointer(0, 0, 0, 0);
 }
 
+TEST_F(Mouse, EveryOtherButtonSelectsAsTheLeftOne)
+{
+    for (const std::int32_t button : {0, 1, 3, 4}) {
+        Grid = {};
+        PressOn(4, 7, 0, button);
+        EXPECT_EQ(CellsWith(SelectedBit), "D7") << button;
+        ExpectPointer(4, 7, 4, 7);
+    }
+}
+
 TEST_F(Mouse, PressEndsTheWinDisplayAndThenActs)
 {
     StartWinDisplay();

@@ -72,6 +72,12 @@ std::string ProgramState()
     return text.str();
 }
 
+std::string Dots(std::size_t count)
+{
+    std::string dots;
+    return dots.append(count, '.');
+}
+
 bool SameCells(const GridTable &a, const GridTable &b, CellWord fields)
 {
     return std::ranges::all_of(Cells, [&](Cell cell) {

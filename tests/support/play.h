@@ -51,6 +51,9 @@ std::vector<std::string> Acts();
 // Everything that a command may change, as one text of which each line names its piece.
 std::string ProgramState();
 
+// So many empty cells as text.
+std::string Dots(std::size_t count);
+
 // The 81 words of two grids, compared in some fields.
 bool SameCells(const GridTable &a, const GridTable &b, CellWord fields = ~CellWord{0});
 
