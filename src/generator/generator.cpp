@@ -7,6 +7,10 @@
 #include "logic/driver.h"
 #include "logic/rating.h"
 
+#include <algorithm>
+#include <array>
+#include <optional>
+
 namespace kelvarine {
 
 std::int32_t RevealPattern;
@@ -177,6 +181,80 @@ int StartFreely(FreeStart start)
     return tried;
 }
 
+// ---- The quick proof that one solution stays ----------------------------------------------
+
+using PlacedDigits = std::array<CellWord, 27>; // digits on view by house, as candidate bits
+
+void PlaceInHouses(PlacedDigits &placed, Cell cell, CellWord digit)
+{
+    for (const std::uint8_t house : HousesOf(cell.Column, cell.Row)) {
+        placed[house] |= digit;
+    }
+}
+
+CellWord DigitsInDomain(const PlacedDigits &placed, Cell cell)
+{
+    CellWord digits = 0;
+    for (const std::uint8_t house : HousesOf(cell.Column, cell.Row)) {
+        digits |= placed[house];
+    }
+    return digits;
+}
+
+// Whether no other open cell of a house could take the digit of a cell.
+bool IsOnlyPlace(const PlacedDigits &placed, const House &house, Cell cell, CellWord digit)
+{
+    return std::ranges::all_of(house.Cells, [&](Cell other) {
+        return other == cell || (WordAt(other) & GivenBit) != 0 ||
+               (DigitsInDomain(placed, other) & digit) != 0;
+    });
+}
+
+bool IsForced(const PlacedDigits &placed, Cell cell, CellWord digit)
+{
+    if ((DigitsInDomain(placed, cell) | digit) == CandidateMask) {
+        return true;
+    }
+    const auto &houses = HousesOf(cell.Column, cell.Row);
+    return std::ranges::any_of(houses, [&](std::uint8_t house) {
+        return IsOnlyPlace(placed, Houses[house], cell, digit);
+    });
+}
+
+// True when the digits on view force the digits of a cell and its partners one after the other.
+// The game then has the solutions that it had before these cells were taken out.
+bool GroupIsForced(Cell cell)
+{
+    PlacedDigits placed{};
+    for (const Cell other : Cells) {
+        if ((WordAt(other) & GivenBit) != 0) {
+            PlaceInHouses(placed, other, WordAt(other) & CandidateMask);
+        }
+    }
+    const auto isForced = [&](Cell member) {
+        const CellWord digit = (WordAt(member) & SolutionMask) >> SolutionShift;
+        if (!IsForced(placed, member, digit)) {
+            return false;
+        }
+        PlaceInHouses(placed, member, digit);
+        return true;
+    };
+    return isForced(cell) && std::ranges::all_of(PartnersOf(RevealPattern, cell), isForced);
+}
+
+// Whether the game has one solution after a cell and its partners were taken out, known to have
+// had one before or not. Empty when the player stopped the search.
+std::optional<bool> HasOneSolution(Cell cell, bool hadOne)
+{
+    if (hadOne && GroupIsForced(cell)) {
+        return true;
+    }
+    if (ApplyLogic(CountSolutions) == Stopped) {
+        return std::nullopt;
+    }
+    return SolutionCount == 1;
+}
+
 // ---- Screening -----------------------------------------------------------------------------
 
 // Whether the game just rated used every required technique of its own level and of those below.
@@ -275,15 +353,20 @@ bool RemoveCells()
         WordAt(cell) &= SolutionMask;
         ShowDigit(WordAt(cell));
     }
-    int tried = StartFreely(RevealPatterns[static_cast<std::size_t>(RevealPattern)].Start);
+    const FreeStart start = RevealPatterns[static_cast<std::size_t>(RevealPattern)].Start;
+    int tried = StartFreely(start);
+    bool hasOne = start == FreeStart::None; // the cells of a free start go without a test
+    SolveMask = CountingMask;
     do {
         const Cell cell = DrawUntried();
         tried += ForGroup(cell, TakeOut);
-        SolveMask = CountingMask;
-        if (ApplyLogic(CountSolutions) == Stopped) {
+        const std::optional<bool> one = HasOneSolution(cell, hasOne);
+        if (!one) {
             return false;
         }
-        if (SolutionCount != 1) {
+        if (*one) {
+            hasOne = true;
+        } else {
             ForGroup(cell, ShowDigit);
         }
     } while (tried < allCells);
