@@ -17,6 +17,7 @@ constexpr int ShortWalk = 12;
 // in a cell that has a target in common with the start. Marks and candidates only go during a
 // call, so a step with no prospect can be left out: nothing can be found behind it.
 struct Prospects {
+    CellSet Targets;             // all targets of these ends, some perhaps on the chain under way
     std::array<CellSet, 10> Any; // by number carried: cells from which there is a way
     std::array<std::array<std::uint8_t, 81>, 10> Cells; // valid for these
 };
@@ -80,6 +81,7 @@ void LookAhead(Search &search)
     };
     std::array<Place, 162> queue; // each link at most once for each of its numbers
     std::size_t tail = 0;
+    search.Ahead.Targets = NoCells;
     search.Ahead.Any.fill(NoCells);
     const auto enter = [&](int cell, int carried, int cells) {
         const auto number = static_cast<std::size_t>(carried);
@@ -90,7 +92,9 @@ void LookAhead(Search &search)
         ++tail;
     };
     for (CellSet ends = LinksWith(search, search.StartNumber); ends.Any(); ends.DropFirst()) {
-        if (TargetsOf(search, start, ends.First()).Any()) {
+        const CellSet targets = TargetsOf(search, start, ends.First());
+        if (targets.Any()) {
+            search.Ahead.Targets = search.Ahead.Targets | targets;
             enter(ends.First(), search.StartNumber, 0);
         }
     }
@@ -115,6 +119,7 @@ bool HasProspects(const Search &search, int cell, int carried, int depth)
     }
     const auto number = static_cast<std::size_t>(carried);
     return search.Ahead.Any[number].Has(cell) &&
+           search.Ahead.Targets.Without(search.Stack.On).Any() &&
            depth + search.Ahead.Cells[number][static_cast<std::size_t>(cell)] <= search.MaxCells;
 }
 

@@ -152,12 +152,11 @@ TEST_F(ChainsYardstick, RemotePairs)
     Random random(14);
     Findings findings{};
     constexpr std::array makers{chains::MakeMidGame, chains::MakePairRich, chains::MakeAbsurd};
-    constexpr std::array limits{0, 1, 2, 3, 4, 5, 6};
     for (int k = 0; k < 12000 && !HasFailure(); ++k) {
         const int kind = Below(random, 3);
         makers[static_cast<std::size_t>(kind)](random);
         chains::AddMarks(random);
-        MaxRPLinks = kind == 0 && Chance(random, 70) ? 81 : limits[random() % limits.size()];
+        MaxRPLinks = kind == 0 && Chance(random, 70) ? 81 : Below(random, kind == 2 ? 5 : 7);
         ComparePosition(random, plain::SearchRemotePairs, SearchRemotePairs, findings);
     }
     ExpectFindings(findings, 500);
@@ -168,7 +167,7 @@ TEST_F(ChainsYardstick, XYChains)
     Random random(15);
     Findings findings{};
     constexpr std::array makers{chains::MakeMidGame, chains::MakePairRich, chains::MakeAbsurd};
-    for (int k = 0; k < 9000 && !HasFailure(); ++k) {
+    for (int k = 0; k < 20000 && !HasFailure(); ++k) {
         const int kind = Below(random, 3);
         makers[static_cast<std::size_t>(kind)](random);
         chains::AddMarks(random);
@@ -208,7 +207,7 @@ TEST_F(ChainsYardstick, SinglesChains)
     Findings findings{};
     constexpr std::array makers{chains::MakeMidGame, chains::MakePairRich, chains::MakeAbsurd};
     constexpr std::array limits{0, 1, 2, 3, 4, 5, 6, 81, 81, 81};
-    for (int k = 0; k < 9000 && !HasFailure(); ++k) {
+    for (int k = 0; k < 20000 && !HasFailure(); ++k) {
         makers[static_cast<std::size_t>(Below(random, 3))](random);
         chains::AddMarks(random);
         MaxSinglesLinks = limits[random() % limits.size()];
