@@ -18,8 +18,8 @@ struct CellSet {
 
     static constexpr CellSet Of(int cell)
     {
-        return cell < 64 ? CellSet{std::uint64_t{1} << cell, 0}
-                         : CellSet{0, std::uint64_t{1} << (cell - 64)};
+        const std::uint64_t bit = std::uint64_t{1} << (cell & 63);
+        return cell < 64 ? CellSet{bit, 0} : CellSet{0, bit};
     }
 
     [[nodiscard]] constexpr bool Any() const

@@ -9,10 +9,10 @@ namespace {
 // The other way round than for XY-chains; intended.
 constexpr ChainMarks Marks{.Odd = HintCellBit, .Even = HintDomainBit};
 
-constexpr int NoCell = -1;
+constexpr std::uint8_t NoCell = 81;
 
 // By house of a cell, column, row and box: the cell at the other end of its strong link.
-using Partners = std::array<std::int8_t, 3>;
+using Partners = std::array<std::uint8_t, 3>;
 
 struct Search {
     std::int32_t Mode;
@@ -73,8 +73,8 @@ void FindLinks(Search &search)
         }
         const int first = places.First();
         const std::size_t kind = house / 9;
-        search.Links[static_cast<std::size_t>(first)][kind] = static_cast<std::int8_t>(second);
-        search.Links[static_cast<std::size_t>(second)][kind] = static_cast<std::int8_t>(first);
+        search.Links[static_cast<std::size_t>(first)][kind] = static_cast<std::uint8_t>(second);
+        search.Links[static_cast<std::size_t>(second)][kind] = static_cast<std::uint8_t>(first);
         search.Linked = search.Linked | places;
     }
 }

@@ -133,7 +133,7 @@ inline void MakeAbsurd(Random &random)
     const CellWord numbers = Chance(random, 50) ? CandidateMask : static_cast<CellWord>(random());
     const int givens = Below(random, 101);
     for (const Cell cell : Cells) {
-        CellWord word = static_cast<CellWord>(random());
+        auto word = static_cast<CellWord>(random());
         for (int k = 0; k < thin; ++k) {
             word &= ~(static_cast<CellWord>(random()) & CandidateMask);
         }

@@ -6,6 +6,7 @@
 #include "grid/names.h"
 #include "logic/plain/candidates.h"
 
+#include <array>
 #include <string>
 
 namespace kelvarine::testing::plain {
@@ -50,9 +51,14 @@ private:
     Flag &Found;
     CellWord PairMask = 0;
     int Depth = 0;
-    int ChainCol[83] = {};
-    int ChainRow[83] = {};
-    int NextPeer[83] = {};
+    std::array<int, 83> ChainCol{};
+    std::array<int, 83> ChainRow{};
+    std::array<int, 83> NextPeer{};
+
+    static std::size_t Place(int depth)
+    {
+        return static_cast<std::size_t>(depth);
+    }
 
     static CellWord &At(int column, int row)
     {
@@ -62,9 +68,9 @@ private:
     void Push(int column, int row)
     {
         ++Depth;
-        ChainCol[Depth] = column;
-        ChainRow[Depth] = row;
-        NextPeer[Depth] = 0;
+        ChainCol[Place(Depth)] = column;
+        ChainRow[Place(Depth)] = row;
+        NextPeer[Place(Depth)] = 0;
         At(column, row) |= ScratchMark1;
     }
 
@@ -80,7 +86,7 @@ private:
             if (Depth < 2) {
                 return false;
             }
-            At(ChainCol[Depth], ChainRow[Depth]) &= ~ScratchMark1;
+            At(ChainCol[Place(Depth)], ChainRow[Place(Depth)]) &= ~ScratchMark1;
             --Depth;
         }
     }
@@ -88,10 +94,10 @@ private:
     // Advances to the next peer and pushes it; false when none is left.
     bool StepOn()
     {
-        const int topColumn = ChainCol[Depth];
-        const int topRow = ChainRow[Depth];
-        while (NextPeer[Depth] < 27) {
-            const int k = ++NextPeer[Depth];
+        const int topColumn = ChainCol[Place(Depth)];
+        const int topRow = ChainRow[Place(Depth)];
+        while (NextPeer[Place(Depth)] < 27) {
+            const int k = ++NextPeer[Place(Depth)];
             int column = 0;
             int row = 0;
             if (k <= 9) {
@@ -115,8 +121,8 @@ private:
 
     bool Evaluate()
     {
-        const int startColumn = ChainCol[1];
-        const int startRow = ChainRow[1];
+        const int startColumn = ChainCol[Place(1)];
+        const int startRow = ChainRow[Place(1)];
         for (int k = 1; k <= 9; ++k) {
             At(startColumn, k) |= ScratchMark2;
             At(k, startRow) |= ScratchMark2;
@@ -138,8 +144,8 @@ private:
 
     bool ScanTargets()
     {
-        const int endColumn = ChainCol[Depth];
-        const int endRow = ChainRow[Depth];
+        const int endColumn = ChainCol[Place(Depth)];
+        const int endRow = ChainRow[Place(Depth)];
         for (int row = 1; row <= 9; ++row) {
             if (row != endRow && TargetAt(endColumn, row, "It involves the number ")) {
                 return true;
@@ -219,10 +225,10 @@ private:
         }
         HintText += " which conflicts with the following chain of remote pairs:\r";
         for (int i = 1; i <= Depth; ++i) {
-            HintText += "  " + CellName(ChainCol[i], ChainRow[i]);
-            ChainColumns[static_cast<std::size_t>(i)] = ChainCol[i];
-            ChainRows[static_cast<std::size_t>(i)] = ChainRow[i];
-            At(ChainCol[i], ChainRow[i]) |= i % 2 == 0 ? HintCellBit : HintDomainBit;
+            HintText += "  " + CellName(ChainCol[Place(i)], ChainRow[Place(i)]);
+            ChainColumns[static_cast<std::size_t>(i)] = ChainCol[Place(i)];
+            ChainRows[static_cast<std::size_t>(i)] = ChainRow[Place(i)];
+            At(ChainCol[Place(i)], ChainRow[Place(i)]) |= i % 2 == 0 ? HintCellBit : HintDomainBit;
         }
         ChainColumns[0] = Depth;
         ChainRows[0] = 0;

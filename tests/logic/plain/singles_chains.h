@@ -5,6 +5,7 @@
 #include "grid/grid.h"
 #include "grid/names.h"
 
+#include <array>
 #include <string>
 
 namespace kelvarine::testing::plain {
@@ -46,13 +47,18 @@ private:
     int Number = 0;
     CellWord NumberBit = 0;
     int Depth = 0;
-    int ChainCol[83] = {};
-    int ChainRow[83] = {};
-    int NextHouse[83] = {};
+    std::array<int, 83> ChainCol{};
+    std::array<int, 83> ChainRow{};
+    std::array<int, 83> NextHouse{};
     int LinkCount = 0;
     int NotedColumn = 0;
     int NotedRow = 0;
     bool GivenMet = false;
+
+    static std::size_t Place(int depth)
+    {
+        return static_cast<std::size_t>(depth);
+    }
 
     static CellWord &At(int column, int row)
     {
@@ -67,9 +73,9 @@ private:
     void Push(int column, int row)
     {
         ++Depth;
-        ChainCol[Depth] = column;
-        ChainRow[Depth] = row;
-        NextHouse[Depth] = 0;
+        ChainCol[Place(Depth)] = column;
+        ChainRow[Place(Depth)] = row;
+        NextHouse[Place(Depth)] = 0;
         At(column, row) |= ScratchMark0;
     }
 
@@ -85,7 +91,7 @@ private:
             if (Depth < 2) {
                 return false;
             }
-            At(ChainCol[Depth], ChainRow[Depth]) &= ~ScratchMark0;
+            At(ChainCol[Place(Depth)], ChainRow[Place(Depth)]) &= ~ScratchMark0;
             --Depth;
         }
     }
@@ -109,7 +115,7 @@ private:
             return;
         }
         ++LinkCount;
-        if (column != ChainCol[Depth] || row != ChainRow[Depth]) {
+        if (column != ChainCol[Place(Depth)] || row != ChainRow[Place(Depth)]) {
             NotedColumn = column;
             NotedRow = row;
         }
@@ -128,10 +134,10 @@ private:
     // the top cell is column 0, row 0.
     bool StepOn()
     {
-        const int column = ChainCol[Depth];
-        const int row = ChainRow[Depth];
-        if (NextHouse[Depth] == 0) {
-            NextHouse[Depth] = 1;
+        const int column = ChainCol[Place(Depth)];
+        const int row = ChainRow[Place(Depth)];
+        if (NextHouse[Place(Depth)] == 0) {
+            NextHouse[Place(Depth)] = 1;
             StartStage();
             for (int k = 1; k <= 9; ++k) {
                 Count(column, k);
@@ -140,8 +146,8 @@ private:
                 return true;
             }
         }
-        if (NextHouse[Depth] == 1) {
-            NextHouse[Depth] = 2;
+        if (NextHouse[Place(Depth)] == 1) {
+            NextHouse[Place(Depth)] = 2;
             StartStage();
             for (int k = 1; k <= 9; ++k) {
                 Count(k, row);
@@ -150,8 +156,8 @@ private:
                 return true;
             }
         }
-        if (NextHouse[Depth] == 2) {
-            NextHouse[Depth] = 3;
+        if (NextHouse[Place(Depth)] == 2) {
+            NextHouse[Place(Depth)] = 3;
             StartStage();
             for (int c = Start(column); c <= Start(column) + 2; ++c) {
                 for (int r = Start(row); r <= Start(row) + 2; ++r) {
@@ -167,10 +173,10 @@ private:
 
     bool WithChain()
     {
-        const int cS = ChainCol[1];
-        const int rS = ChainRow[1];
-        const int cE = ChainCol[Depth];
-        const int rE = ChainRow[Depth];
+        const int cS = ChainCol[Place(1)];
+        const int rS = ChainRow[Place(1)];
+        const int cE = ChainCol[Place(Depth)];
+        const int rE = ChainRow[Place(Depth)];
         const bool sameStack = Start(cS) == Start(cE);
         const bool sameBand = Start(rS) == Start(rE);
         if (rS == rE) {
@@ -268,16 +274,16 @@ private:
 
     bool WithinChain()
     {
-        const int cS = ChainCol[1];
-        const int rS = ChainRow[1];
-        const int cE = ChainCol[Depth];
-        const int rE = ChainRow[Depth];
+        const int cS = ChainCol[Place(1)];
+        const int rS = ChainRow[Place(1)];
+        const int cE = ChainCol[Place(Depth)];
+        const int rE = ChainRow[Place(Depth)];
         if (cS != cE && rS != rE && (Start(cS) != Start(cE) || Start(rS) != Start(rE))) {
             return false;
         }
         const int length = Depth;
         for (int i = 1; i <= length; i += 2) {
-            CellWord &word = At(ChainCol[i], ChainRow[i]);
+            CellWord &word = At(ChainCol[Place(i)], ChainRow[Place(i)]);
             if (Mode == 0) {
                 word &= ~NumberBit;
                 Found = True;
@@ -312,7 +318,7 @@ private:
     void ReportWithin(int i)
     {
         HintTitle = "Conflict in singles chain";
-        HintText += "Cell " + CellName(ChainCol[i], ChainRow[i]) +
+        HintText += "Cell " + CellName(ChainCol[Place(i)], ChainRow[Place(i)]) +
                     " is a link in the following chain of " + std::to_string(Number) +
                     "'s which conflict with each other:\r";
         WriteChain();
@@ -323,17 +329,17 @@ private:
             HintText += "The " + std::to_string(Number) + " in this link can be removed:\r";
         }
         for (int j = 1; j <= Depth; j += 2) {
-            HintText += "  " + CellName(ChainCol[j], ChainRow[j]);
+            HintText += "  " + CellName(ChainCol[Place(j)], ChainRow[Place(j)]);
         }
     }
 
     void WriteChain()
     {
         for (int i = 1; i <= Depth; ++i) {
-            HintText += "  " + CellName(ChainCol[i], ChainRow[i]);
-            ChainColumns[static_cast<std::size_t>(i)] = ChainCol[i];
-            ChainRows[static_cast<std::size_t>(i)] = ChainRow[i];
-            At(ChainCol[i], ChainRow[i]) |= i % 2 == 0 ? HintDomainBit : HintCellBit;
+            HintText += "  " + CellName(ChainCol[Place(i)], ChainRow[Place(i)]);
+            ChainColumns[static_cast<std::size_t>(i)] = ChainCol[Place(i)];
+            ChainRows[static_cast<std::size_t>(i)] = ChainRow[Place(i)];
+            At(ChainCol[Place(i)], ChainRow[Place(i)]) |= i % 2 == 0 ? HintDomainBit : HintCellBit;
         }
         ChainColumns[0] = Depth;
         ChainRows[0] = Number;

@@ -6,6 +6,7 @@
 #include "grid/names.h"
 #include "logic/plain/candidates.h"
 
+#include <array>
 #include <string>
 
 namespace kelvarine::testing::plain {
@@ -42,10 +43,10 @@ public:
                         continue;
                     }
                     Depth = 1;
-                    ChainCol[1] = column;
-                    ChainRow[1] = row;
-                    NextPeer[1] = 0;
-                    CarryMask[1] = At(column, row) & CandidateMask & ~StartBit;
+                    ChainCol[Place(1)] = column;
+                    ChainRow[Place(1)] = row;
+                    NextPeer[Place(1)] = 0;
+                    CarryMask[Place(1)] = At(column, row) & CandidateMask & ~StartBit;
                     if (Walk()) {
                         return;
                     }
@@ -63,10 +64,15 @@ private:
     int StartNumber = 0;
     CellWord StartBit = 0;
     int Depth = 0;
-    int ChainCol[83] = {};
-    int ChainRow[83] = {};
-    int NextPeer[83] = {};
-    CellWord CarryMask[83] = {};
+    std::array<int, 83> ChainCol{};
+    std::array<int, 83> ChainRow{};
+    std::array<int, 83> NextPeer{};
+    std::array<CellWord, 83> CarryMask{};
+
+    static std::size_t Place(int depth)
+    {
+        return static_cast<std::size_t>(depth);
+    }
 
     static CellWord &At(int column, int row)
     {
@@ -82,7 +88,7 @@ private:
     {
         while (true) {
             if (Depth != MaxCells && StepOn()) {
-                if ((CarryMask[Depth] & StartBit) != 0 && Depth >= MinCells && Evaluate()) {
+                if ((CarryMask[Place(Depth)] & StartBit) != 0 && Depth >= MinCells && Evaluate()) {
                     return true;
                 }
                 continue;
@@ -90,7 +96,7 @@ private:
             if (Depth < 2) {
                 return false;
             }
-            At(ChainCol[Depth], ChainRow[Depth]) &= ~ScratchMark2;
+            At(ChainCol[Place(Depth)], ChainRow[Place(Depth)]) &= ~ScratchMark2;
             --Depth;
         }
     }
@@ -98,10 +104,10 @@ private:
     // Advances to the next peer and pushes it; false when none is left.
     bool StepOn()
     {
-        const int topColumn = ChainCol[Depth];
-        const int topRow = ChainRow[Depth];
-        while (NextPeer[Depth] < 27) {
-            const int k = ++NextPeer[Depth];
+        const int topColumn = ChainCol[Place(Depth)];
+        const int topRow = ChainRow[Place(Depth)];
+        while (NextPeer[Place(Depth)] < 27) {
+            const int k = ++NextPeer[Place(Depth)];
             int column = 0;
             int row = 0;
             if (k <= 9) {
@@ -119,15 +125,15 @@ private:
             }
             const CellWord word = At(column, row);
             if ((word & ScratchMark2) != 0 || (word & ScratchMark1) == 0 ||
-                (word & CarryMask[Depth]) == 0) {
+                (word & CarryMask[Place(Depth)]) == 0) {
                 continue;
             }
             At(column, row) |= ScratchMark2;
             ++Depth;
-            ChainCol[Depth] = column;
-            ChainRow[Depth] = row;
-            NextPeer[Depth] = 0;
-            CarryMask[Depth] = word & CandidateMask & ~CarryMask[Depth - 1];
+            ChainCol[Place(Depth)] = column;
+            ChainRow[Place(Depth)] = row;
+            NextPeer[Place(Depth)] = 0;
+            CarryMask[Place(Depth)] = word & CandidateMask & ~CarryMask[Place(Depth - 1)];
             return true;
         }
         return false;
@@ -135,10 +141,10 @@ private:
 
     bool Evaluate()
     {
-        const int cS = ChainCol[1];
-        const int rS = ChainRow[1];
-        const int cE = ChainCol[Depth];
-        const int rE = ChainRow[Depth];
+        const int cS = ChainCol[Place(1)];
+        const int rS = ChainRow[Place(1)];
+        const int cE = ChainCol[Place(Depth)];
+        const int rE = ChainRow[Place(Depth)];
         const bool sameStack = Start(cS) == Start(cE);
         const bool sameBand = Start(rS) == Start(rE);
         if (rS == rE) {
@@ -240,10 +246,10 @@ private:
         HintText += "Cell " + CellName(column, row) + " contains a " + std::to_string(StartNumber);
         HintText += " which conflicts with the ends of the following chained cells:\r";
         for (int i = 1; i <= Depth; ++i) {
-            HintText += "  " + CellName(ChainCol[i], ChainRow[i]);
-            ChainColumns[static_cast<std::size_t>(i)] = ChainCol[i];
-            ChainRows[static_cast<std::size_t>(i)] = ChainRow[i];
-            At(ChainCol[i], ChainRow[i]) |= i % 2 == 0 ? HintCellBit : HintDomainBit;
+            HintText += "  " + CellName(ChainCol[Place(i)], ChainRow[Place(i)]);
+            ChainColumns[static_cast<std::size_t>(i)] = ChainCol[Place(i)];
+            ChainRows[static_cast<std::size_t>(i)] = ChainRow[Place(i)];
+            At(ChainCol[Place(i)], ChainRow[Place(i)]) |= i % 2 == 0 ? HintCellBit : HintDomainBit;
         }
         ChainColumns[0] = Depth;
         ChainRows[0] = -StartNumber;
