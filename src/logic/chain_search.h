@@ -14,9 +14,9 @@ namespace kelvarine {
 // The chain from its first cell to the top of the stack. A search keeps what else it must know of
 // each cell in arrays of its own beside it, by depth.
 struct Chain {
-    int Depth = 0;                     // number of cells on the chain
-    CellSet On = NoCells;              // these cells
-    std::array<std::uint8_t, 82> Cell; // the same by depth from 1 on, by CellIndex
+    int Depth = 0;                      // number of cells on the chain
+    CellSet On = NoCells;               // these cells
+    std::array<std::uint8_t, 82> Place; // the same by depth from 1 on, by CellIndex
 
     void StartAt(int cell)
     {
@@ -27,7 +27,7 @@ struct Chain {
 
     [[nodiscard]] int At(int depth) const
     {
-        return Cell[static_cast<std::size_t>(depth)];
+        return Place[static_cast<std::size_t>(depth)];
     }
 
     [[nodiscard]] int Start() const
@@ -43,7 +43,7 @@ struct Chain {
     void Push(int cell)
     {
         ++Depth;
-        Cell[static_cast<std::size_t>(Depth)] = static_cast<std::uint8_t>(cell);
+        Place[static_cast<std::size_t>(Depth)] = static_cast<std::uint8_t>(cell);
         On.Add(cell);
     }
 
@@ -71,8 +71,9 @@ inline CellSet PeersOf(int index)
 }
 
 // Those of some cells that have any of some candidates and at which a mode has something to do: in
-// mode 1 the cells without AlertBit, in mode 2 those with SelectedBit. Candidates only go and marks
-// only come during a call, so a search may leave out what can end at no such cell.
+// mode 1 the cells without AlertBit, in mode 2 those with SelectedBit. A cell that is no open
+// target does not become one during a call, so a search may leave out what can end at no other
+// cell.
 inline CellSet OpenTargets(std::int32_t mode, CellWord candidates, CellSet among)
 {
     const CellWord without = mode == ModeAlert ? AlertBit : 0;
@@ -136,21 +137,21 @@ enum class Corner : std::uint8_t { Taken, PassedOver };
 
 // A short list of cells; a line and a box at most.
 struct CellList {
-    std::array<kelvarine::Cell, 18> Items;
+    std::array<Cell, 18> Items;
     std::size_t Count = 0;
 
-    void Add(kelvarine::Cell cell)
+    void Add(Cell cell)
     {
         Items[Count] = cell;
         ++Count;
     }
 
-    [[nodiscard]] const kelvarine::Cell *begin() const
+    [[nodiscard]] const Cell *begin() const
     {
         return Items.data();
     }
 
-    [[nodiscard]] const kelvarine::Cell *end() const
+    [[nodiscard]] const Cell *end() const
     {
         return Items.data() + Count;
     }

@@ -157,7 +157,6 @@ bool ActOn(Search &search, int target, std::string_view teaser, Explanation expl
         [&] { explain(search, CellOf(target)); });
     if (over) {
         MarkChain(search.Stack, ScratchMark0);
-    } else if (search.Mode == ModeAlert) {
     }
     return over;
 }
@@ -248,7 +247,7 @@ std::uint8_t &NextHouse(Search &search)
 // left to be hit.
 bool StepOn(Search &search)
 {
-    if (search.Stack.Depth == MaxSinglesLinks || !search.Targets.Any()) {
+    if (search.Stack.Depth == MaxSinglesLinks || false) {
         return false;
     }
     const int top = search.Stack.Top();

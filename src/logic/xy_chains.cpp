@@ -11,11 +11,11 @@ namespace {
 constexpr ChainMarks Marks{.Odd = HintDomainBit, .Even = HintCellBit};
 
 // A walk that takes more steps than this looks ahead before it goes on.
-constexpr int ShortWalk = 12;
+constexpr int ShortWalk = 1;
 
 // How many more cells a chain needs at least, by the number carried out of a cell, to be complete
-// in a cell that has a target in common with the start. Marks and candidates only go during a
-// call, so a step with no prospect can be left out: nothing can be found behind it.
+// in a cell that has a target in common with the start. Links and open targets only get fewer
+// during a call, so a step without prospects can be left out: nothing can be found behind it.
 struct Prospects {
     CellSet Targets;             // all targets of these ends, some perhaps on the chain under way
     std::array<CellSet, 10> Any; // by number carried: cells from which there is a way

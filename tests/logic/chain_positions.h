@@ -142,6 +142,19 @@ inline void MakeAbsurd(Random &random)
     }
 }
 
+// Leaves one number in some cells, so that there are many strong links, and a few givens.
+inline void MakeOneNumber(Random &random)
+{
+    const int percent = 15 + Below(random, 25);
+    const int givens = Chance(random, 50) ? 0 : 5;
+    for (const Cell cell : Cells) {
+        WordAt(cell) = BitTable[2] | BitTable[3] | BitTable[4];
+        if (Chance(random, percent)) {
+            WordAt(cell) |= BitTable[1] | (Chance(random, givens) ? GivenBit : 0);
+        }
+    }
+}
+
 // Random bits outside of the candidates and the given mark, as a player's game gathers them.
 inline void AddMarks(Random &random)
 {

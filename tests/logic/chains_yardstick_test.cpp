@@ -205,10 +205,11 @@ TEST_F(ChainsYardstick, SinglesChains)
 {
     Random random(18);
     Findings findings{};
-    constexpr std::array makers{chains::MakeMidGame, chains::MakePairRich, chains::MakeAbsurd};
+    constexpr std::array makers{chains::MakeMidGame, chains::MakePairRich, chains::MakeAbsurd,
+                                chains::MakeOneNumber};
     constexpr std::array limits{0, 1, 2, 3, 4, 5, 6, 81, 81, 81};
     for (int k = 0; k < 20000 && !HasFailure(); ++k) {
-        makers[static_cast<std::size_t>(Below(random, 3))](random);
+        makers[static_cast<std::size_t>(Below(random, 4))](random);
         chains::AddMarks(random);
         MaxSinglesLinks = limits[random() % limits.size()];
         ComparePosition(random, plain::SearchSinglesChains, SearchSinglesChains, findings);

@@ -1,4 +1,5 @@
 #include "grid/names.h"
+#include "logic/plain/singles_chains.h"
 #include "logic/singles_chains.h"
 #include "logic/technique_outcome.h"
 #include "support/presentation_double.h"
@@ -294,6 +295,25 @@ TEST_F(SinglesChains, WalkFromDepthZeroTakesTheLaterOfTwoCells)
     // No other mode ends a walk in that way.
     EXPECT_EQ(OutcomeOf(DepthZero, SearchSinglesChains, 1).Alerts, "A1 C4 F1");
     EXPECT_EQ(OutcomeOf(DepthZero, SearchSinglesChains, 2, "B2").Text, "");
+}
+
+TEST_F(SinglesChains, WalkFromDepthZeroSparesACellOfTheChain)
+{
+    // A1 and B2 are the two cells, and B2 stands on the chain in conflict with itself.
+    constexpr std::string_view drawing = R"(
+        12   .    .    .    .    .    .    .    13
+        .    14   .    .    .    .    .    15   .
+        .    .    .    .    .    .    .    .    .
+        .    .    .    .    .    .    .    .    .
+        .    .    16   .    .    .    .    .    .
+        .    .    .    .    .    .    .    .    .
+        .    17   .    .    18   .    .    .    .
+        .    .    19   12   .    .    13   .    14
+        .    .    .    .    .    .    .    .    .
+    )";
+    const Outcome outcome = OutcomeOf(drawing, SearchSinglesChains, 0);
+    EXPECT_EQ(outcome.Changes, "B7=7 C8=9 D8=2 H2=5 J8=4");
+    EXPECT_EQ(OutcomeOf(drawing, plain::SearchSinglesChains, 0).Changes, outcome.Changes);
 }
 
 TEST_F(SinglesChains, WalkFromDepthZeroStopsAtAGiven)
