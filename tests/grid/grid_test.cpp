@@ -96,6 +96,83 @@ TEST_F(GridCore, SecondCandidateInACellIsNoSolution)
     EXPECT_EQ(IsGridSolved(), False);
 }
 
+TEST_F(GridCore, CellWithoutCandidatesIsNoSolution)
+{
+    SetGivens(SolvedGrid);
+    Grid[9][9] &= ~CandidateMask;
+    EXPECT_EQ(IsGridSolved(), False);
+}
+
+TEST_F(GridCore, EveryHouseCountsForASolution)
+{
+    for (const House &house : Houses) {
+        SetGivens(SolvedGrid);
+        WordAt(house.Cells[0]) = WordAt(house.Cells[8]);
+        EXPECT_EQ(IsGridSolved(), False);
+    }
+}
+
+TEST_F(GridCore, EqualNumbersInARowAreNoSolution)
+{
+    // Columns are permutations of 1..9, rows and boxes are not.
+    for (std::size_t column = 1; column <= 9; ++column) {
+        for (std::size_t row = 1; row <= 9; ++row) {
+            Grid[column][row] = BitTable[row];
+        }
+    }
+    EXPECT_EQ(IsGridSolved(), False);
+}
+
+TEST_F(GridCore, MarksDoNotMatterForASolution)
+{
+    SetGivens(SolvedGrid);
+    for (const Cell cell : Cells) {
+        WordAt(cell) |= ~CandidateMask;
+    }
+    EXPECT_EQ(IsGridSolved(), True);
+}
+
+TEST_F(GridCore, FillPencilmarksKeepsAllOtherFields)
+{
+    Grid[3][4] = 0xFFFFFFFE & ~CandidateMask;
+    FillPencilmarks();
+    EXPECT_EQ(Grid[3][4], 0xFFFFFFFEU);
+}
+
+TEST_F(GridCore, FieldsStandAtTheirBits)
+{
+    EXPECT_EQ(GivenBit, 0x1U);
+    EXPECT_EQ(CandidateMask, 0x3FEU);
+    EXPECT_EQ(SelectedBit, 0x400U);
+    EXPECT_EQ(SolutionMask, 0xFF800U);
+    EXPECT_EQ(AlertBit, 0x100000U);
+    EXPECT_EQ(HintCellBit, 0x200000U);
+    EXPECT_EQ(HintDomainBit, 0x400000U);
+    EXPECT_EQ(CellColour, 0xF000000U);
+    EXPECT_EQ(ScratchMark0, 0x10000000U);
+    EXPECT_EQ(ScratchMark3, 0x80000000U);
+    EXPECT_EQ(CountingMask, 0x4000020EU);
+    EXPECT_EQ(ListingMask, 0x40000006U);
+    EXPECT_EQ(RatingMask, 0xFFFFFFFFU);
+}
+
+TEST_F(GridCore, BitTableAndBoxStartHoldTheirValues)
+{
+    EXPECT_EQ(BitTable.size(), 32U);
+    EXPECT_EQ(BitTable[0], 1U);
+    EXPECT_EQ(BitTable[9], 0x200U);
+    EXPECT_EQ(BitTable[31], 0x80000000U);
+    constexpr std::array<std::uint8_t, 9> starts{1, 1, 1, 4, 4, 4, 7, 7, 7};
+    EXPECT_TRUE(std::equal(starts.begin(), starts.end(), BoxStart.begin() + 1));
+}
+
+TEST_F(GridCore, HistoryHoldsAHundredAndFiveWholeGrids)
+{
+    EXPECT_EQ(History.size(), 105U);
+    EXPECT_EQ(History[0].size(), 10U);
+    EXPECT_EQ(History[0][0].size(), 10U);
+}
+
 TEST_F(GridCore, PassMarksLeaveTheLastingFieldsAlone)
 {
     for (const Cell cell : Cells) {
