@@ -1,11 +1,11 @@
 // Makes games with one solution for the benchmarks and tests and prints them as lines of 81 marks,
 // a digit for a given and "." for an open cell, fewest givens first.
 //
-//   make_puzzles SEED COUNT STEPS
+//   make_puzzles SEED COUNT WALKS STEPS
 //
 // prints COUNT games for each number of givens from 21 to 30 and whatever games of 17 to 20 givens
-// a random walk of STEPS steps comes across, COUNT of each number at most. The same arguments give
-// the same lines.
+// WALKS random walks of STEPS steps come across, COUNT of each number at most. The same arguments
+// give the same lines; those of tests/data/puzzles.txt are 1 4 24 8000.
 
 #include "support/solution_counter.h"
 
@@ -152,28 +152,27 @@ void Keep(Harvest &harvest, const std::string &game, std::size_t count)
 }
 
 // Walks from game to game: two givens out and one in when that can be, else one out and one in.
-// Starts anew now and then, as a walk may get stuck in a poor corner.
+// The games of one walk are all alike, so the last of each number of givens is kept and no more.
 void Walk(Harvest &harvest, std::size_t count, long steps, Source &source)
 {
-    constexpr long restart = 20000;
-    std::string game;
+    std::map<int, std::string> found;
+    std::string game = RandomSolvedGrid(source);
+    TakeOut(game, FewestGivens, source);
     for (long step = 0; step < steps; ++step) {
-        if (step % restart == 0) {
-            game = RandomSolvedGrid(source);
-            TakeOut(game, FewestGivens, source);
-        }
         std::string next = game;
         RemoveRandomGiven(next, source);
         if (Draw(source, 4) != 0) {
             RemoveRandomGiven(next, source);
         }
-        if (!AddDecidingGiven(next, source)) {
-            continue;
+        if (AddDecidingGiven(next, source)) {
+            TakeOut(next, FewestGivens, source);
+            game = next;
+            found[Givens(game)] = game;
         }
-        TakeOut(next, FewestGivens, source);
-        game = next;
-        if (Givens(game) < FewestDirect) {
-            Keep(harvest, game, count);
+    }
+    for (const auto &[givens, last] : found) {
+        if (givens < FewestDirect) {
+            Keep(harvest, last, count);
         }
     }
 }
@@ -195,15 +194,18 @@ void MakeDirectly(Harvest &harvest, std::size_t count, Source &source)
 
 int main(int argc, char **argv)
 {
-    if (argc != 4) {
-        std::cerr << "usage: make_puzzles SEED COUNT STEPS\n";
+    if (argc != 5) {
+        std::cerr << "usage: make_puzzles SEED COUNT WALKS STEPS\n";
         return EXIT_FAILURE;
     }
     Source source(static_cast<Source::result_type>(std::strtoul(argv[1], nullptr, 10)));
     const std::size_t count = std::strtoul(argv[2], nullptr, 10);
     Harvest harvest;
     MakeDirectly(harvest, count, source);
-    Walk(harvest, count, std::strtol(argv[3], nullptr, 10), source);
+    const long walks = std::strtol(argv[3], nullptr, 10);
+    for (long walk = 0; walk < walks; ++walk) {
+        Walk(harvest, count, std::strtol(argv[4], nullptr, 10), source);
+    }
     for (const auto &[givens, games] : harvest) {
         for (const std::string &game : games) {
             std::cout << game << '\n';

@@ -5,6 +5,7 @@
 #include "logic/technique_table.h"
 #include "ui/presentation.h"
 
+#include <algorithm>
 #include <array>
 #include <set>
 #include <vector>
@@ -18,6 +19,7 @@ std::string SolutionCountText;
 namespace {
 
 constexpr std::int32_t MostListed = 25;
+constexpr int MostTrials = 81;
 
 // The numbered steps of the driver that others jump to.
 enum class Step : std::uint8_t {
@@ -47,9 +49,11 @@ struct Run {
     // are tried with the next number, so that the first of them ends that round; intended.
     Flag Found = False;
     int TrialDepth = 0;
-    std::array<Trial, 82> Trials{}; // 1..81 used
+    std::array<Trial, MostTrials + 1> Trials{}; // 1..81 used
     std::vector<const TechniqueRow *> Order;
-    std::set<Candidates> Seen; // positions at the start of passes with the same trials, mode 0
+    // The memory of mode 0 against going round for ever.
+    std::set<Candidates> Seen;      // candidates at the start of passes with the same trials open
+    std::vector<Candidates> Opened; // candidates when the open trials were opened, outermost first
 };
 
 // Techniques by level first and number second; one that stands in two levels comes twice.
@@ -97,20 +101,44 @@ Step LeaveWith(Run &run, std::int32_t result)
     return Step::Leave;
 }
 
-// True when the candidates stand as they stood at the start of an earlier pass with the same
-// trials open: from here on the run would go round for ever. On contradictory grids the unplaced
-// forms of mode 0 add candidates that other techniques take away again. All other modes only ever
-// remove candidates between two trials and need no memory.
-bool GoesRound(Run &run)
+Candidates CandidatesNow()
 {
-    if (run.Mode != SolveAsPlayer) {
-        return false;
-    }
-    Candidates now;
+    Candidates now{};
     for (std::size_t k = 0; k < now.size(); ++k) {
         now[k] = static_cast<std::uint16_t>(WordAt(Cells[k]) & CandidateMask);
     }
-    return !run.Seen.insert(now).second;
+    return now;
+}
+
+// True when the candidates stand as they stood at the start of an earlier pass with the same
+// trials open: from here on the run would go round for ever. On contradictory grids the unplaced
+// forms of mode 0 add candidates that other techniques take away again. In all other modes every
+// success leaves fewer candidates on the grid than there were, so they need no memory.
+bool GoesRound(Run &run)
+{
+    return run.Mode == SolveAsPlayer && !run.Seen.insert(CandidatesNow()).second;
+}
+
+// True when a trial about to be opened would be the same one again: a trial that is still open
+// was opened on the very same candidates, so the run would open trial after trial for ever. Like
+// GoesRound this is for mode 0, where a number that was tried may be taken away without being
+// noticed. The limit keeps the list of trials safe; in the other modes every open trial has a cell
+// of its own and it is never reached.
+bool RepeatsTrial(Run &run)
+{
+    if (run.TrialDepth == MostTrials) {
+        return true;
+    }
+    if (run.Mode != SolveAsPlayer) {
+        return false;
+    }
+    run.Opened.resize(static_cast<std::size_t>(run.TrialDepth));
+    const Candidates now = CandidatesNow();
+    if (std::ranges::find(run.Opened, now) != run.Opened.end()) {
+        return true;
+    }
+    run.Opened.push_back(now);
+    return false;
 }
 
 void RecordSolution()
@@ -228,8 +256,13 @@ Step OpenTrial(Run &run)
     UsedMask |= TrialBit;
     // The order of the scan alone decides, not the number of candidates.
     const Cell *cell = FindCell([](CellWord word) { return CandidatesIn(word) > 1; });
-    if (cell == nullptr) {
+    if (cell == nullptr || RepeatsTrial(run)) {
         return Step::Backtrack;
+    }
+    if (run.Order.empty()) {
+        // Only a pass notices a solution, and only a technique leads to another pass: without
+        // techniques the walk through all trials finds nothing, however long it takes.
+        return Step::NoSolution;
     }
     ++run.TrialDepth;
     run.Trials[static_cast<std::size_t>(run.TrialDepth)] = {*cell, 0,

@@ -47,6 +47,17 @@ bool HoldsSolution(const Solution &solution)
     return true;
 }
 
+// The candidates on Grid for the counter of solutions.
+CandidateField FieldOfGrid()
+{
+    CandidateField field{};
+    for (std::size_t place = 0; place < 81; ++place) {
+        field[place] =
+            static_cast<std::uint16_t>(Grid[place % 9 + 1][place / 9 + 1] & CandidateMask);
+    }
+    return field;
+}
+
 // A sound position of which the givens alone have one solution, so that conclusions of any kind
 // must agree with it.
 Solution SetSoundPosition(std::mt19937 &random, int number)

@@ -186,13 +186,4 @@ Solution SetRandomPosition(std::mt19937 &random, PositionKind kind, int open)
     return solution;
 }
 
-CandidateField FieldOfGrid()
-{
-    CandidateField field{};
-    for (std::size_t place = 0; place < field.size(); ++place) {
-        field[place] = static_cast<std::uint16_t>(WordAtPlace(place) & CandidateMask);
-    }
-    return field;
-}
-
 } // namespace kelvarine::testing

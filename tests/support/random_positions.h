@@ -23,16 +23,13 @@ inline constexpr PositionKind PositionKinds[]{PositionKind::Sound, PositionKind:
 // A complete grid as 81 digits, row by row.
 std::string DrawSolution(std::mt19937 &random);
 
-// A game with a few givens fewer or more than has one solution: 81 marks with about the wanted
-// number of givens taken from a complete grid. It has at least that solution.
+// A game of so many givens, taken from a complete grid, as 81 marks. It has at least that
+// solution.
 std::string DrawGame(std::mt19937 &random, int givens);
 
 // Puts a position on Grid in which about open cells, 0..81, do not hold a number. Of a number that
 // stands, about three in four are givens. Cells may be selected and carry marks and colours.
 // Returns the complete grid it was made from; only Sound and Stale positions agree with it.
 Solution SetRandomPosition(std::mt19937 &random, PositionKind kind, int open);
-
-// The candidates on Grid as a field for the solution counter.
-CandidateField FieldOfGrid();
 
 } // namespace kelvarine::testing
