@@ -5,7 +5,9 @@
 #include "board/geometry.h"
 #include "board/look.h"
 #include "board/margin_painter.h"
+#include "game/clock.h"
 #include "game/lifecycle.h"
+#include "game/win_display.h"
 #include "input/keys.h"
 #include "input/mouse.h"
 #include "logic/driver.h"
@@ -75,6 +77,8 @@ void ClientArea::mousePressEvent(QMouseEvent *event)
 MainWindow::MainWindow() : Client(new ClientArea(this)), timeBar(new QMenuBar(this))
 {
     mainWindow = this;
+    connect(&ClockTimer, &QTimer::timeout, this, ClockTick);
+    connect(&WinTimer, &QTimer::timeout, this, WinDisplayTick);
     setCentralWidget(Client);
     BuildMenus();
     setMinimumSize(SmallestSize);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 
 class QMenuBar;
 
@@ -37,6 +38,8 @@ public:
     void UpdateMenuCaptions();
 
     ClientArea *const Client;
+    QTimer ClockTimer; // tmrSolveTime
+    QTimer WinTimer;   // tmrGameWon
 
 protected:
     void closeEvent(QCloseEvent *event) override;

@@ -1,8 +1,6 @@
 // The seam to the world, over the toolkit.
 #include "board/board.h"
 #include "board/board_painter.h"
-#include "game/clock.h"
-#include "game/win_display.h"
 #include "ui/board_widget.h"
 #include "ui/main_window.h"
 #include "ui/presentation.h"
@@ -39,13 +37,13 @@ QMessageBox::StandardButton RunBox(QMessageBox::Icon icon, std::string_view text
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
-// The two timers live as long as the window, which owns them.
-QTimer &MakeTimer(void (*tick)())
+void SwitchTimer(QTimer &timer, bool on, int milliseconds)
 {
-    auto *timer = new QTimer(Window());
-    timer->setTimerType(Qt::CoarseTimer);
-    QObject::connect(timer, &QTimer::timeout, timer, tick);
-    return *timer;
+    if (on) {
+        timer.start(milliseconds);
+    } else {
+        timer.stop();
+    }
 }
 
 } // namespace
@@ -110,22 +108,12 @@ double SecondsSinceMidnight()
 
 void SetClockTimer(bool on)
 {
-    static QTimer &timer = MakeTimer(ClockTick);
-    if (on) {
-        timer.start(ClockInterval);
-    } else {
-        timer.stop();
-    }
+    SwitchTimer(Window()->ClockTimer, on, ClockInterval);
 }
 
 void SetWinTimer(bool on, int milliseconds)
 {
-    static QTimer &timer = MakeTimer(WinDisplayTick);
-    if (on) {
-        timer.start(milliseconds);
-    } else {
-        timer.stop();
-    }
+    SwitchTimer(Window()->WinTimer, on, milliseconds);
 }
 
 std::string ClipboardText()
