@@ -34,8 +34,7 @@ void MakeGame(benchmark::State &state, std::int32_t pattern, std::size_t level)
         GenerateGame();
     }
     state.counters["screened"] = GamesScreened;
-    state.counters["screened/s"] =
-        benchmark::Counter(GamesScreened, benchmark::Counter::kIsRate);
+    state.counters["screened/s"] = benchmark::Counter(GamesScreened, benchmark::Counter::kIsRate);
 }
 
 void RegisterAll()
@@ -43,12 +42,12 @@ void RegisterAll()
     constexpr std::array names{"", "easy", "medium", "hard", "very hard", "extreme"};
     for (const std::int32_t pattern : {0, 1, 5}) {
         for (std::size_t level = 1; level <= 5; ++level) {
-            const std::string name =
-                "pattern " + std::to_string(pattern) + ", " + names[level];
-            benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State &state) {
-                MakeGame(state, pattern, level);
-            })->Iterations(1)->Unit(benchmark::kMillisecond)->ComputeStatistics("p95",
-                                                                                Percentile95);
+            const std::string name = "pattern " + std::to_string(pattern) + ", " + names[level];
+            benchmark::RegisterBenchmark(
+                name.c_str(), [=](benchmark::State &state) { MakeGame(state, pattern, level); })
+                ->Iterations(1)
+                ->Unit(benchmark::kMillisecond)
+                ->ComputeStatistics("p95", Percentile95);
         }
     }
 }
