@@ -208,7 +208,8 @@ TEST_F(Generator, ResultIsMinimalForTheLastTestOfEveryCell)
         if (game[place] != '.') {
             std::string less = game;
             less[place] = '.';
-            EXPECT_EQ(CountSolutionsOf(less, 2), 2U) << "the given at " << place << " is not needed";
+            EXPECT_EQ(CountSolutionsOf(less, 2), 2U)
+                << "the given at " << place << " is not needed";
         }
     }
 }
