@@ -4,7 +4,6 @@
 #include "input/menu_table.h"
 
 #include <QMenu>
-#include <QTimer>
 #include <QVariant>
 
 namespace kelvarine {
@@ -72,7 +71,7 @@ void UpdateStates(const QMenu &menu)
 void OpenMenu(QMenu *menu)
 {
     if (!ReadyForCommand()) {
-        QTimer::singleShot(0, menu, &QMenu::hide);
+        QMetaObject::invokeMethod(menu, "hide", Qt::QueuedConnection);
         return;
     }
     UpdateStates(*menu);
