@@ -11,7 +11,7 @@ namespace {
 constexpr ChainMarks Marks{.Odd = HintDomainBit, .Even = HintCellBit};
 
 // A walk that takes more steps than this looks ahead before it goes on.
-constexpr int ShortWalk = 1;
+constexpr int ShortWalk = 12;
 
 // How many more cells a chain needs at least, by the number carried out of a cell, to be complete
 // in a cell that has a target in common with the start. Links and open targets only get fewer
