@@ -25,7 +25,13 @@ ORDER = [
 ]
 LEVEL = {room: level for level, rooms in enumerate(ORDER) for room in rooms}
 
-OPEN_DOORS = {"ui/presentation.h", "board/board.h", "game/history.h"}
+OPEN_DOORS = {
+    "ui/presentation.h",
+    "board/board.h",
+    "game/history.h",
+    "files/whole_file.h",
+    "files/folders.h",
+}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)', re.M)
 

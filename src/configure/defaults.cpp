@@ -6,6 +6,7 @@
 #include "game/clock.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
+#include "game/screens.h"
 #include "game/win_display.h"
 #include "generator/game_number.h"
 #include "generator/generator.h"
@@ -31,6 +32,7 @@ void SetDefaults()
     SetGeometryDefaults();
     SetMarginDefaults();
     SetMouseDefaults();
+    SetScreenDefaults();
 }
 
 } // namespace kelvarine

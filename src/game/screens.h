@@ -1,0 +1,52 @@
+// Where the program's windows stand and which of them are open: state that the configuration file
+// keeps, and that the commands of the game ask for.
+#pragma once
+
+#include "grid/cell_word.h"
+
+#include <cstdint>
+
+namespace kelvarine {
+
+// A window's place in pixels. A width of 0 means that the window has never been placed.
+struct WindowPlace {
+    std::int32_t Left = 0;
+    std::int32_t Top = 0;
+    std::int32_t Width = 0;
+    std::int32_t Height = 0;
+
+    friend constexpr bool operator==(const WindowPlace &, const WindowPlace &) = default;
+};
+
+extern WindowPlace MainPlace;
+extern Flag MainMaximised;
+
+extern WindowPlace ConfigurePlace;
+extern Flag ConfigureOpen;
+
+extern WindowPlace SolutionsPlace;
+extern Flag SolutionsOpen;
+
+extern WindowPlace FileDialogPlace;
+
+extern WindowPlace StatisticsPlace; // only left and top outlast a run
+extern Flag StatisticsOpen;
+
+// Tab of the configuration screen, 0..7; 8 and 9 name no tab.
+inline constexpr std::int32_t NewGamesTab = 0;
+inline constexpr std::int32_t SoundTab = 1;
+inline constexpr std::int32_t PrintTab = 2;
+inline constexpr std::int32_t LogicTab = 3;
+inline constexpr std::int32_t PresetGridsTab = 4;
+inline constexpr std::int32_t GridTab = 5;
+inline constexpr std::int32_t ColoursTab = 6;
+inline constexpr std::int32_t CoordinatesTab = 7;
+extern std::int32_t CurrentTab;
+
+// Format of the listed solutions: 0 in lines of 81 digits, 1 as frames; default 1.
+extern std::int32_t SolutionsFormat;
+
+// Puts all of this to its defaults: nothing placed, nothing open.
+void SetScreenDefaults();
+
+} // namespace kelvarine

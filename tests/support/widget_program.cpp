@@ -1,0 +1,75 @@
+#include "support/widget_program.h"
+
+#include "configure/defaults.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace kelvarine::testing {
+
+namespace {
+
+void UseFoldersIn(const QTemporaryDir &home)
+{
+    qputenv("HOME", home.path().toUtf8());
+    qputenv("XDG_CONFIG_HOME", home.filePath("config").toUtf8());
+    qputenv("XDG_DATA_HOME", home.filePath("data").toUtf8());
+}
+
+QTemporaryDir &Home()
+{
+    static std::unique_ptr<QTemporaryDir> home;
+    home = std::make_unique<QTemporaryDir>();
+    return *home;
+}
+
+} // namespace
+
+Program::Program()
+{
+    UseFoldersIn(Home());
+    SetDefaults();
+    Main = std::make_unique<MainWindow>();
+    StartGame(NewGame);
+    GameModified = False;
+    Main->resize(760, 830);
+    Main->show();
+    QCoreApplication::processEvents();
+}
+
+Program::~Program() = default;
+
+BoxRecord AnswerBoxes(const std::function<void()> &action,
+                      std::vector<QMessageBox::StandardButton> answers)
+{
+    BoxRecord record;
+    QTimer watch;
+    std::size_t answered = 0;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (box == nullptr || !box->isVisible()) {
+            return;
+        }
+        record.Texts.push_back(box->text().toStdString());
+        record.Titles.push_back(box->windowTitle().toStdString());
+        QAbstractButton *button =
+            answered < answers.size() ? box->button(answers[answered]) : box->escapeButton();
+        ++answered;
+        if (button != nullptr) {
+            button->click();
+        } else {
+            box->reject();
+        }
+    });
+    watch.start(1);
+    action();
+    EXPECT_GE(answered, answers.size()) << "fewer boxes than answers";
+    return record;
+}
+
+} // namespace kelvarine::testing
