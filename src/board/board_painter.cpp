@@ -3,6 +3,7 @@
 #include "board/board.h"
 #include "board/cell_painter.h"
 #include "board/grid_painter.h"
+#include "board/link_painter.h"
 #include "board/number_painter.h"
 #include "game/clock.h"
 #include "grid/grid.h"
@@ -68,7 +69,10 @@ void PaintBoard(QImage &picture)
         DrawCell(canvas, cell);
     }
 
-    // 3. Numbers, hidden while the game is paused.
+    // 3. Links and chains, under the numbers.
+    DrawLinks(picture);
+
+    // 4. Numbers, hidden while the game is paused.
     if (IsPaused()) {
         return;
     }

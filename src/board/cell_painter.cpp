@@ -36,11 +36,8 @@ Mask PaintRing(double ratio)
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
     const int radius = std::max(1, std::max(CellWidth, CellHeight) / 2) - 1;
-    const double aspect = static_cast<double>(CellHeight) / CellWidth;
-    // The radius is the longer half axis, so the ring stays inside the cell.
-    const double across = aspect > 1 ? radius / aspect : radius;
-    const double down = aspect > 1 ? radius : radius * aspect;
     if (radius > 0) {
+        const auto [across, down] = CellEllipse(radius);
         QPainter painter(&picture);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(Qt::black, RingPen));

@@ -92,6 +92,12 @@ std::optional<Cell> CellAt(int x, int y)
     return MakeCell(column, row);
 }
 
+HalfAxes CellEllipse(int radius)
+{
+    const double aspect = static_cast<double>(CellHeight) / CellWidth;
+    return {aspect > 1 ? radius / aspect : radius, aspect > 1 ? radius : radius * aspect};
+}
+
 NumberLayout LayoutFor(int candidates)
 {
     if (candidates <= 1) {

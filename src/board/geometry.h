@@ -49,6 +49,14 @@ int CellY(int row);
 // Cell under a point of the board; nothing on a line or in the border.
 std::optional<Cell> CellAt(int x, int y);
 
+// Half axes of an ellipse with the aspect of a cell; the radius is the longer one, so that the
+// ellipse stays as far inside the cell as a circle would.
+struct HalfAxes {
+    double Across = 0;
+    double Down = 0;
+};
+HalfAxes CellEllipse(int radius);
+
 // How the numbers of a cell are laid out, by its number of candidates and PencilmarkLayout.
 enum class NumberLayout : std::uint8_t { None, One, Pair, Quad, Nine };
 
