@@ -12,6 +12,7 @@
 #include "generator/generator.h"
 #include "grid/grid.h"
 #include "input/mouse.h"
+#include "input/toolbar.h"
 #include "logic/driver.h"
 #include "logic/event_sound.h"
 
@@ -32,6 +33,7 @@ void SetDefaults()
     SetGeometryDefaults();
     SetMarginDefaults();
     SetMouseDefaults();
+    SetToolbarDefaults();
     SetScreenDefaults();
 }
 

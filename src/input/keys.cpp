@@ -7,8 +7,11 @@
 #include "game/new_games.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
+#include "input/givens.h"
 #include "input/mouse.h"
 #include "input/number_keys.h"
+#include "input/selection.h"
+#include "input/toolbar.h"
 #include "logic/driver.h"
 #include "logic/rating.h"
 
@@ -69,6 +72,11 @@ void InsertNumbers(std::int32_t shift)
     ChangeSelected([=](CellWord word) { return word | numbers; });
 }
 
+void Escape()
+{
+    ProcessToolbar(EscapeButton);
+}
+
 void UseSnapshot()
 {
     if (SnapshotAvailable != False) {
@@ -77,6 +85,9 @@ void UseSnapshot()
 }
 
 constexpr std::array Rows{
+    KeyRow{ShiftCode, AnyShift, Plain<ShowSignOfShift>},
+    KeyRow{CtrlCode, AnyShift, Plain<ShowSignOfCtrl>},
+    KeyRow{EscapeCode, AnyShift, Plain<Escape>},
     KeyRow{PageUpCode, AnyShift, Plain<Undo>},
     KeyRow{PageDownCode, AnyShift, Plain<Redo>},
     KeyRow{DeleteCode, AnyShift, DeleteNumbers},
@@ -88,19 +99,31 @@ constexpr std::array Rows{
     KeyRow{'A', CtrlKey, nullptr},
     KeyRow{'A', AnyShift, Plain<mnuShowAlertReason>},
     KeyRow{'B', CtrlKey, Plain<mnuGameBlankGrid>},
+    KeyRow{'B', AnyShift, Plain<mnuSelectBox>},
     KeyRow{'C', CtrlKey, Plain<mnuCopyGridFormat>},
+    KeyRow{'C', AnyShift, Plain<mnuSelectColumn>},
+    KeyRow{'D', AnyShift, Plain<mnuSelectDomain>},
+    KeyRow{'G', CtrlKey, Plain<mnuMakeGiven>},
     KeyRow{'H', 0, Plain<mnuHint>},
+    KeyRow{'H', ShiftKey, Plain<mnuHideSelectedCellsForce>},
+    KeyRow{'H', CtrlKey, Plain<mnuHideSelectedCellsConditional>},
+    KeyRow{'I', AnyShift, Plain<mnuSelectIntersection>},
     KeyRow{'L', ShiftKey, nullptr},
     KeyRow{'L', CtrlKey, Plain<mnuApplyLogic>},
     KeyRow{'L', AnyShift, Plain<mnuShowLogicNeeded>},
     KeyRow{'N', CtrlKey, Plain<mnuGameRandom>},
+    KeyRow{'P', CtrlKey, nullptr},
+    KeyRow{'P', AnyShift, Plain<mnuSelectPeers>},
+    KeyRow{'R', ShiftKey, nullptr},
     KeyRow{'R', CtrlKey, Plain<mnuRestartSameGame>},
+    KeyRow{'R', AnyShift, Plain<mnuSelectRow>},
     KeyRow{'S', CtrlKey, nullptr},
     KeyRow{'S', ShiftKey | CtrlKey, nullptr},
     KeyRow{'S', AnyShift, Plain<mnuTakeSnapshot>},
     KeyRow{'T', CtrlKey, Plain<mnuGameTextString>},
     KeyRow{'U', AnyShift, Plain<UseSnapshot>},
     KeyRow{'V', CtrlKey, Plain<mnuGameClipboard>},
+    KeyRow{'W', AnyShift, Plain<mnuSelectWholeGrid>},
     KeyRow{'Y', CtrlKey, Plain<Redo>},
     KeyRow{'Z', ShiftKey, Plain<mnuSolveGame>},
     KeyRow{'Z', CtrlKey, Plain<Undo>},
@@ -171,6 +194,13 @@ void KeyDown(std::int32_t code, std::int32_t shift)
             }
             return;
         }
+    }
+}
+
+void KeyUp(std::int32_t code)
+{
+    if (code == ShiftCode || code == CtrlCode) {
+        ShowPlainSign();
     }
 }
 

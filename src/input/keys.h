@@ -10,6 +10,7 @@ namespace kelvarine {
 // make of it, the keypad 96..105, a letter its Latin capital.
 inline constexpr std::int32_t ShiftCode = 16;
 inline constexpr std::int32_t CtrlCode = 17;
+inline constexpr std::int32_t EscapeCode = 27;
 inline constexpr std::int32_t PageUpCode = 33;
 inline constexpr std::int32_t PageDownCode = 34;
 inline constexpr std::int32_t LeftCode = 37;
@@ -38,6 +39,9 @@ extern const std::span<const KeyRow> KeyTable;
 // A key goes down on the board, with the modifier sum 1 Shift, 2 Ctrl, 4 Alt. A combination that
 // has no meaning does nothing. While a search runs, only the question whether to stop it comes.
 void KeyDown(std::int32_t code, std::int32_t shift);
+
+// A key comes up. Only the modifiers mean anything: the toolbar shows its plain numbers again.
+void KeyUp(std::int32_t code);
 
 // First steps of every command that the player starts: while a game search runs, asks whether to
 // stop it; otherwise ends the win display. False when the command must not act.

@@ -9,9 +9,12 @@
 #include "game/lifecycle.h"
 #include "game/new_games.h"
 #include "grid/grid.h"
+#include "input/givens.h"
 #include "input/keys.h"
 #include "input/mouse.h"
 #include "input/number_keys.h"
+#include "input/selection.h"
+#include "input/toolbar.h"
 #include "logic/rating.h"
 #include "ui/presentation.h"
 
@@ -47,10 +50,34 @@ void ViewNumber(std::int32_t number)
     DrawBoard();
 }
 
+Flag Flipped(Flag flag)
+{
+    return flag == False ? True : False;
+}
+
+void ToggleToolbar()
+{
+    ToolbarVisible = Flipped(ToolbarVisible);
+    ResizeWindow();
+}
+
+void ToggleToolTips()
+{
+    ToolTipsVisible = Flipped(ToolTipsVisible);
+    UpdateToolTips();
+    UpdateToolbar();
+}
+
+void SetStrongLinks(std::int32_t mode)
+{
+    StrongLinkMode = mode;
+    DrawBoard();
+}
+
 void ToggleCoordinates()
 {
     constexpr std::int32_t roomForText = 28;
-    CoordinatesVisible = CoordinatesVisible == False ? True : False;
+    CoordinatesVisible = Flipped(CoordinatesVisible);
     if (CoordinatesVisible != False && MarginThickness < roomForText) {
         MarginThickness = roomForText;
     }
@@ -70,6 +97,21 @@ bool CanRedo(std::int32_t /*number*/)
 bool HasSnapshot(std::int32_t /*number*/)
 {
     return SnapshotAvailable != False;
+}
+
+bool ShowsToolbar(std::int32_t /*number*/)
+{
+    return ToolbarVisible != False;
+}
+
+bool ShowsToolTips(std::int32_t /*number*/)
+{
+    return ToolTipsVisible != False;
+}
+
+bool LinksAsSet(std::int32_t mode)
+{
+    return StrongLinkMode == mode;
 }
 
 bool ShowsCoordinates(std::int32_t /*number*/)
@@ -110,9 +152,25 @@ constexpr std::array Rows{
     MenuRow{2, "mnuBreak3", SeparatorCaption, ""},
     MenuRow{2, "mnuTakeSnapshot", "Take &snapshot", "S", Plain<mnuTakeSnapshot>},
     MenuRow{2, "mnuUseSnapshot", "&Use snapshot", "U", Plain<mnuUseSnapshot>, 0, 0, HasSnapshot},
+    MenuRow{2, "mnuBreak4", SeparatorCaption, ""},
+    MenuRow{2, "mnuSelectColumn", "Select &column", "C", Plain<mnuSelectColumn>},
+    MenuRow{2, "mnuSelectRow", "Select &row", "R", Plain<mnuSelectRow>},
+    MenuRow{2, "mnuSelectBox", "Select &box", "B", Plain<mnuSelectBox>},
+    MenuRow{2, "mnuSelectDomain", "Select &domain", "D", Plain<mnuSelectDomain>},
+    MenuRow{2, "mnuSelectPeers", "Select &peers", "P", Plain<mnuSelectPeers>},
+    MenuRow{2, "mnuSelectIntersection", "Select &intersection", "I", Plain<mnuSelectIntersection>},
+    MenuRow{2, "mnuSelectWholeGrid", "Select &whole grid", "W", Plain<mnuSelectWholeGrid>},
     MenuRow{1, "mnuView", "&View", ""},
+    MenuRow{2, "mnuViewToolBar", "&Toolbar", "", Plain<ToggleToolbar>, 0, 0, nullptr, ShowsToolbar},
+    MenuRow{2, "mnuViewToolTips", "T&oolbar tips", "", Plain<ToggleToolTips>, 0, 0, ShowsToolbar,
+            ShowsToolTips},
     MenuRow{2, "mnuViewCoordinates", "&Coordinates", "", Plain<ToggleCoordinates>, 0, 0, nullptr,
             ShowsCoordinates},
+    MenuRow{2, "mnuStrong", "&Strong links", ""},
+    MenuRow{3, "mnuStrongLinks", "&Never", "", SetStrongLinks, 0, 0, nullptr, LinksAsSet},
+    MenuRow{3, "mnuStrongLinks", "&Only in isolated views", "", SetStrongLinks, 1, 1, nullptr,
+            LinksAsSet},
+    MenuRow{3, "mnuStrongLinks", "&Always", "", SetStrongLinks, 2, 2, nullptr, LinksAsSet},
     MenuRow{2, "mnuIsolatedNumbers", "&Isolated numbers", ""},
     MenuRow{3, "mnuGridView", "&All", "Ctrl+Shift+#", ViewNumber, 0, 0, nullptr, IsInView},
     MenuRow{3, "mnuGridView", "&#'s", "Ctrl+Shift+#", ViewNumber, 1, 9, nullptr, IsInView},
@@ -123,6 +181,12 @@ constexpr std::array Rows{
     MenuRow{2, "mnuShowLogicNeeded", "Show &logic needed to solve", "L", Plain<mnuShowLogicNeeded>},
     MenuRow{2, "mnuApplyLogic", "Apply selected solve l&ogic", "Ctrl+L", Plain<mnuApplyLogic>},
     MenuRow{2, "mnuSolveGame", "Solve this ga&me", "Shift+Z", Plain<mnuSolveGame>},
+    MenuRow{2, "mnuBreak7", SeparatorCaption, ""},
+    MenuRow{2, "mnuHideSelectedCellsConditional", "Hide selected cells (co&nditional)", "Ctrl+H",
+            PressKey<'H', CtrlKey>},
+    MenuRow{2, "mnuHideSelectedCellsForce", "Hide selected cells (a&bsolute)", "Shift+H",
+            PressKey<'H', ShiftKey>},
+    MenuRow{2, "mnuMakeGiven", "Make selected cells &given", "Ctrl+G", PressKey<'G', CtrlKey>},
     MenuRow{1, "mnuTime", "&Time", ""},
     MenuRow{2, "mnuPauseTime", "&Pause", "F12", Plain<mnuPauseTime>},
     MenuRow{2, "mnuResetTime", "&Reset", "", Plain<mnuResetTime>},

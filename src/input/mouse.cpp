@@ -2,11 +2,15 @@
 
 #include "board/board.h"
 #include "board/geometry.h"
+#include "board/look.h"
+#include "game/history.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
+#include "grid/rounding.h"
 #include "input/keys.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace kelvarine {
 
@@ -61,6 +65,63 @@ void SelectRectangle(std::int32_t shift)
     }
 }
 
+CellWord CandidatesOf(Cell cell)
+{
+    return WordAt(cell) & CandidateMask;
+}
+
+// The place-th number of a mask counted upward from 1; 0 when it has fewer.
+std::int32_t NumberAtPlace(CellWord mask, int place)
+{
+    for (int k = 1; k < place; ++k) {
+        mask &= mask - 1;
+    }
+    return mask == 0 ? 0 : std::countr_zero(mask);
+}
+
+// 0, 1 or 2 for the third of a side in which an offset lies.
+int ThirdOf(int offset, int side)
+{
+    if (offset < side / 3) {
+        return 0;
+    }
+    return offset >= 2 * side / 3 ? 2 : 1;
+}
+
+// Changes the selected cells that are no givens and hold a number; what follows a change follows,
+// and the board is painted in any case.
+template <typename Change>
+void ChangeCellsWith(CellWord number, const Change &change)
+{
+    bool changed = false;
+    for (const Cell cell : Cells) {
+        CellWord &word = WordAt(cell);
+        if ((word & GivenBit) != 0 || (word & SelectedBit) == 0 || (word & number) == 0) {
+            continue;
+        }
+        const CellWord before = word;
+        word = change(word);
+        changed = changed || word != before;
+    }
+    if (changed) {
+        PushUndoState();
+        ScanAndTestWin();
+    }
+    DrawBoard();
+}
+
+// The clicked cell only chooses the number; the selected cells lose it, but for their last one.
+void StrikeOut(Cell cell, int x, int y)
+{
+    const std::int32_t number = NumberAtPoint(cell.Column, cell.Row, x, y);
+    if (number == 0) {
+        return;
+    }
+    const CellWord bit = BitTable[static_cast<std::size_t>(number)];
+    ChangeCellsWith(
+        bit, [=](CellWord word) { return (word & CandidateMask) == bit ? word : word & ~bit; });
+}
+
 // One line on or back, from 9 round to 1 and the other way.
 std::int32_t StepLine(std::int32_t line, int step)
 {
@@ -96,8 +157,57 @@ void BoardPressed(std::int32_t button, std::int32_t shift, int x, int y)
         DrawBoard();
         return;
     }
-    if (button != RightButton) {
+    if (button == RightButton) {
+        StrikeOut(*cell, x, y);
+    } else {
         PressCell(*cell, shift);
+    }
+}
+
+void BoardDoubleClicked()
+{
+    if (SearchActive != False) {
+        return;
+    }
+    const std::optional<Cell> cell = CellAt(ClickX, ClickY);
+    if (!cell || CountCandidates(cell->Column, cell->Row) < 2) {
+        return;
+    }
+    const std::int32_t number = NumberAtPoint(cell->Column, cell->Row, ClickX, ClickY);
+    if (number == 0) {
+        return;
+    }
+    const CellWord bit = BitTable[static_cast<std::size_t>(number)];
+    ChangeCellsWith(bit, [=](CellWord word) { return (word & ~CandidateMask) | bit; });
+}
+
+std::int32_t NumberAtPoint(std::int32_t column, std::int32_t row, int x, int y)
+{
+    const CellWord candidates = CandidatesOf(MakeCell(column, row));
+    const int count = std::popcount(candidates);
+    const int acrossCell = x - CellX(column);
+    const int downCell = y - CellY(row);
+    if (count == 0) {
+        return 0;
+    }
+    // With one number in view there is only one thing that a click can mean.
+    if (count == 1 || std::popcount(NumberFilter & CandidateMask) == 1) {
+        return NumberAtPlace(candidates & NumberFilter, 1);
+    }
+    switch (LayoutFor(count)) {
+    case NumberLayout::Nine:
+        return 1 + ThirdOf(acrossCell, CellWidth) + 3 * ThirdOf(downCell, CellHeight);
+    case NumberLayout::Pair: {
+        // The diagonal of the cell decides.
+        const auto cut =
+            static_cast<int>(RoundHalfEven(static_cast<double>(downCell) * CellWidth / CellHeight));
+        return NumberAtPlace(candidates, acrossCell >= CellWidth - cut ? 2 : 1);
+    }
+    default: {
+        const int across = acrossCell < CellWidth / 2 ? 1 : 2;
+        const int down = downCell > CellHeight / 2 ? 2 : 0;
+        return NumberAtPlace(candidates, across + down);
+    }
     }
 }
 

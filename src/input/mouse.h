@@ -1,4 +1,5 @@
-// The mouse and the arrow keys on the board: what a press, a drag and a step select.
+// The mouse and the arrow keys on the board: what a press, a drag and a step select, and what the
+// number under the pointer is for.
 #pragma once
 
 #include <cstdint>
@@ -20,9 +21,18 @@ extern std::int32_t ClickY;
 // Puts the state above to its defaults.
 void SetMouseDefaults();
 
-// A press on the board at (x, y) with one button and a modifier sum. A press beside the cells,
-// such as (-1, -1) for the margin of the window, only drops the selection. Repaints.
+// A press on the board at (x, y) with one button and a modifier sum. The left one selects, the
+// right one strikes the number under the pointer out of the selected cells. A press beside the
+// cells, such as (-1, -1) for the margin of the window, only drops the selection. Repaints.
 void BoardPressed(std::int32_t button, std::int32_t shift, int x, int y);
+
+// A double click, after the press of its first click: the selected cells that have the number
+// under the pointer keep it alone.
+void BoardDoubleClicked();
+
+// Number that a point of a cell means, by where the numbers of the cell stand; 0 for none. It need
+// not be a candidate of the cell.
+std::int32_t NumberAtPoint(std::int32_t column, std::int32_t row, int x, int y);
 
 // A move over the board while a button is held: stretches the selection from where it began.
 void BoardMoved(std::int32_t button, std::int32_t shift, int x, int y);

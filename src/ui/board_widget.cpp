@@ -9,6 +9,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace kelvarine {
 
 BoardWidget::BoardWidget(QWidget *parent) : QWidget(parent)
@@ -32,6 +34,16 @@ void BoardWidget::mousePressEvent(QMouseEvent *event)
     BoardPressed(button, ModifiersOf(event->modifiers()), place.x(), place.y());
 }
 
+void BoardWidget::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // Quick presses of the right button are presses.
+    if (event->button() == Qt::RightButton) {
+        mousePressEvent(event);
+    } else {
+        BoardDoubleClicked();
+    }
+}
+
 void BoardWidget::mouseMoveEvent(QMouseEvent *event)
 {
     const std::int32_t button = event->buttons().testFlag(Qt::LeftButton) ? LeftButton : NoButton;
@@ -46,7 +58,23 @@ void BoardWidget::keyPressEvent(QKeyEvent *event)
         event->ignore();
         return;
     }
+    modifierHeld = modifierHeld || code == ShiftCode || code == CtrlCode;
     KeyDown(code, ModifiersOf(event->modifiers()));
+}
+
+void BoardWidget::keyReleaseEvent(QKeyEvent *event)
+{
+    modifierHeld = false;
+    KeyUp(KeyCodeOf(*event));
+}
+
+void BoardWidget::focusOutEvent(QFocusEvent *event)
+{
+    // A modifier that opens a dialog is let go there.
+    if (std::exchange(modifierHeld, false)) {
+        KeyUp(ShiftCode);
+    }
+    QWidget::focusOutEvent(event);
 }
 
 } // namespace kelvarine

@@ -37,7 +37,7 @@ constexpr std::array NamedKeys{
     NamedKey{Qt::Key_Right, RightCode},   NamedKey{Qt::Key_Down, DownCode},
     NamedKey{Qt::Key_Insert, InsertCode}, NamedKey{Qt::Key_Delete, DeleteCode},
     NamedKey{Qt::Key_Shift, ShiftCode},   NamedKey{Qt::Key_Control, CtrlCode},
-    NamedKey{Qt::Key_Minus, MinusCode},
+    NamedKey{Qt::Key_Minus, MinusCode},   NamedKey{Qt::Key_Escape, EscapeCode},
 };
 
 // The letters by place, for layouts that write no Latin ones.

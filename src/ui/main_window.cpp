@@ -10,17 +10,21 @@
 #include "game/win_display.h"
 #include "input/keys.h"
 #include "input/mouse.h"
+#include "input/toolbar.h"
 #include "logic/driver.h"
 #include "ui/board_widget.h"
 #include "ui/key_decoder.h"
 #include "ui/menus.h"
 #include "ui/presentation.h"
+#include "ui/toolbar_widget.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace kelvarine {
 
@@ -40,7 +44,8 @@ MainWindow *Window()
 
 // ---- Client area ---------------------------------------------------------------------------
 
-ClientArea::ClientArea(QWidget *parent) : QWidget(parent), Board(new BoardWidget(this))
+ClientArea::ClientArea(QWidget *parent)
+    : QWidget(parent), Toolbar(new ToolbarWidget(this)), Board(new BoardWidget(this))
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusProxy(Board);
@@ -48,7 +53,12 @@ ClientArea::ClientArea(QWidget *parent) : QWidget(parent), Board(new BoardWidget
 
 void ClientArea::Layout()
 {
-    LayoutBoard(width(), height(), 0);
+    const bool toolbar = ToolbarVisible != False;
+    Toolbar->setVisible(toolbar);
+    Toolbar->setGeometry(1, 0, std::max(1, width() - 2), ToolbarHeight);
+    LayoutToolbar(Toolbar->width());
+    Toolbar->Update();
+    LayoutBoard(width(), height(), toolbar ? ToolbarHeight : 0);
     Board->setGeometry(BoardPlace.X, BoardPlace.Y, BoardPlace.Width, BoardPlace.Height);
     SetBoardPictureSize(BoardPlace.Width, BoardPlace.Height, devicePixelRatioF());
 }
@@ -119,6 +129,11 @@ void MainWindow::keyPressEvent(QKeyEvent *event)
     if (const std::int32_t code = KeyCodeOf(*event); code != 0) {
         KeyDown(code, ModifiersOf(event->modifiers()));
     }
+}
+
+void MainWindow::keyReleaseEvent(QKeyEvent *event)
+{
+    KeyUp(KeyCodeOf(*event));
 }
 
 } // namespace kelvarine

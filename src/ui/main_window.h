@@ -9,17 +9,19 @@ class QMenuBar;
 namespace kelvarine {
 
 class BoardWidget;
+class ToolbarWidget;
 
-// The client area: paints the exterior margin and holds the board.
+// The client area: paints the exterior margin and holds the toolbar and the board.
 class ClientArea : public QWidget {
     Q_OBJECT
 
 public:
     explicit ClientArea(QWidget *parent);
 
-    // Works the sizes out anew and moves the board.
+    // Works the sizes out anew and moves the toolbar and the board.
     void Layout();
 
+    ToolbarWidget *const Toolbar;
     BoardWidget *const Board;
 
 protected:
@@ -44,6 +46,7 @@ public:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
     void BuildMenus();

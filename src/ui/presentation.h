@@ -80,6 +80,12 @@ void UpdateCaptions();
 // Repaints the margin with its texts.
 void RefreshWindow();
 
+// Brings the toolbar's buttons in line with ToolButtons.
+void UpdateToolbar();
+
+// Gives the keyboard to the board.
+void FocusBoard();
+
 // Lays the window out anew, paints the board and refreshes the window.
 void ResizeWindow();
 

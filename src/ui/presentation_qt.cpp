@@ -4,6 +4,7 @@
 #include "ui/board_widget.h"
 #include "ui/main_window.h"
 #include "ui/presentation.h"
+#include "ui/toolbar_widget.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -140,6 +141,16 @@ void UpdateCaptions()
 void RefreshWindow()
 {
     Window()->Client->update();
+}
+
+void UpdateToolbar()
+{
+    Window()->Client->Toolbar->Update();
+}
+
+void FocusBoard()
+{
+    Window()->Client->Board->setFocus();
 }
 
 void ResizeWindow()

@@ -9,9 +9,12 @@
 #include "game/new_games.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
+#include "input/givens.h"
 #include "input/keys.h"
 #include "input/mouse.h"
 #include "input/number_keys.h"
+#include "input/selection.h"
+#include "input/toolbar.h"
 #include "logic/alerts.h"
 #include "logic/driver.h"
 #include "logic/event_sound.h"
@@ -125,22 +128,40 @@ std::vector<ExpectedKey> ExpectedKeys()
          [] {
              ChangeSelection(0, NumberFilter);
          }},
+        {16, Any, "sign of Shift", ShowSignOfShift},
+        {17, Any, "sign of Ctrl", ShowSignOfCtrl},
+        {27, Any, "escape",
+         [] {
+             ProcessToolbar(0);
+         }},
+        {71, 2, "make given", mnuMakeGiven},
         {72, 0, "hint", mnuHint},
+        {72, 1, "hide all", mnuHideSelectedCellsForce},
+        {72, 2, "hide some", mnuHideSelectedCellsConditional},
         {65, 2, "", Nothing},
         {65, Any, "reason", mnuShowAlertReason},
         {66, 2, "blank grid", mnuGameBlankGrid},
+        {66, Any, "box", mnuSelectBox},
         {67, 2, "copy grid", mnuCopyGridFormat},
+        {67, Any, "column", mnuSelectColumn},
+        {68, Any, "domain", mnuSelectDomain},
+        {73, Any, "intersection", mnuSelectIntersection},
         {76, 1, "", Nothing},
         {76, 2, "apply logic", mnuApplyLogic},
         {76, Any, "logic needed", mnuShowLogicNeeded},
         {78, 2, "random game", mnuGameRandom},
+        {80, 2, "", Nothing},
+        {80, Any, "peers", mnuSelectPeers},
+        {82, 1, "", Nothing},
         {82, 2, "restart", mnuRestartSameGame},
+        {82, Any, "row", mnuSelectRow},
         {83, 2, "", Nothing},
         {83, 3, "", Nothing},
         {83, Any, "take snapshot", mnuTakeSnapshot},
         {84, 2, "text string", mnuGameTextString},
         {85, Any, "use snapshot", mnuUseSnapshot},
         {86, 2, "clipboard", mnuGameClipboard},
+        {87, Any, "whole grid", mnuSelectWholeGrid},
         {89, 2, "redo", Redo},
         {90, 1, "solve", mnuSolveGame},
         {90, 2, "undo", Undo},
@@ -220,6 +241,9 @@ TEST_F(Keys, ScenarioTellsTheCommandsApart)
 
 TEST_F(Keys, CodesStandForTheirKeys)
 {
+    EXPECT_EQ(ShiftCode, 16);
+    EXPECT_EQ(CtrlCode, 17);
+    EXPECT_EQ(EscapeCode, 27);
     EXPECT_EQ(PageUpCode, 33);
     EXPECT_EQ(PageDownCode, 34);
     EXPECT_EQ(LeftCode, 37);

@@ -131,8 +131,22 @@ TEST_F(Menus, StandInOrderWithTheirCaptionsAndShortcuts)
         "2 mnuBreak3 | - | ",
         "2 mnuTakeSnapshot | Take &snapshot | S",
         "2 mnuUseSnapshot | &Use snapshot | U",
+        "2 mnuBreak4 | - | ",
+        "2 mnuSelectColumn | Select &column | C",
+        "2 mnuSelectRow | Select &row | R",
+        "2 mnuSelectBox | Select &box | B",
+        "2 mnuSelectDomain | Select &domain | D",
+        "2 mnuSelectPeers | Select &peers | P",
+        "2 mnuSelectIntersection | Select &intersection | I",
+        "2 mnuSelectWholeGrid | Select &whole grid | W",
         "1 mnuView | &View | ",
+        "2 mnuViewToolBar | &Toolbar | ",
+        "2 mnuViewToolTips | T&oolbar tips | ",
         "2 mnuViewCoordinates | &Coordinates | ",
+        "2 mnuStrong | &Strong links | ",
+        "3 mnuStrongLinks | &Never | ",
+        "3 mnuStrongLinks | &Only in isolated views | ",
+        "3 mnuStrongLinks | &Always | ",
         "2 mnuIsolatedNumbers | &Isolated numbers | ",
         "3 mnuGridView | &All | Ctrl+Shift+0",
         "3 mnuGridView | &1's | Ctrl+Shift+1",
@@ -150,6 +164,10 @@ TEST_F(Menus, StandInOrderWithTheirCaptionsAndShortcuts)
         "2 mnuShowLogicNeeded | Show &logic needed to solve | L",
         "2 mnuApplyLogic | Apply selected solve l&ogic | Ctrl+L",
         "2 mnuSolveGame | Solve this ga&me | Shift+Z",
+        "2 mnuBreak7 | - | ",
+        "2 mnuHideSelectedCellsConditional | Hide selected cells (co&nditional) | Ctrl+H",
+        "2 mnuHideSelectedCellsForce | Hide selected cells (a&bsolute) | Shift+H",
+        "2 mnuMakeGiven | Make selected cells &given | Ctrl+G",
         "1 mnuTime | &Time | ",
         "2 mnuPauseTime | &Pause | F12",
         "2 mnuResetTime | &Reset | ",
@@ -236,7 +254,7 @@ TEST_F(Menus, EntryDoesWhatTheKeyOfItsShortcutDoes)
         }
         ++compared;
     }
-    EXPECT_EQ(compared, 36);
+    EXPECT_EQ(compared, 46);
 }
 
 TEST_F(Menus, PlacedNumbersAreThePlainDigits)

@@ -7,6 +7,7 @@
 #include "game/win_display.h"
 #include "generator/game_number.h"
 #include "input/mouse.h"
+#include "input/toolbar.h"
 #include "support/positions.h"
 #include "support/presentation_double.h"
 
@@ -52,8 +53,10 @@ std::string ProgramState()
          << LastAnswer << " file " << GameFilePath << " number " << GameNumber << "\nclock "
          << SolveSeconds << ' ' << ClockRunning << ' ' << TimeCaption << ' ' << PauseCaption
          << "\nwin " << WinDisplayRunning << ' ' << WinStage << "\nmargin " << MarginThickness
-         << ' ' << CoordinatesVisible << "\nmasks " << SolveMask << ' ' << AlertMask << "\ntitle "
-         << Seen.WindowTitle << "\nclipboard " << Seen.Clipboard << '\n';
+         << ' ' << CoordinatesVisible << "\ntoolbar " << ToolbarVisible << ' ' << ToolTipsVisible
+         << ' ' << ToolMode << ' ' << ToolSign << " links " << StrongLinkMode << "\nmasks "
+         << SolveMask << ' ' << AlertMask << "\ntitle " << Seen.WindowTitle << "\nclipboard "
+         << Seen.Clipboard << '\n';
     for (const std::string &call : Seen.Calls) {
         text << "call " << call << '\n';
     }

@@ -145,6 +145,16 @@ void RefreshWindow()
     ++Seen.WindowRefreshes;
 }
 
+void UpdateToolbar()
+{
+    ++Seen.ToolbarUpdates;
+}
+
+void FocusBoard()
+{
+    ++Seen.BoardFocuses;
+}
+
 void ResizeWindow()
 {
     Record("resize", "");

@@ -23,6 +23,8 @@ struct PresentationRecord {
     std::string WindowTitle;
     int BoardPaints = 0; // calls of DrawBoard where that is a double, too
     int WindowRefreshes = 0;
+    int ToolbarUpdates = 0;
+    int BoardFocuses = 0;
     int Yields = 0;
     int WaitCursorDepth = 0;
     double Now = 0; // seconds since midnight

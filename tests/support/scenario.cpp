@@ -18,7 +18,9 @@ void SetScenario(CellWord filter)
     for (const CellWord candidates : {0x01EU, 0x1F8U, 0x0AAU}) {
         Grid[3][1] = candidates | SelectedBit;
         Grid[4][1] = candidates << 1 | SelectedBit;
-        Grid[5][1] |= SelectedBit; // a given
+        for (const int column : {4, 5, 6}) {
+            Grid[static_cast<std::size_t>(column)][2] |= SelectedBit; // givens, not all needed
+        }
         PushUndoState();
     }
     Undo();

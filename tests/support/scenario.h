@@ -9,7 +9,7 @@
 
 namespace kelvarine::testing {
 
-// A saved game in its middle: two cells selected, levels to undo and to redo, a snapshot taken,
+// A saved game in its middle: two unknown cells and three givens selected, levels to undo and to redo, a snapshot taken,
 // no techniques selected, and the numbers of the filter in view.
 void SetScenario(CellWord filter);
 
