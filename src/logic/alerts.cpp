@@ -1,5 +1,6 @@
 #include "logic/alerts.h"
 
+#include "logic/chain_search.h"
 #include "logic/event_sound.h"
 #include "logic/technique.h"
 #include "logic/technique_table.h"
@@ -76,6 +77,7 @@ void ScanAlerts(std::int32_t mode)
     if (AlertMask == 0 && !isHint) {
         return;
     }
+    const ChainBudget budget;
     SetWaitCursor(true);
     HintText.clear();
     FindGivenConflicts(mode);

@@ -1,6 +1,26 @@
 #include "logic/chain_search.h"
 
+#include <limits>
+
 namespace kelvarine {
+
+namespace {
+
+constexpr std::int64_t Unlimited = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t StepsOfARun = 50'000'000; // no sound position comes near it
+
+} // namespace
+
+std::int64_t ChainStepsLeft = Unlimited;
+ChainBudget::ChainBudget()
+{
+    ChainStepsLeft = StepsOfARun;
+}
+
+ChainBudget::~ChainBudget()
+{
+    ChainStepsLeft = Unlimited;
+}
 
 namespace {
 

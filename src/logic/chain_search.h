@@ -54,6 +54,24 @@ struct Chain {
     }
 };
 
+// Some contradictory grids have more chains than anyone could wait for. While a budget stands, all
+// chain walks together take at most a few seconds; from then on they find nothing more.
+class ChainBudget {
+public:
+    ChainBudget();
+    ChainBudget(const ChainBudget &) = delete;
+    ChainBudget &operator=(const ChainBudget &) = delete;
+    ~ChainBudget();
+};
+
+extern std::int64_t ChainStepsLeft;
+
+// Takes a step of a walk off the budget. False when none is left.
+inline bool SpendChainStep()
+{
+    return --ChainStepsLeft >= 0;
+}
+
 // Cell and word of a CellIndex.
 inline Cell CellOf(int index)
 {

@@ -1,6 +1,8 @@
 #include "logic/driver.h"
 
 #include "game/history.h"
+#include "logic/chain_search.h"
+#include "logic/solvability.h"
 #include "logic/technique.h"
 #include "logic/technique_table.h"
 #include "ui/presentation.h"
@@ -48,6 +50,7 @@ struct Run {
     // Set to false before each pass alone. After a dead end it is still true when the techniques
     // are tried with the next number, so that the first of them ends that round; intended.
     Flag Found = False;
+    std::int64_t Passes = 0;
     int TrialDepth = 0;
     std::array<Trial, MostTrials + 1> Trials{}; // 1..81 used
     std::vector<const TechniqueRow *> Order;
@@ -141,6 +144,16 @@ bool RepeatsTrial(Run &run)
     return false;
 }
 
+// A walk that has been counting for long without a first solution is often one through all trials
+// of a position that has none. When that can be proved, the outcome of the walk is known.
+bool IsHopeless(Run &run)
+{
+    constexpr std::int64_t patience = 20'000; // passes, a tenth of a second
+    ++run.Passes;
+    return run.Mode == CountSolutions && run.Passes == patience && SolutionCount == 0 &&
+           IsProvenUnsolvable(History[SafeCopySlot]);
+}
+
 void RecordSolution()
 {
     SolutionCountText =
@@ -187,6 +200,9 @@ Step StartPass(Run &run)
     if (SearchActive == False) {
         run.Result = Stopped;
         return Step::Leave;
+    }
+    if (IsHopeless(run)) {
+        return Step::NoSolution;
     }
     ClearCellBits(PassMarks);
     const bool goesRound = GoesRound(run);
@@ -346,6 +362,7 @@ std::int32_t ApplyLogic(std::int32_t mode)
     UsedMask = 0;
     SolutionCount = 0;
     CopyCells(Grid, History[SafeCopySlot]);
+    const ChainBudget budget;
     Run run;
     run.Mode = mode;
     run.Order = TechniquesInUse();

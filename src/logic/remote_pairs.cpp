@@ -137,7 +137,7 @@ void Open(Search &search)
 // Enters the next peer of the top cell, if there is one and anything is left to be hit.
 bool StepOn(Search &search)
 {
-    if (search.Stack.Depth == MaxRPLinks || !search.Targets.Any()) {
+    if (search.Stack.Depth == MaxRPLinks || !search.Targets.Any() || !SpendChainStep()) {
         return false;
     }
     const auto depth = static_cast<std::size_t>(search.Stack.Depth);

@@ -247,7 +247,7 @@ std::uint8_t &NextHouse(Search &search)
 // left to be hit.
 bool StepOn(Search &search)
 {
-    if (search.Stack.Depth == MaxSinglesLinks || !search.Targets.Any()) {
+    if (search.Stack.Depth == MaxSinglesLinks || !search.Targets.Any() || !SpendChainStep()) {
         return false;
     }
     const int top = search.Stack.Top();

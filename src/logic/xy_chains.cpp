@@ -197,6 +197,9 @@ void Open(Search &search, int carried)
 // Enters the next peer of the top cell from which the chain can get somewhere, if there is one.
 bool StepOn(Search &search)
 {
+    if (!SpendChainStep()) {
+        return false;
+    }
     const auto depth = static_cast<std::size_t>(search.Stack.Depth);
     const int carried = search.Carry[depth];
     CellSet &peers = search.Peers[depth];
