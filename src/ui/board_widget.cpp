@@ -3,6 +3,7 @@
 #include "board/board_painter.h"
 #include "input/keys.h"
 #include "input/mouse.h"
+#include "ui/board_accessible.h"
 #include "ui/key_decoder.h"
 
 #include <QKeyEvent>
@@ -15,6 +16,7 @@ namespace kelvarine {
 
 BoardWidget::BoardWidget(QWidget *parent) : QWidget(parent)
 {
+    DescribeBoardToTools(); // before anything asks for the description, because that is kept
     setFocusPolicy(Qt::StrongFocus);
     // The picture covers all of it, so there is nothing to erase.
     setAttribute(Qt::WA_OpaquePaintEvent);

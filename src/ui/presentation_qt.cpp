@@ -1,6 +1,7 @@
 // The seam to the world, over the toolkit.
 #include "board/board.h"
 #include "board/board_painter.h"
+#include "ui/board_accessible.h"
 #include "ui/board_widget.h"
 #include "ui/main_window.h"
 #include "ui/presentation.h"
@@ -163,6 +164,7 @@ void ResizeWindow()
 void ShowBoardPicture()
 {
     Window()->Client->Board->update();
+    AnnounceBoard();
 }
 
 } // namespace kelvarine
