@@ -7,6 +7,8 @@
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
+#include "game/solutions.h"
+#include "game/statistics.h"
 #include "game/win_display.h"
 #include "generator/game_number.h"
 #include "generator/generator.h"
@@ -35,6 +37,8 @@ void SetDefaults()
     SetMouseDefaults();
     SetToolbarDefaults();
     SetScreenDefaults();
+    SetStatisticsDefaults();
+    SetSolutionsDefaults();
 }
 
 } // namespace kelvarine

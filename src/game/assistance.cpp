@@ -1,10 +1,13 @@
 #include "game/assistance.h"
 
 #include "board/board.h"
+#include "game/history.h"
 #include "game/lifecycle.h"
+#include "game/solutions.h"
 #include "grid/grid.h"
 #include "logic/alerts.h"
 #include "logic/driver.h"
+#include "logic/rating.h"
 #include "logic/technique.h"
 #include "ui/presentation.h"
 
@@ -17,6 +20,28 @@ namespace {
 bool AskForMore(std::string_view question)
 {
     return AskYesNo(HintText + "\r\r" + std::string(question), "Hint");
+}
+
+// Whether the player wants the selected cells exposed and their solution is known. The last cell
+// alone speaks for all of them; intended.
+bool AgreeToExpose(std::int64_t selected, CellWord lastSolution)
+{
+    if (selected == 0) {
+        ShowMessage("There are no cells selected.");
+        return false;
+    }
+    if (lastSolution == 0) {
+        ShowMessage(selected == 1 ? "This cell is unknown." : "These cells are unknown.");
+        return false;
+    }
+    return AskYesNo(selected == 1 ? "Are you sure you want to expose this cell?"
+                                  : "Are you sure you want to expose these cells?");
+}
+
+void Expose(CellWord &word)
+{
+    word = (word & ~CandidateMask) | (word & SolutionMask) >> SolutionShift | GivenBit;
+    ++GivenCount;
 }
 
 } // namespace
@@ -110,6 +135,34 @@ void mnuSolveGame()
         UpdateStatistics();
     }
     SolveMask = solveMask;
+}
+
+void mnuExposeSelectedCells()
+{
+    std::int64_t selected = 0;
+    CellWord lastSolution = 0;
+    for (const Cell cell : Cells) {
+        if ((WordAt(cell) & SelectedBit) != 0) {
+            ++selected;
+            lastSolution = WordAt(cell) & SolutionMask;
+        }
+    }
+    if (!AgreeToExpose(selected, lastSolution)) {
+        return;
+    }
+    for (const Cell cell : Cells) {
+        CellWord &word = WordAt(cell);
+        if ((word & (SelectedBit | GivenBit)) == SelectedBit) {
+            Expose(word);
+        }
+    }
+    ClearCellBits(SelectedBit);
+    ChainColumns[0] = 0;
+    ClearPointerState();
+    PushUndoState();
+    RateGame();
+    RefreshSolutions();
+    FinishChange();
 }
 
 } // namespace kelvarine

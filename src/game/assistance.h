@@ -17,6 +17,9 @@ void mnuApplyLogic();
 // Solves the game. It then no longer counts in the statistics.
 void mnuSolveGame();
 
+// Asks, and then makes givens of the selected cells with the numbers of their solution.
+void mnuExposeSelectedCells();
+
 // Makes every "a 8" of HintText an "an 8": the texts of the techniques always say "a". Characters
 // alone count, so the end of a longer word is taken for the article too; intended.
 void MendArticles();

@@ -2,6 +2,7 @@
 
 #include "board/board.h"
 #include "game/lifecycle.h"
+#include "game/solutions.h"
 #include "grid/grid.h"
 #include "logic/event_sound.h"
 #include "logic/rating.h"
@@ -28,6 +29,7 @@ void ShowLevel(std::int32_t level)
     Grid = Slot(level);
     CountGivens();
     RateGame();
+    RefreshSolutions();
     FinishChange();
 }
 

@@ -3,6 +3,9 @@
 #include "board/board.h"
 #include "game/clock.h"
 #include "game/history.h"
+#include "game/screens.h"
+#include "game/solutions.h"
+#include "game/statistics.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
 #include "logic/alerts.h"
@@ -58,6 +61,7 @@ void StartGame(std::int32_t mode)
     CountGivens();
     RateGame();
     ScanAlerts(ModeAlert);
+    RefreshSolutions();
     if (mode < GameFromFile) {
         ResetSolveTime();
     }
@@ -91,6 +95,10 @@ void UpdateStatistics()
     StartWinDisplay();
     StopClockAtWin();
     if (GameRating >= 1 && GameRating <= 5 && StatsCounted == False) {
+        RecordSolvedGame();
+        if (StatisticsOpen != False) {
+            LoadStatisticsScreen();
+        }
         StatsCounted = True;
     }
 }

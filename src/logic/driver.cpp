@@ -156,8 +156,6 @@ bool IsHopeless(Run &run)
 
 void RecordSolution()
 {
-    SolutionCountText =
-        std::to_string(SolutionCount) + (SolutionCount == 1 ? " solution" : " solutions");
     for (std::size_t row = 1; row <= 9; ++row) {
         for (std::size_t column = 1; column <= 9; ++column) {
             SolutionList += static_cast<char>('0' + LowestCandidate(Grid[column][row]));
@@ -184,8 +182,9 @@ Step OnSolvedGrid(Run &run)
         }
         return Step::Backtrack;
     default:
+        SolutionCountText = SolutionCountWords(SolutionCount);
+        ShowSolutionCount();
         if (SolutionCount > MostListed) {
-            SolutionCountText = "More than 25 solutions";
             RestoreSafeCopy();
             return LeaveWith(run, NotSolved);
         }
@@ -354,6 +353,17 @@ void SetDriverDefaults()
     SearchKind = NotStoppable;
     StopRequested = False;
     SolutionCountText.clear();
+}
+
+std::string SolutionCountWords(std::int32_t count)
+{
+    if (count == 0) {
+        return "No solutions";
+    }
+    if (count > MostListed) {
+        return "More than 25 solutions";
+    }
+    return std::to_string(count) + (count == 1 ? " solution" : " solutions");
 }
 
 std::int32_t ApplyLogic(std::int32_t mode)

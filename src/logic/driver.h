@@ -32,6 +32,9 @@ extern Flag StopRequested;
 // Count of solutions in words, as the solutions screen shows it while they are listed.
 extern std::string SolutionCountText;
 
+// A count of solutions in words; 26 stands for more than 25.
+std::string SolutionCountWords(std::int32_t count);
+
 // Puts the state above to its defaults.
 void SetDriverDefaults();
 

@@ -89,4 +89,24 @@ void FocusBoard();
 // Lays the window out anew, paints the board and refreshes the window.
 void ResizeWindow();
 
+// ---- Screens beside the board --------------------------------------------------------------
+
+// Opens the statistics screen, or brings it to the front.
+void ShowStatisticsScreen();
+
+// Brings the labels of the statistics screen up to date, when it is open.
+void RefreshStatisticsScreen();
+
+// Opens the solutions screen, or brings it to the front. It never waits.
+void ShowSolutionsScreen();
+
+// Brings text, count and format of the solutions screen up to date, when it is open.
+void RefreshSolutionsScreen();
+
+// Brings the count of the solutions screen alone up to date, when it is open.
+void ShowSolutionCount();
+
+// Shows name, version and licence of the program until the player has read them.
+void ShowAboutScreen();
+
 } // namespace kelvarine

@@ -1,6 +1,11 @@
 #include "support/presentation_double.h"
 
 #include "configure/defaults.h"
+#include "files/file_choice.h"
+#include "logic/driver.h"
+
+#include <cstdlib>
+#include <filesystem>
 
 namespace kelvarine {
 
@@ -8,8 +13,46 @@ namespace testing {
 
 PresentationRecord Seen;
 
+namespace {
+
+// Folders of this process for what the program keeps, empty at every start.
+class OwnFolders {
+public:
+    OwnFolders()
+    {
+        std::string form = (std::filesystem::temp_directory_path() / "kelvarine-XXXXXX").string();
+        if (::mkdtemp(form.data()) == nullptr) {
+            std::abort(); // the tests must not touch the files of the person who runs them
+        }
+        home = form;
+    }
+    OwnFolders(const OwnFolders &) = delete;
+    OwnFolders &operator=(const OwnFolders &) = delete;
+    ~OwnFolders()
+    {
+        std::error_code failure;
+        std::filesystem::remove_all(home, failure);
+    }
+
+    void Use() const
+    {
+        std::filesystem::remove_all(home / "data");
+        std::filesystem::remove_all(home / "config");
+        ::setenv("HOME", home.c_str(), 1);
+        ::setenv("XDG_DATA_HOME", (home / "data").c_str(), 1);
+        ::setenv("XDG_CONFIG_HOME", (home / "config").c_str(), 1);
+    }
+
+private:
+    std::filesystem::path home;
+};
+
+} // namespace
+
 void Restart()
 {
+    static const OwnFolders folders;
+    folders.Use();
     SetDefaults();
     Seen = {};
 }
@@ -158,6 +201,48 @@ void FocusBoard()
 void ResizeWindow()
 {
     Record("resize", "");
+}
+
+// ---- Screens beside the board --------------------------------------------------------------
+
+void ShowStatisticsScreen()
+{
+    Record("statistics screen", "");
+}
+
+void RefreshStatisticsScreen()
+{
+    Record("statistics", "");
+}
+
+void ShowSolutionsScreen()
+{
+    Record("solutions screen", "");
+}
+
+void RefreshSolutionsScreen()
+{
+    Record("solutions", SolutionCountText);
+}
+
+void ShowSolutionCount()
+{
+    Record("solution count", SolutionCountText);
+}
+
+void ShowAboutScreen()
+{
+    Record("about screen", "");
+}
+
+bool ChooseFileToSave(std::string_view title, int firstType)
+{
+    Record("file to save, type " + std::to_string(firstType), title);
+    if (Seen.FileAnswers.empty()) {
+        return false;
+    }
+    ChosenFilePath = Next(Seen.FileAnswers, std::string());
+    return true;
 }
 
 } // namespace kelvarine

@@ -19,6 +19,7 @@ struct PresentationRecord {
     std::deque<bool> YesNoAnswers;  // taken from the front; No when empty
     std::deque<Answer> SaveAnswers; // taken from the front; No when empty
     std::deque<std::string> TextAnswers;
+    std::deque<std::string> FileAnswers; // paths chosen in turn; cancelled when empty
     std::string Clipboard;
     std::string WindowTitle;
     int BoardPaints = 0; // calls of DrawBoard where that is a double, too

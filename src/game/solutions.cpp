@@ -1,0 +1,108 @@
+#include "game/solutions.h"
+
+#include "board/board.h"
+#include "game/screens.h"
+#include "grid/grid.h"
+#include "logic/driver.h"
+#include "ui/presentation.h"
+
+namespace kelvarine {
+
+std::string SolutionsOnView;
+
+namespace {
+
+constexpr std::string_view Rule = "+-------+-------+-------+\r\n";
+constexpr std::string_view LineEnd = "\r\n";
+constexpr std::size_t SolutionSize = 81;
+
+std::string FramedText(std::string_view list)
+{
+    std::string text;
+    std::size_t i = 0;
+    for (const char digit : list) {
+        text += i % 27 == 0 ? Rule : "";
+        text += i % 3 == 0 ? "| " : "";
+        text += digit;
+        text += ' ';
+        ++i;
+        text += i % 9 == 0 ? "|\r\n" : "";
+        if (i % SolutionSize == 0) {
+            text += Rule;
+            text += LineEnd;
+        }
+    }
+    return text;
+}
+
+std::string LinesText(std::string_view list)
+{
+    std::string text;
+    for (std::size_t k = 0; k < list.size(); k += SolutionSize) {
+        text += list.substr(k, SolutionSize);
+        text += LineEnd;
+    }
+    return text;
+}
+
+} // namespace
+
+void SetSolutionsDefaults()
+{
+    SolutionsOnView.clear();
+}
+
+std::string SolutionsText(std::int32_t format, std::string_view list)
+{
+    return format == 0 ? LinesText(list) : FramedText(list);
+}
+
+void ShowSolutions()
+{
+    SolutionCountText = SolutionCountWords(SolutionCount);
+    SolutionsOnView = SolutionsText(SolutionsFormat, SolutionList);
+    RefreshSolutionsScreen();
+}
+
+void ListSolutions()
+{
+    SearchKind = ListingSolutions;
+    History[SolutionsCopySlot] = Grid;
+    const std::uint32_t solveMask = SolveMask;
+    SolveMask = ListingMask;
+    SolutionList.clear();
+    FillPencilmarks();
+    ApplyLogic(ListSolutions25);
+    ShowSolutions();
+    Grid = History[SolutionsCopySlot];
+    SolveMask = solveMask;
+    SearchKind = NotStoppable;
+    DrawBoard();
+}
+
+void RefreshSolutions()
+{
+    if (SolutionsOpen != False) {
+        ListSolutions();
+    }
+}
+
+void mnuShowSolution()
+{
+    if (SolutionsOpen == False) {
+        // Nothing is known of this position yet.
+        SolutionsOpen = True;
+        SolutionsOnView.clear();
+        SolutionCountText.clear();
+    }
+    ShowSolutionsScreen();
+    ListSolutions();
+}
+
+void optSolutionsFormat(std::int32_t format)
+{
+    SolutionsFormat = format;
+    ShowSolutions();
+}
+
+} // namespace kelvarine

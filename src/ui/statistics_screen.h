@@ -1,0 +1,36 @@
+// frmStatistics: the tables of the games that the player has solved, beside the board.
+#pragma once
+
+#include "game/statistics.h"
+
+#include <QDialog>
+
+class QGridLayout;
+class QLabel;
+
+namespace kelvarine {
+
+class StatisticsScreen : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit StatisticsScreen(QWidget *parent);
+
+    // Takes the texts of the tables over.
+    void Refresh();
+
+    void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
+
+private:
+    QWidget *BuildTable(std::size_t table);
+    void AddHeadings(QGridLayout &grid);
+    void AddRow(QGridLayout &grid, std::size_t table, std::size_t row);
+
+    std::array<std::array<std::array<QLabel *, 6>, 6>, 2> labels{};
+};
+
+} // namespace kelvarine

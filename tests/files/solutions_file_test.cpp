@@ -1,0 +1,82 @@
+#include "files/file_choice.h"
+#include "files/folders.h"
+#include "files/solutions_file.h"
+#include "files/whole_file.h"
+#include "game/solutions.h"
+#include "grid/grid.h"
+#include "support/driver_games.h"
+#include "support/presentation_double.h"
+
+#include <gtest/gtest.h>
+
+namespace kelvarine::testing {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class SolutionsFile : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        Restart();
+        SolutionList = PlainSolution;
+        SolutionCount = 1;
+        Path = DataFolder() + "solutions.txt";
+        std::string error;
+        ASSERT_TRUE(ReplaceWholeFile(Path, "a former file that was longer than the text", error));
+    }
+
+    std::string Read() const
+    {
+        std::string bytes;
+        std::string error;
+        EXPECT_TRUE(ReadWholeFile(Path, bytes, error)) << error;
+        return bytes;
+    }
+
+    std::string Path;
+};
+
+TEST_F(SolutionsFile, HoldsTheTextOnViewInTheFormatOnView)
+{
+    for (const std::int32_t format : {0, 1}) {
+        optSolutionsFormat(format);
+        Seen.FileAnswers = {Path};
+        cmdSaveAsTextFile();
+        EXPECT_EQ(Read(), SolutionsText(format, PlainSolution) + "\r\n");
+    }
+}
+
+TEST_F(SolutionsFile, IsChosenUnderItsTitleWithTextFilesFirst)
+{
+    Seen.Calls.clear();
+    cmdSaveAsTextFile();
+    EXPECT_EQ(Seen.Calls, Texts{"file to save, type 1: Save Solution(s) As Text File"});
+    EXPECT_EQ(Read(), "a former file that was longer than the text") << "cancelled";
+}
+
+TEST_F(SolutionsFile, KeepsToTheTextOnViewAfterLaterSearches)
+{
+    optSolutionsFormat(0);
+    SolutionList = "something else";
+    Seen.FileAnswers = {Path};
+    cmdSaveAsTextFile();
+    EXPECT_EQ(Read(), std::string(PlainSolution) + "\r\n\r\n");
+}
+
+TEST_F(SolutionsFile, EmptyTextIsOneLineEnd)
+{
+    Seen.FileAnswers = {Path};
+    cmdSaveAsTextFile();
+    EXPECT_EQ(Read(), "\r\n");
+}
+
+TEST_F(SolutionsFile, FailingWriteIsToldInTheSystemsWords)
+{
+    Seen.FileAnswers = {Path + "/below/a/file.txt"};
+    cmdSaveAsTextFile();
+    EXPECT_EQ(Seen.Messages, Texts{"Not a directory"});
+}
+
+} // namespace
+} // namespace kelvarine::testing
