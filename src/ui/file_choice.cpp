@@ -7,6 +7,8 @@
 
 #include <QFileDialog>
 
+#include <array>
+
 namespace kelvarine {
 
 namespace {

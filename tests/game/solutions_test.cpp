@@ -1,3 +1,4 @@
+#include "game/clock.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"

@@ -240,11 +240,12 @@ TEST_F(Transforms, EachIsOneUndoLevelAndAsksNothing)
         EXPECT_EQ(HistoryCount, 2);
         EXPECT_EQ(HistoryPosition, 1);
         EXPECT_EQ(Level(1), Grid);
-        EXPECT_EQ(Level(2), before);
+        EXPECT_TRUE(SameCells(Level(2), before, LastingFields));
         EXPECT_EQ(GameModified, True);
         EXPECT_EQ(GivenCount, 77) << "nothing is counted";
         EXPECT_EQ(GameRating, 6) << "nothing is rated";
-        EXPECT_TRUE(SameCells(Level(StartSlot), before)) << "a restart keeps its orientation";
+        EXPECT_TRUE(SameCells(Level(StartSlot), before, LastingFields))
+            << "a restart keeps its orientation";
         EXPECT_TRUE(SameCells(Level(SnapshotSlot), before));
     }
 }
