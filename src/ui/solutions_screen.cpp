@@ -26,14 +26,15 @@ namespace {
 
 constexpr QSize StartSize{330, 580};
 
-// What the text leaves of the inner size, and from which inner size on it follows.
+// What the text leaves of the inner size.
 constexpr QSize AroundText{35, 100};
-constexpr QSize SmallestFollowed{34, 99};
 
 constexpr int Margin = 17;       // left of the text
 constexpr int TopHeight = 46;    // above the text
 constexpr int BottomHeight = 54; // below it
 static_assert(TopHeight + BottomHeight == AroundText.height());
+
+constexpr int SmallestText = 60; // height that is left to the text at least
 
 constexpr int TextPixels = 13;
 
@@ -72,6 +73,9 @@ SolutionsScreen::SolutionsScreen(QWidget *parent)
     cmdSave->setObjectName(QStringLiteral("cmdSaveAsTextFile"));
     cmdSave->setAutoDefault(false);
     connect(cmdSave, &QPushButton::clicked, this, cmdSaveAsTextFile);
+    txtSolutions->setFocus();
+    PlaceControls();
+    setMinimumSize(cmdSave->geometry().right() + 1 + Margin, AroundText.height() + SmallestText);
     resize(StartSize);
     installEventFilter(this);
     for (QWidget *control : findChildren<QWidget *>()) {
@@ -113,7 +117,11 @@ void SolutionsScreen::Refresh()
     if (text != txtSolutions->toPlainText()) {
         txtSolutions->setPlainText(text);
     }
-    formats[SolutionsFormat == 0 ? 0 : 1]->setChecked(true);
+    const std::size_t chosen = SolutionsFormat == 0 ? 0 : 1;
+    formats[chosen]->setChecked(true);
+    // Tab stops at the chosen one, from where the arrows go to the other.
+    formats[chosen]->setFocusPolicy(Qt::StrongFocus);
+    formats[1 - chosen]->setFocusPolicy(Qt::ClickFocus);
     RefreshCount();
 }
 
@@ -186,14 +194,7 @@ void SolutionsScreen::resizeEvent(QResizeEvent * /*event*/)
     if (isMinimized()) {
         return;
     }
-    QSize text = txtSolutions->size();
-    if (width() >= SmallestFollowed.width()) {
-        text.setWidth(std::max(0, width() - AroundText.width()));
-    }
-    if (height() >= SmallestFollowed.height()) {
-        text.setHeight(std::max(0, height() - AroundText.height()));
-    }
-    txtSolutions->setGeometry(QRect({Margin, TopHeight}, text));
+    txtSolutions->setGeometry(QRect({Margin, TopHeight}, size() - AroundText));
     PlaceControls();
     KeepPlace(*this, SolutionsPlace);
 }

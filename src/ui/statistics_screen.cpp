@@ -48,6 +48,16 @@ Qt::Alignment AlignmentOf(std::size_t column)
     return (column == 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter;
 }
 
+// A time has a blank behind it. What stands in the column of times without one leaves room for it,
+// so that all of them align.
+void LeaveRoomForBlank(QLabel &label, std::size_t column)
+{
+    const bool among = column == 3 || column == 4;
+    const bool has = label.text().endsWith(u' ');
+    const int blank = label.fontMetrics().horizontalAdvance(u' ');
+    label.setContentsMargins(0, 0, among && !has ? blank : 0, 0);
+}
+
 void MakeBold(QLabel &label)
 {
     QFont font = label.font();
@@ -94,6 +104,7 @@ void StatisticsScreen::AddHeadings(QGridLayout &grid)
         }
         auto *heading = new QLabel(Text(StatisticsColumns[column].Heading), this);
         MakeBold(*heading);
+        LeaveRoomForBlank(*heading, column);
         grid.addWidget(heading, 0, static_cast<int>(column), AlignmentOf(column));
     }
 }
@@ -121,6 +132,7 @@ void StatisticsScreen::Refresh()
                 QLabel &label = *labels[table][row][column];
                 label.setText(Text(StatisticsLabels[table][row][column]));
                 label.setAccessibleName(SpokenName(table, row, column));
+                LeaveRoomForBlank(label, column);
             }
         }
     }

@@ -136,8 +136,9 @@ TEST_F(SolutionsScreens, ClickOnTheFormatChangesIt)
 TEST_F(SolutionsScreens, ArrowKeyChangesTheFormatToo)
 {
     List(PlainGame);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Screen()));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == Screen(); }));
     Format(1)->setFocus();
+    ASSERT_TRUE(Format(1)->hasFocus());
     QTest::keyClick(Format(1), Qt::Key_Left);
     EXPECT_EQ(SolutionsFormat, 0);
     EXPECT_TRUE(Format(0)->isChecked());
@@ -297,18 +298,28 @@ TEST_F(SolutionsScreens, EscapeClosesWhenNothingIsListed)
 TEST_F(SolutionsScreens, TextTakesTheInnerSizeLessItsSurroundings)
 {
     List(PlainGame);
-    for (const QSize &size : {QSize(500, 600), QSize(250, 200), QSize(36, 101), QSize(34, 99)}) {
+    for (const QSize &size : {QSize(500, 600), QSize(1200, 200), QSize(340, 161)}) {
         Screen()->resize(size);
         QCoreApplication::processEvents();
-        EXPECT_EQ(Box()->width(), std::max(0, size.width() - 35));
-        EXPECT_EQ(Box()->height(), std::max(0, size.height() - 100));
+        EXPECT_EQ(Box()->size(), size - QSize(35, 100));
         EXPECT_EQ(SolutionsPlace.Width, size.width());
         EXPECT_EQ(SolutionsPlace.Height, size.height());
     }
-    Screen()->resize(300, 300);
-    Screen()->resize(33, 98);
+}
+
+TEST_F(SolutionsScreens, NothingIsCutOffAtTheSmallestSize)
+{
+    List(ThirtySolutions);
+    Screen()->resize(1, 1);
     QCoreApplication::processEvents();
-    EXPECT_EQ(Box()->size(), QSize(265, 200)) << "below the limits nothing follows";
+    EXPECT_EQ(Box()->size(), Screen()->size() - QSize(35, 100));
+    EXPECT_GE(Box()->height(), 60);
+    for (const QWidget *control : Screen()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
+        EXPECT_TRUE(Screen()->rect().contains(control->geometry()))
+            << control->objectName().toStdString();
+    }
+    EXPECT_FALSE(Format(1)->geometry().intersects(
+        Screen()->findChild<QPushButton *>("cmdSaveAsTextFile")->geometry()));
 }
 
 TEST_F(SolutionsScreens, PlaceAndSizeAreKept)
@@ -350,7 +361,7 @@ TEST_F(SolutionsScreens, EveryControlHasAName)
 TEST_F(SolutionsScreens, TabGoesFromTheTextToTheOthersAndBack)
 {
     List(PlainGame);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Screen()));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == Screen(); }));
     EXPECT_EQ(Screen()->focusWidget(), Box()) << "where it starts";
     QTest::keyClick(Box(), Qt::Key_Tab);
     EXPECT_EQ(Screen()->focusWidget(), Format(1)) << "the format that is selected";
