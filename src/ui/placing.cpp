@@ -11,6 +11,8 @@ namespace kelvarine {
 
 namespace {
 
+constexpr int FarAway = 1'000'000;
+
 // The part of a screen that windows may take: of the one that a point lies on, else of the one
 // that the main window stands on.
 QRect ScreenAt(const QPoint &point)
@@ -48,8 +50,11 @@ QPoint KeptOnScreen(const QRect &window, const QRect &screen)
 
 void OpenAt(QWidget &window, const WindowPlace &place)
 {
+    // Any number may stand in a file; no screen reaches this far.
+    const QPoint corner(std::clamp(place.Left, -FarAway, FarAway),
+                        std::clamp(place.Top, -FarAway, FarAway));
     if (place.Width > 0 && place.Height > 0) {
-        const QSize screen = ScreenAt({place.Left, place.Top}).size();
+        const QSize screen = ScreenAt(corner).size();
         window.resize(QSize(place.Width, place.Height).boundedTo(screen));
     }
     const QSize size = FramedSize(window);
@@ -57,7 +62,7 @@ void OpenAt(QWidget &window, const WindowPlace &place)
         const QRect main = Window()->frameGeometry();
         window.move(PlaceBeside(main, size, ScreenAt(main.center())));
     } else {
-        const QRect wanted({place.Left, place.Top}, size);
+        const QRect wanted(corner, size);
         window.move(KeptOnScreen(wanted, ScreenAt(wanted.center())));
     }
 }
