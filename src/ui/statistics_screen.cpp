@@ -33,7 +33,7 @@ QString LabelName(std::size_t table, std::size_t row, std::size_t column)
 // What a screen reader says of a label: where it stands and what it shows.
 QString SpokenName(std::size_t table, std::size_t row, std::size_t column)
 {
-    const QString place =
+    QString place =
         QStringLiteral("%1, %2").arg(Text(StatisticsTitles[table]), Text(StatisticsRowNames[row]));
     if (column == 0) {
         return place;

@@ -26,7 +26,7 @@ protected:
         ASSERT_TRUE(ReplaceWholeFile(Path, "a former file that was longer than the text", error));
     }
 
-    std::string Read() const
+    [[nodiscard]] std::string Read() const
     {
         std::string bytes;
         std::string error;

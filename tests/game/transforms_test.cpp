@@ -26,8 +26,8 @@ protected:
     // Puts a chain of three cells on view.
     static void SetChain()
     {
-        ChainColumns = {3, 1, 4, 5};
-        ChainRows = {-7, 2, 9, 5};
+        ChainColumns = {3, 1, 4, 6};
+        ChainRows = {-7, 2, 9, 8};
     }
 
     static Texts Chain()
@@ -184,10 +184,10 @@ TEST_F(Transforms, FlipAndMirrorTogetherEqualTwoRotations)
 
 TEST_F(Transforms, ChainGoesWithItsCells)
 {
-    const std::array<Texts, 4> expected{{{"2,9", "9,6", "5,5", "0,0"},
-                                         {"8,1", "1,4", "5,5", "0,0"},
-                                         {"9,2", "6,9", "5,5", "0,0"},
-                                         {"1,8", "4,1", "5,5", "0,0"}}};
+    const std::array<Texts, 4> expected{{{"2,9", "9,6", "8,4", "0,0"},
+                                         {"8,1", "1,4", "2,6", "0,0"},
+                                         {"9,2", "6,9", "4,8", "0,0"},
+                                         {"1,8", "4,1", "6,2", "0,0"}}};
     for (std::size_t k = 0; k < Commands.size(); ++k) {
         SetChain();
         Grid = {};

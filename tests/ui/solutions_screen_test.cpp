@@ -42,22 +42,22 @@ constexpr std::string_view LongSearch = R"(
 
 class SolutionsScreens : public ::testing::Test {
 protected:
-    QWidget *Screen() const
+    [[nodiscard]] QWidget *Screen() const
     {
         return program.Main->findChild<QWidget *>("frmSolutions");
     }
 
-    QPlainTextEdit *Box() const
+    [[nodiscard]] QPlainTextEdit *Box() const
     {
         return Screen()->findChild<QPlainTextEdit *>("txtSolutions");
     }
 
-    std::string Count() const
+    [[nodiscard]] std::string Count() const
     {
         return Screen()->findChild<QLabel *>("lblNumSolutions")->text().toStdString();
     }
 
-    QRadioButton *Format(int index) const
+    [[nodiscard]] QRadioButton *Format(int index) const
     {
         return Screen()->findChild<QRadioButton *>(QString("optSolutionsFormat%1").arg(index));
     }

@@ -21,17 +21,17 @@ namespace {
 
 class StatisticsScreens : public ::testing::Test {
 protected:
-    QWidget *Screen() const
+    [[nodiscard]] QWidget *Screen() const
     {
         return program.Main->findChild<QWidget *>("frmStatistics");
     }
 
-    QLabel *Label(const char *name) const
+    [[nodiscard]] QLabel *Label(const char *name) const
     {
         return Screen()->findChild<QLabel *>(name);
     }
 
-    std::string Shown(const char *name) const
+    [[nodiscard]] std::string Shown(const char *name) const
     {
         return Label(name)->text().toStdString();
     }
