@@ -20,7 +20,8 @@ ORDER = [
     ["board"],
     ["files"],
     ["input"],
-    ["configure", "print"],
+    ["print"],
+    ["configure"],
     ["ui"],
 ]
 LEVEL = {room: level for level, rooms in enumerate(ORDER) for room in rooms}

@@ -3,6 +3,7 @@
 #include "board/geometry.h"
 #include "board/look.h"
 #include "board/margin.h"
+#include "configure/configuration.h"
 #include "game/clock.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
@@ -17,6 +18,7 @@
 #include "input/toolbar.h"
 #include "logic/driver.h"
 #include "logic/event_sound.h"
+#include "print/print_settings.h"
 
 namespace kelvarine {
 
@@ -39,6 +41,8 @@ void SetDefaults()
     SetScreenDefaults();
     SetStatisticsDefaults();
     SetSolutionsDefaults();
+    SetPrintDefaults();
+    SetConfigurationDefaults();
 }
 
 } // namespace kelvarine

@@ -1,7 +1,9 @@
 #include "files/folders.h"
 
 #include <cstdlib>
+#include <filesystem>
 #include <pwd.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace kelvarine {
@@ -36,6 +38,24 @@ std::string SettingsFolder()
 std::string DataFolder()
 {
     return FolderFrom("XDG_DATA_HOME", "/.local/share");
+}
+
+std::string ProgramDataFolder(const std::string &programFolder)
+{
+    for (const char *place : {"data/", "../share/kelvarine/"}) {
+        std::error_code failure;
+        if (std::filesystem::is_directory(programFolder + place, failure)) {
+            return programFolder + place;
+        }
+    }
+    return {};
+}
+
+std::string ProgramDataFolder()
+{
+    std::error_code failure;
+    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", failure);
+    return failure ? std::string() : ProgramDataFolder(program.parent_path().string() + "/");
 }
 
 } // namespace kelvarine

@@ -13,4 +13,12 @@ std::string SettingsFolder();
 // are kept here. It need not exist yet.
 std::string DataFolder();
 
+// The folder of the data that came with the program, with a closing slash: "data" beside the
+// program, as in a build folder, or "share/kelvarine" beside the folder of programs, as installed.
+// Empty when there is neither.
+std::string ProgramDataFolder();
+
+// The same for a program in some folder, given with its closing slash.
+std::string ProgramDataFolder(const std::string &programFolder);
+
 } // namespace kelvarine

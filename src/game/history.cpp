@@ -79,7 +79,7 @@ void mnuTakeSnapshot()
 {
     CopyCells(Grid, History[SnapshotSlot]);
     if (SoundDisabled == False) {
-        PlaySound("snapshot.wav", false);
+        PlaySound(SnapshotSound, false);
     }
     SnapshotAvailable = True;
     UpdateCaptions();

@@ -8,6 +8,9 @@
 
 namespace kelvarine {
 
+// A length in a file is in twips, so many to the pixel.
+inline constexpr std::int32_t TwipsPerPixel = 15;
+
 // A window's place in pixels. A width of 0 means that the window has never been placed.
 struct WindowPlace {
     std::int32_t Left = 0;
@@ -45,6 +48,11 @@ extern std::int32_t CurrentTab;
 
 // Format of the listed solutions: 0 in lines of 81 digits, 1 as frames; default 1.
 extern std::int32_t SolutionsFormat;
+
+// A window's place brought back into reach of a screen of a size in pixels: where it would lie
+// beyond the screen to the right, left, bottom or top it moves near the screen's top left corner,
+// each direction by itself. Its size stays.
+WindowPlace ReachablePlace(WindowPlace place, std::int32_t screenWidth, std::int32_t screenHeight);
 
 // Puts all of this to its defaults: nothing placed, nothing open.
 void SetScreenDefaults();

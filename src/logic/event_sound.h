@@ -26,7 +26,12 @@ extern std::int32_t AlertSound;
 extern std::int32_t WinSound;
 extern Flag SoundDisabled;
 
+// The sound of a snapshot, which is no choice.
+inline constexpr std::string_view SnapshotSound = "snapshot.wav";
+
 // Volumes, each 0..65280, and what each is for.
+inline constexpr std::size_t AnnouncerVolume = 0; // no event has these two
+inline constexpr std::size_t ClicksVolume = 1;
 inline constexpr std::size_t AlertVolume = 2;
 inline constexpr std::size_t WinVolume = 3;
 extern std::array<std::int32_t, 4> SoundVolumes;
@@ -36,6 +41,9 @@ void SetSoundDefaults();
 
 // File of a list at an index, or an empty text for an index that names none.
 std::string_view SoundFile(const SoundList &list, std::int32_t index);
+
+// A file as the player reads it in a list: all of its name before the first dot.
+std::string_view SoundCaption(std::string_view file);
 
 // Sets the volume of an event, volumeIndex 0..3, and plays a file; an empty name is silence and
 // changes nothing. Does not ask whether sound is disabled.

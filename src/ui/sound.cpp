@@ -1,14 +1,14 @@
 // Sound over the toolkit: one effect at a time, started without waiting.
+#include "files/sound_files.h"
 #include "ui/presentation.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
+#include <QFile>
 #include <QSoundEffect>
-#include <QStandardPaths>
 #include <QUrl>
 
 #include <algorithm>
-#include <memory>
+#include <string>
 
 namespace kelvarine {
 
@@ -37,15 +37,14 @@ void SetSoundVolume(std::uint32_t volume)
 void PlaySound(std::string_view file, bool loop)
 {
     StopSound();
-    const QString name = QString::fromUtf8(file.data(), static_cast<qsizetype>(file.size()));
-    const QString path = QStandardPaths::locate(QStandardPaths::AppDataLocation, name);
-    if (path.isEmpty()) {
+    const std::string path = SoundPath(file);
+    if (path.empty()) {
         return;
     }
     if (Effect() == nullptr) {
         Effect() = new QSoundEffect(QCoreApplication::instance());
     }
-    Effect()->setSource(QUrl::fromLocalFile(path));
+    Effect()->setSource(QUrl::fromLocalFile(QFile::decodeName(path.c_str())));
     Effect()->setVolume(static_cast<float>(volumeInForce));
     Effect()->setLoopCount(loop ? QSoundEffect::Infinite : 1);
     Effect()->play();
