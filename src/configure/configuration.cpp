@@ -17,7 +17,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 #include <limits>
+#include <numeric>
 #include <variant>
 
 namespace kelvarine {
@@ -369,6 +371,16 @@ void PutWord(std::string &bytes, std::size_t offset, std::uint32_t word)
     }
 }
 
+// The singles stand in a level whatever the file says. On the configuration screen a technique only
+// ever goes from level to level, and without these two no count of solutions comes to an end.
+void KeepSinglesInALevel()
+{
+    const std::uint32_t singles = BitTable[1] | BitTable[2];
+    const std::uint32_t inLevels = std::accumulate(LevelTable.begin() + 1, LevelTable.begin() + 6,
+                                                   std::uint32_t{0}, std::bit_or());
+    LevelTable[1] |= singles & ~inLevels;
+}
+
 } // namespace
 
 void SetConfigurationDefaults()
@@ -388,6 +400,7 @@ void TakeConfiguration(std::string_view bytes)
             std::visit([word](const auto &setting) { Take(setting, word); }, row.Target);
         }
     }
+    KeepSinglesInALevel();
     PickMarginTextColour();
 }
 

@@ -16,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <fstream>
 #include <limits>
 #include <numeric>
 #include <random>
@@ -295,7 +296,8 @@ TEST_F(Configuration, WritingThatFailsIsToldInTheSystemsWords)
 
 TEST_F(Configuration, FolderInNoFoldersPlaceIsToldInTheSystemsWords)
 {
-    Folders.PutSetting("../kelvarine", "a file where the folder should be");
+    std::filesystem::create_directories(Folders.Settings().parent_path());
+    std::ofstream(Folders.Settings()) << "a file where the folder should be";
     WriteConfiguration();
     EXPECT_EQ(Seen.Messages, std::vector<std::string>{"Not a directory"});
 }
@@ -343,6 +345,20 @@ TEST_F(Configuration, LevelFiveWithoutTechniquesGetsTrialAndErrorBack)
     EXPECT_EQ(LevelTable[5], 1U);
     StartWith(10, 3, 0);
     EXPECT_EQ(LevelTable[4], 0U);
+}
+
+TEST_F(Configuration, SinglesAlwaysStandInALevel)
+{
+    FileWords words = DefaultWords;
+    words[9] = {0, 8, 0, 0, 0x40, -1, 81, 81, 81, 0};
+    TakeConfiguration(BytesOf(words));
+    EXPECT_EQ(LevelTable, (decltype(LevelTable){0, 0x6, 8, 0, 0, 0x40, 0xFFFFFFFF, 0, 0, 0}));
+    StartGame(NewGame);
+    EXPECT_EQ(GameRating, 6);
+
+    words[9] = {8, 0, 2, 0, 4, 0, 81, 81, 81, 0};
+    TakeConfiguration(BytesOf(words));
+    EXPECT_EQ(LevelTable, (decltype(LevelTable){0, 8, 0, 2, 0, 4, 0, 0, 0, 0}));
 }
 
 TEST_F(Configuration, StrongLinksOutsideTheirModesAreNever)
