@@ -5,7 +5,6 @@
 #include "board/look.h"
 #include "board/margin.h"
 #include "configure/configuration.h"
-#include "configure/defaults.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "generator/generator.h"
@@ -15,6 +14,7 @@
 #include "logic/alerts.h"
 #include "logic/event_sound.h"
 #include "logic/rating.h"
+#include "support/presentation_double.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -71,9 +71,9 @@ void UseSettings(std::uint8_t column, std::uint8_t row)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    SetDefaults();
+    testing::Restart();
     AlertFiles = {"", "a.alr", "b.alr"};
-    std::string bytes(reinterpret_cast<const char *>(data), size);
+    const std::string bytes(reinterpret_cast<const char *>(data), size);
     TakeConfiguration(bytes);
     // What is of our version was taken and stays the same from now on.
     const std::string taken = ConfigurationBytes();
