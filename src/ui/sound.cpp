@@ -1,27 +1,122 @@
-// Sound over the toolkit: one effect at a time, started without waiting.
+// Sound over the toolkit: one at a time, its samples pulled by the device as it needs them. The
+// toolkit's own class for short sounds waits for its loading thread, now and then for ever, so the
+// files are read here.
 #include "files/sound_files.h"
+#include "files/wave_file.h"
+#include "files/whole_file.h"
 #include "ui/presentation.h"
 
+#include <QAudioDevice>
+#include <QAudioFormat>
+#include <QAudioSink>
 #include <QCoreApplication>
-#include <QFile>
-#include <QSoundEffect>
-#include <QUrl>
+#include <QIODevice>
+#include <QMediaDevices>
+#include <QPointer>
+#include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <string>
 
 namespace kelvarine {
 
 namespace {
 
+// A sound file that is larger is no sound of a game.
+constexpr std::size_t LargestSoundFile = std::size_t{16} << 20U;
+
+// The device still plays what it has taken when there is no more to take.
+constexpr std::chrono::seconds TimeToFinish{2};
+
+// The samples of one sound, as the device reads them.
+class SampleSource : public QIODevice {
+public:
+    SampleSource(WaveSound sound, bool loop, QObject *parent)
+        : QIODevice(parent), sound_(std::move(sound)), loop_(loop)
+    {
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+
+    [[nodiscard]] bool isSequential() const override
+    {
+        return true;
+    }
+
+    [[nodiscard]] qint64 bytesAvailable() const override
+    {
+        const std::size_t rest = loop_ ? sound_.Samples.size() : sound_.Samples.size() - place_;
+        return static_cast<qint64>(rest) + QIODevice::bytesAvailable();
+    }
+
+protected:
+    qint64 readData(char *data, qint64 size) override
+    {
+        return static_cast<qint64>(
+            TakeSamples(sound_, place_, loop_, data, static_cast<std::size_t>(size)));
+    }
+
+    qint64 writeData(const char * /*data*/, qint64 /*size*/) override
+    {
+        return -1;
+    }
+
+private:
+    WaveSound sound_;
+    std::size_t place_ = 0;
+    bool loop_;
+};
+
 double volumeInForce = 1.0; // 0..1
 
-// The effect is made when a first sound is played: an audio device costs time and memory. It goes
-// with the application.
-QSoundEffect *&Effect()
+// What plays, or null. It goes with the application at the latest.
+QPointer<QAudioSink> &Playing()
 {
-    static QSoundEffect *effect = nullptr;
-    return effect;
+    static QPointer<QAudioSink> playing;
+    return playing;
+}
+
+QAudioFormat::SampleFormat ToolkitForm(SampleForm form)
+{
+    switch (form) {
+    case SampleForm::Unsigned8:
+        return QAudioFormat::UInt8;
+    case SampleForm::Signed16:
+        return QAudioFormat::Int16;
+    case SampleForm::Signed32:
+        return QAudioFormat::Int32;
+    case SampleForm::Float32:
+        return QAudioFormat::Float;
+    }
+    return QAudioFormat::Unknown;
+}
+
+QAudioFormat FormatOf(const WaveSound &sound)
+{
+    QAudioFormat format;
+    format.setSampleFormat(ToolkitForm(sound.Form));
+    format.setSampleRate(sound.Rate);
+    format.setChannelCount(sound.Channels);
+    return format;
+}
+
+bool ReadSound(std::string_view file, WaveSound &sound)
+{
+    std::string bytes;
+    std::string unread;
+    const std::string path = SoundPath(file);
+    return !path.empty() && ReadWholeFile(path, bytes, unread, LargestSoundFile) &&
+           ReadWave(bytes, sound);
+}
+
+// Closes the device a while after a sound has come to its end.
+void CloseAtTheEnd(QAudioSink *sink)
+{
+    QObject::connect(sink, &QAudioSink::stateChanged, sink, [sink](QAudio::State state) {
+        if (state == QAudio::IdleState) {
+            QTimer::singleShot(TimeToFinish, sink, &QAudioSink::stop);
+        }
+    });
 }
 
 } // namespace
@@ -37,24 +132,26 @@ void SetSoundVolume(std::uint32_t volume)
 void PlaySound(std::string_view file, bool loop)
 {
     StopSound();
-    const std::string path = SoundPath(file);
-    if (path.empty()) {
+    WaveSound sound;
+    if (!ReadSound(file, sound)) {
         return;
     }
-    if (Effect() == nullptr) {
-        Effect() = new QSoundEffect(QCoreApplication::instance());
+    const QAudioDevice device = QMediaDevices::defaultAudioOutput();
+    if (device.isNull()) {
+        return;
     }
-    Effect()->setSource(QUrl::fromLocalFile(QFile::decodeName(path.c_str())));
-    Effect()->setVolume(static_cast<float>(volumeInForce));
-    Effect()->setLoopCount(loop ? QSoundEffect::Infinite : 1);
-    Effect()->play();
+    auto *sink = new QAudioSink(device, FormatOf(sound), QCoreApplication::instance());
+    Playing() = sink;
+    sink->setVolume(volumeInForce);
+    if (!loop) {
+        CloseAtTheEnd(sink);
+    }
+    sink->start(new SampleSource(std::move(sound), loop, sink));
 }
 
 void StopSound()
 {
-    if (Effect() != nullptr) {
-        Effect()->stop();
-    }
+    delete Playing();
 }
 
 } // namespace kelvarine
