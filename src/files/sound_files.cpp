@@ -103,7 +103,7 @@ std::string SoundPath(std::string_view file, const std::vector<std::string> &fol
 {
     for (const std::string &folder : folders) {
         std::error_code failure;
-        const std::string path = folder + std::string(file);
+        std::string path = folder + std::string(file);
         if (!file.empty() && std::filesystem::is_regular_file(path, failure)) {
             return path;
         }

@@ -48,11 +48,6 @@ std::string_view SoundFile(const SoundList &list, std::int32_t index)
     return index > 0 && place < list.size() ? std::string_view(list[place]) : std::string_view();
 }
 
-std::string_view SoundCaption(std::string_view file)
-{
-    return file.substr(0, file.find('.'));
-}
-
 void PlayEventSound(std::string_view file, std::size_t volumeIndex, bool loop)
 {
     if (file.empty()) {

@@ -42,9 +42,6 @@ void SetSoundDefaults();
 // File of a list at an index, or an empty text for an index that names none.
 std::string_view SoundFile(const SoundList &list, std::int32_t index);
 
-// A file as the player reads it in a list: all of its name before the first dot.
-std::string_view SoundCaption(std::string_view file);
-
 // Sets the volume of an event, volumeIndex 0..3, and plays a file; an empty name is silence and
 // changes nothing. Does not ask whether sound is disabled.
 void PlayEventSound(std::string_view file, std::size_t volumeIndex, bool loop);

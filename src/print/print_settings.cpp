@@ -17,7 +17,7 @@ std::int32_t PrintPages;
 
 void SetPrintDefaults()
 {
-    PrintMode = PrintCurrentGame;
+    PrintMode = PrintCurrent;
     PrintAspect = True;
     PrintCentre = True;
     PrintFullPage = False;

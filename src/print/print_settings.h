@@ -1,5 +1,4 @@
-// The settings of printing: what goes on paper, where and how large. The print tab edits them, and
-// the configuration file keeps those of a single picture.
+// The settings of printing: what is printed, where and how large, and how a batch is laid out.
 #pragma once
 
 #include "grid/cell_word.h"
@@ -8,28 +7,30 @@
 
 namespace kelvarine {
 
-// What is printed; back at its default at each start.
-inline constexpr std::int32_t PrintCurrentGame = 0;
-inline constexpr std::int32_t PrintNewGames = 1;
-extern std::int32_t PrintMode; // default PrintCurrentGame
+// Values of PrintMode.
+inline constexpr std::int32_t PrintCurrent = 0;  // the game on the board
+inline constexpr std::int32_t PrintNewGames = 1; // a batch of new games
 
-// The place and size of the picture of the current game.
-extern Flag PrintAspect;   // width and height keep the board's proportion; default true
-extern Flag PrintCentre;   // left and top follow from the page; default true
+extern std::int32_t PrintMode; // optPrintGame; default PrintCurrent
+
+extern Flag PrintAspect;   // width and height keep the board's proportions; default true
+extern Flag PrintCentre;   // left and top are worked out; default true
 extern Flag PrintFullPage; // the picture takes the printable area; default false
-extern double PrintWidth;  // inches, all four; default 5
-extern double PrintHeight; // default 5
-extern double PrintLeft;   // default 0
-extern double PrintTop;    // default 0
+
+// The picture's size and its place from the corner of the printable area, in inches.
+extern double PrintWidth; // default 5
+extern double PrintHeight;
+extern double PrintLeft; // default 0
+extern double PrintTop;
 
 extern Flag PrintIncludeSolutions; // a batch ends with its solutions; default true
 
-// The rest of a batch; back at its default at each start.
-extern Flag PrintGreyScale;            // kept, and read by no drawing; default false
-extern std::int32_t PrintGamesPerPage; // entry of the list of layouts, 0..6; default 0
-extern std::int32_t PrintPages;        // default 1
+// These three do not outlast a run of the program.
+extern Flag PrintGreyScale;            // kept, but nothing that is drawn depends on it
+extern std::int32_t PrintGamesPerPage; // index 0..6 of the layouts; default 0
+extern std::int32_t PrintPages;        // pages of a batch, 0..99; default 1
 
-// Puts all of this to its defaults.
+// Puts every setting above to its default.
 void SetPrintDefaults();
 
 } // namespace kelvarine

@@ -112,9 +112,13 @@ bool ReadSound(std::string_view file, WaveSound &sound)
 // Closes the device a while after a sound has come to its end.
 void CloseAtTheEnd(QAudioSink *sink)
 {
-    QObject::connect(sink, &QAudioSink::stateChanged, sink, [sink](QAudio::State state) {
+    auto *rest = new QTimer(sink);
+    rest->setSingleShot(true);
+    rest->setInterval(TimeToFinish);
+    QObject::connect(rest, &QTimer::timeout, sink, &QAudioSink::stop);
+    QObject::connect(sink, &QAudioSink::stateChanged, rest, [rest](QAudio::State state) {
         if (state == QAudio::IdleState) {
-            QTimer::singleShot(TimeToFinish, sink, &QAudioSink::stop);
+            rest->start();
         }
     });
 }

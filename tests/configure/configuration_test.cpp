@@ -15,6 +15,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <csignal>
 #include <fstream>
 #include <limits>
@@ -22,6 +23,8 @@
 #include <random>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <utility>
+#include <vector>
 
 namespace kelvarine::testing {
 namespace {
@@ -324,8 +327,8 @@ TEST_F(Configuration, FullDiskLeavesTheOldFileWhole)
 
 TEST_F(Configuration, LinkLimitAbove81ReadsAs81AndNoneStaysNone)
 {
-    const std::pair<std::int32_t, std::int32_t> cases[]{{82, 81}, {-1, 81}, {Most, 81}, {Least, 81},
-                                                        {0, 0},   {1, 1},   {80, 80},   {81, 81}};
+    const std::vector<std::pair<std::int32_t, std::int32_t>> cases{
+        {82, 81}, {-1, 81}, {Most, 81}, {Least, 81}, {0, 0}, {1, 1}, {80, 80}, {81, 81}};
     for (const auto &[stored, read] : cases) {
         StartWith(10, 6, stored);
         EXPECT_EQ(MaxSinglesLinks, read) << stored;
@@ -375,8 +378,8 @@ TEST_F(Configuration, StrongLinksOutsideTheirModesAreNever)
 
 TEST_F(Configuration, SoundIndexAboveTheListKeepsTheOneOfTheStart)
 {
-    const std::pair<std::int32_t, std::int32_t> cases[]{{4, 1}, {Most, 1}, {0, 0},  {1, 1},
-                                                        {2, 2}, {3, 3},    {-1, 0}, {Least, 0}};
+    const std::vector<std::pair<std::int32_t, std::int32_t>> cases{
+        {4, 1}, {Most, 1}, {0, 0}, {1, 1}, {2, 2}, {3, 3}, {-1, 0}, {Least, 0}};
     for (const auto &[stored, read] : cases) {
         StartWith(11, 0, stored);
         EXPECT_EQ(AnnouncerSound, read) << stored;
@@ -461,28 +464,28 @@ struct RangeCase {
     std::int32_t Default;
 };
 
-const RangeCase RangeCases[]{
-    {1, 1, &PrimaryThickness, 0, 50, 8},
-    {1, 2, &SecondaryThickness, 0, 50, 0},
-    {1, 3, &BorderThickness, 0, 50, 10},
-    {1, 4, &MarginThickness, 0, 100, 30},
-    {1, 8, &ColumnFormat, 0, 4, 1},
-    {1, 9, &RowFormat, 0, 4, 0},
-    {2, 0, &SolutionsFormat, 0, 1, 1},
-    {2, 2, &PencilmarkLayout, 0, 1, 1},
-    {2, 4, &CurrentTab, 0, 9, 0},
-    {2, 7, &GivenTexture, 0, 12, 0},
-    {2, 8, &UnknownTexture, 0, 12, 0},
-    {2, 9, &GridTexture, 0, 12, 0},
-    {4, 2, &RevealPattern, 0, 9, 5},
-    {4, 7, &MinGivens, Least, Most, 17},
-    {4, 8, &MaxGivens, Least, Most, 40},
-    {9, 4, &CoordSeparator, 0, 3, 0},
-    {9, 5, &CoordBrackets, 0, 4, 3},
-    {11, 4, &SoundVolumes[0], 0, 65280, 32000},
-    {11, 5, &SoundVolumes[1], 0, 65280, 32000},
-    {11, 6, &SoundVolumes[2], 0, 65280, 32000},
-    {11, 7, &SoundVolumes[3], 0, 65280, 32000},
+const std::array RangeCases{
+    RangeCase{1, 1, &PrimaryThickness, 0, 50, 8},
+    RangeCase{1, 2, &SecondaryThickness, 0, 50, 0},
+    RangeCase{1, 3, &BorderThickness, 0, 50, 10},
+    RangeCase{1, 4, &MarginThickness, 0, 100, 30},
+    RangeCase{1, 8, &ColumnFormat, 0, 4, 1},
+    RangeCase{1, 9, &RowFormat, 0, 4, 0},
+    RangeCase{2, 0, &SolutionsFormat, 0, 1, 1},
+    RangeCase{2, 2, &PencilmarkLayout, 0, 1, 1},
+    RangeCase{2, 4, &CurrentTab, 0, 9, 0},
+    RangeCase{2, 7, &GivenTexture, 0, 12, 0},
+    RangeCase{2, 8, &UnknownTexture, 0, 12, 0},
+    RangeCase{2, 9, &GridTexture, 0, 12, 0},
+    RangeCase{4, 2, &RevealPattern, 0, 9, 5},
+    RangeCase{4, 7, &MinGivens, Least, Most, 17},
+    RangeCase{4, 8, &MaxGivens, Least, Most, 40},
+    RangeCase{9, 4, &CoordSeparator, 0, 3, 0},
+    RangeCase{9, 5, &CoordBrackets, 0, 4, 3},
+    RangeCase{11, 4, &SoundVolumes[0], 0, 65280, 32000},
+    RangeCase{11, 5, &SoundVolumes[1], 0, 65280, 32000},
+    RangeCase{11, 6, &SoundVolumes[2], 0, 65280, 32000},
+    RangeCase{11, 7, &SoundVolumes[3], 0, 65280, 32000},
 };
 
 TEST_F(Configuration, NumbersInTheirRangeAreTakenAndOthersAreNot)
@@ -511,7 +514,8 @@ TEST_F(Configuration, NumbersInTheirRangeAreTakenAndOthersAreNot)
 
 TEST_F(Configuration, WindowsThatNobodyCouldHaveMadeWereNeverPlaced)
 {
-    const std::pair<std::size_t, WindowPlace *> sides[]{{5, &MainPlace}, {6, &ConfigurePlace}};
+    const std::vector<std::pair<std::size_t, WindowPlace *>> sides{{5, &MainPlace},
+                                                                   {6, &ConfigurePlace}};
     for (const auto &[record, place] : sides) {
         for (const std::int32_t twips : {-15, (8192 + 1) * 15, Most, Least}) {
             StartWith(record, 3, twips);
@@ -592,7 +596,7 @@ TEST_F(Configuration, SettingsOfABatchAreBackAtTheirDefaults)
     WriteConfiguration();
     Restart();
     ReadConfiguration();
-    EXPECT_EQ(PrintMode, PrintCurrentGame);
+    EXPECT_EQ(PrintMode, PrintCurrent);
     EXPECT_EQ(PrintGreyScale, False);
     EXPECT_EQ(PrintGamesPerPage, 0);
     EXPECT_EQ(PrintPages, 1);
