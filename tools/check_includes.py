@@ -30,6 +30,7 @@ OPEN_DOORS = {
     "ui/presentation.h",
     "board/board.h",
     "game/history.h",
+    "files/file_commands.h",
     "files/whole_file.h",
     "files/folders.h",
 }

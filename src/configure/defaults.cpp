@@ -4,6 +4,7 @@
 #include "board/look.h"
 #include "board/margin.h"
 #include "configure/configuration.h"
+#include "files/file_dialog.h"
 #include "game/clock.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
@@ -43,6 +44,7 @@ void SetDefaults()
     SetSolutionsDefaults();
     SetPrintDefaults();
     SetConfigurationDefaults();
+    SetFileDialogDefaults();
 }
 
 } // namespace kelvarine

@@ -10,16 +10,6 @@ namespace kelvarine {
 
 namespace {
 
-std::string HomeFolder()
-{
-    const char *home = std::getenv("HOME");
-    if (home != nullptr && home[0] == '/') {
-        return home;
-    }
-    const passwd *user = ::getpwuid(::getuid());
-    return user != nullptr && user->pw_dir != nullptr ? user->pw_dir : "/";
-}
-
 // The desktop's convention: a variable may name the place, and only an absolute path counts.
 std::string FolderFrom(const char *variable, const char *belowHome)
 {
@@ -30,14 +20,27 @@ std::string FolderFrom(const char *variable, const char *belowHome)
 
 } // namespace
 
+std::string HomeFolder()
+{
+    const char *home = std::getenv("HOME");
+    std::string folder = "/";
+    if (home != nullptr && home[0] == '/') {
+        folder = home;
+    } else if (const passwd *user = ::getpwuid(::getuid());
+               user != nullptr && user->pw_dir != nullptr) {
+        folder = user->pw_dir;
+    }
+    return folder.ends_with('/') ? folder : folder + '/';
+}
+
 std::string SettingsFolder()
 {
-    return FolderFrom("XDG_CONFIG_HOME", "/.config");
+    return FolderFrom("XDG_CONFIG_HOME", ".config");
 }
 
 std::string DataFolder()
 {
-    return FolderFrom("XDG_DATA_HOME", "/.local/share");
+    return FolderFrom("XDG_DATA_HOME", ".local/share");
 }
 
 std::string ProgramDataFolder(const std::string &programFolder)

@@ -1,9 +1,12 @@
-// Where the program's own files lie.
+// Where the program's own files lie, and where the player's do at first.
 #pragma once
 
 #include <string>
 
 namespace kelvarine {
+
+// The player's home, with a closing slash.
+std::string HomeFolder();
 
 // The player's folder for settings, with a closing slash; "config.sdu" is kept here. It need not
 // exist yet.

@@ -1,7 +1,8 @@
 #include "files/solutions_file.h"
 
-#include "files/file_choice.h"
+#include "files/file_dialog.h"
 #include "files/whole_file.h"
+#include "game/lifecycle.h"
 #include "game/solutions.h"
 #include "ui/presentation.h"
 
@@ -9,11 +10,13 @@ namespace kelvarine {
 
 void cmdSaveAsTextFile()
 {
-    if (!ChooseFileToSave("Save Solution(s) As Text File", TextFiles)) {
+    ShowFileDialog(SaveSolutionsCaption, TextFiles);
+    if (LastAnswer == AnsweredCancel) {
         return;
     }
     std::string error;
-    if (!ReplaceWholeFile(ChosenFilePath, SolutionsOnView + "\r\n", error)) {
+    if (!ReplaceWholeFile(ChosenFilePath, SolutionsOnView + "\r\n", error,
+                          MissingFolders::Refused)) {
         ShowMessage(error);
     }
 }

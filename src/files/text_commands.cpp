@@ -1,6 +1,7 @@
 #include "files/text_commands.h"
 
 #include "board/board.h"
+#include "files/text_case.h"
 #include "files/text_format.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
@@ -30,15 +31,6 @@ constexpr ShortTextWords ClipboardWords{
 constexpr ShortTextWords TextStringWords{"There's not enough data to complete any cells.",
                                          "There's only enough data to complete the first cell.",
                                          "There's only enough data to complete the first "};
-
-std::string_view WithoutOuterBlanks(std::string_view text)
-{
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 // Whether to go on with the cells that a short text has filled.
 bool AcceptShortText(int cells, const ShortTextWords &words)

@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::string_view LineFeed = "\r\n";
 constexpr std::string_view EmptyCell = ".";
+constexpr std::string_view EmptyFileCell = "0";
 constexpr int LastCell = 81;
 
 // The digits of a cell that are in view, ascending.
@@ -24,12 +25,12 @@ std::string CellText(CellWord word)
     return digits;
 }
 
-// Most digits in view in one cell, at least 1.
-std::size_t WidestCell()
+// Most digits in one cell, at least 1, of those that count.
+std::size_t WidestCell(CellWord counted)
 {
     int most = 1;
     for (const Cell cell : Cells) {
-        most = std::max(most, CandidatesIn(WordAt(cell) & NumberFilter));
+        most = std::max(most, CandidatesIn(WordAt(cell) & counted));
     }
     return static_cast<std::size_t>(most);
 }
@@ -56,11 +57,9 @@ CellWord &WordTaken(int taken)
     return Grid[place % 9 + 1][place / 9 + 1];
 }
 
-} // namespace
-
-std::string GridFormatText()
+// Nine framed lines of cells as wide as the widest.
+std::string FramedText(std::size_t width, std::string_view emptyCell)
 {
-    const std::size_t width = WidestCell();
     std::string rule;
     for (int stack = 0; stack < 3; ++stack) {
         rule += "+-" + std::string(3 * (width + 1), '-');
@@ -76,7 +75,7 @@ std::string GridFormatText()
         for (std::size_t column = 1; column <= 9; ++column) {
             std::string cell = CellText(Grid[column][row]);
             if (cell.empty()) {
-                cell = EmptyCell;
+                cell = emptyCell;
             }
             cell.resize(width + 1, ' ');
             text += column % 3 == 1 ? "| " : "";
@@ -88,9 +87,21 @@ std::string GridFormatText()
     return text + rule;
 }
 
+} // namespace
+
+std::string GridFormatText()
+{
+    return FramedText(WidestCell(NumberFilter), EmptyCell);
+}
+
+std::string TextFileText()
+{
+    return FramedText(WidestCell(CandidateMask), EmptyFileCell);
+}
+
 std::string SingleLineText()
 {
-    const bool parted = WidestCell() > 1;
+    const bool parted = WidestCell(NumberFilter) > 1;
     std::string text;
     for (std::size_t row = 1; row <= 9; ++row) {
         for (std::size_t column = 1; column <= 9; ++column) {

@@ -13,6 +13,10 @@ namespace kelvarine {
 // carriage return and line feed.
 std::string GridFormatText();
 
+// The form of a text file: as the grid format, but with "0" for an empty cell and lines as wide as
+// all candidates want it, in view or not.
+std::string TextFileText();
+
 // The single-line format: a mark for each cell, parted by blanks only where two runs of digits
 // would touch, with a line end.
 std::string SingleLineText();

@@ -65,6 +65,23 @@ bool WriteAll(int file, std::string_view bytes)
     return true;
 }
 
+// Whether something is a file with bytes of its own; the reason stands in errno when not.
+bool IsPlainFile(const struct stat &kind)
+{
+    errno = S_ISDIR(kind.st_mode) ? EISDIR : EINVAL;
+    return S_ISREG(kind.st_mode);
+}
+
+// Whether nothing stands there, or a file that may be written.
+bool MayReplace(const std::string &path)
+{
+    struct stat old {};
+    if (::stat(path.c_str(), &old) != 0) {
+        return true; // what is wrong with the path, if anything, the writing finds out
+    }
+    return IsPlainFile(old) && ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+}
+
 // Where a path leads once its links are followed; the path itself where that cannot be told.
 std::string TargetOf(const std::string &path)
 {
@@ -130,14 +147,8 @@ bool ReadWholeFile(const std::string &path, std::string &bytes, std::string &err
     // Without waiting: a pipe nobody writes to must not hold the program.
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat kind {};
-    if (file.Number() < 0 || ::fstat(file.Number(), &kind) != 0) {
+    if (file.Number() < 0 || ::fstat(file.Number(), &kind) != 0 || !IsPlainFile(kind)) {
         error = SystemWords();
-        return false;
-    }
-    if (!S_ISREG(kind.st_mode)) {
-        error = std::make_error_code(S_ISDIR(kind.st_mode) ? std::errc::is_a_directory
-                                                           : std::errc::invalid_argument)
-                    .message();
         return false;
     }
     std::array<char, 65536> piece{};
@@ -160,17 +171,20 @@ bool ReadWholeFile(const std::string &path, std::string &bytes, std::string &err
     return true;
 }
 
-bool ReplaceWholeFile(const std::string &path, std::string_view bytes, std::string &error)
+bool ReplaceWholeFile(const std::string &path, std::string_view bytes, std::string &error,
+                      MissingFolders missing)
 {
     error.clear();
     const std::string target = TargetOf(path);
     std::error_code failure;
-    std::filesystem::create_directories(FolderOf(target), failure);
+    if (missing == MissingFolders::Made) {
+        std::filesystem::create_directories(FolderOf(target), failure);
+    }
     if (failure) {
         error = failure.message();
         return false;
     }
-    if (!WriteBeside(target, bytes)) {
+    if (!MayReplace(target) || !WriteBeside(target, bytes)) {
         error = SystemWords();
         return false;
     }

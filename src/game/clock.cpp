@@ -5,6 +5,9 @@
 #include "grid/rounding.h"
 #include "ui/presentation.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace kelvarine {
 
 double SolveSeconds;
@@ -28,6 +31,13 @@ std::string TwoDigits(long number)
 {
     const std::string digits = "0" + std::to_string(number);
     return digits.substr(digits.size() - 2);
+}
+
+// A file may hold any number. What no game lasts is brought down to what whole numbers can count.
+double Countable(double seconds)
+{
+    constexpr double most = 1e15;
+    return std::isnan(seconds) ? 0 : std::clamp(seconds, -most, most);
 }
 
 } // namespace
@@ -69,8 +79,9 @@ void ClockTick()
     UpdateCaptions();
 }
 
-std::string TimeText(double seconds)
+std::string TimeText(double solveSeconds)
 {
+    const double seconds = Countable(solveSeconds);
     const auto hours = static_cast<long>(seconds / 3600);
     const double rest = seconds - static_cast<double>(hours) * 3600;
     const auto minutes = static_cast<long>(rest / 60);

@@ -27,8 +27,8 @@ void StopClockAtWin();
 // One second has passed.
 void ClockTick();
 
-// A time in seconds as the caption shows it: "0:05 " or "1:02:03 ".
-std::string TimeText(double seconds);
+// A time in seconds as the caption shows it: "0:05 " or "1:02:03 ". Any number will do.
+std::string TimeText(double solveSeconds);
 
 void mnuPauseTime();
 void mnuResetTime();

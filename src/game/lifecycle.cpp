@@ -1,6 +1,7 @@
 #include "game/lifecycle.h"
 
 #include "board/board.h"
+#include "files/file_commands.h"
 #include "game/clock.h"
 #include "game/history.h"
 #include "game/screens.h"
@@ -78,11 +79,10 @@ void QuerySaveGame()
         return;
     }
     RunPendingEvents();
-    LastAnswer = AnsweredCancel;
-    // A game without a file is not saved, so a Yes stops the caller as well: nothing is lost.
-    if (AskYesNoCancel("Would you like to save this game first?") == Answer::No) {
-        LastAnswer = AnsweredNothing;
-    }
+    const Answer answer = AskYesNoCancel("Would you like to save this game first?");
+    // A game that should be kept and was not stops the caller as well: nothing is lost.
+    const bool goOn = answer == Answer::No || (answer == Answer::Yes && SaveGame());
+    LastAnswer = goOn ? AnsweredNothing : AnsweredCancel;
 }
 
 void UpdateStatistics()

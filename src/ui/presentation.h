@@ -6,6 +6,7 @@
 
 #include "grid/cell_word.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -108,5 +109,14 @@ void ShowSolutionCount();
 
 // Shows name, version and licence of the program until the player has read them.
 void ShowAboutScreen();
+
+// ---- Files and help ------------------------------------------------------------------------
+
+// Shows the file dialog, with a type of files/file_dialog.h selected, until the player has chosen a
+// file or given up; that header holds its rules and its results.
+void RunFileDialog(std::size_t fileType);
+
+// Opens the help at a topic.
+void ShowHelpTopic(int topic);
 
 } // namespace kelvarine

@@ -33,7 +33,9 @@ QMessageBox::StandardButton RunBox(QMessageBox::Icon icon, std::string_view text
                                    std::string_view title, QMessageBox::StandardButtons buttons,
                                    QMessageBox::StandardButton defaultButton)
 {
-    QMessageBox box(icon, Text(title.empty() ? ProgramName : title), Text(text), buttons, Window());
+    QWidget *above = QApplication::activeModalWidget();
+    QMessageBox box(icon, Text(title.empty() ? ProgramName : title), Text(text), buttons,
+                    above != nullptr ? above : Window());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(defaultButton);
     return static_cast<QMessageBox::StandardButton>(box.exec());
@@ -57,7 +59,11 @@ void ShowMessage(std::string_view text, std::string_view title)
 
 bool AskYesNo(std::string_view text, std::string_view title)
 {
-    return RunBox(QMessageBox::Question, text, title, QMessageBox::Yes | QMessageBox::No,
+    // Questions are worded for boxes that show a doubled "&" as one.
+    const std::string shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))
+                                  .replace(QStringLiteral("&&"), QStringLiteral("&"))
+                                  .toStdString();
+    return RunBox(QMessageBox::Question, shown, title, QMessageBox::Yes | QMessageBox::No,
                   QMessageBox::No) == QMessageBox::Yes;
 }
 

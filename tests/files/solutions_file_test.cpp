@@ -1,4 +1,4 @@
-#include "files/file_choice.h"
+#include "files/file_dialog.h"
 #include "files/folders.h"
 #include "files/solutions_file.h"
 #include "files/whole_file.h"
@@ -41,7 +41,8 @@ TEST_F(SolutionsFile, HoldsTheTextOnViewInTheFormatOnView)
 {
     for (const std::int32_t format : {0, 1}) {
         optSolutionsFormat(format);
-        Seen.FileAnswers = {Path};
+        Seen.FileNames = {Path};
+        Seen.YesNoAnswers = {true};
         cmdSaveAsTextFile();
         EXPECT_EQ(Read(), SolutionsText(format, PlainSolution) + "\r\n");
     }
@@ -51,7 +52,9 @@ TEST_F(SolutionsFile, IsChosenUnderItsTitleWithTextFilesFirst)
 {
     Seen.Calls.clear();
     cmdSaveAsTextFile();
-    EXPECT_EQ(Seen.Calls, Texts{"file to save, type 1: Save Solution(s) As Text File"});
+    EXPECT_EQ(Seen.Calls,
+              (Texts{"file dialog: Save Solution(s) As Text File", "file dialog: cancelled"}));
+    EXPECT_EQ(Seen.FileTypeSelected, TextFiles);
     EXPECT_EQ(Read(), "a former file that was longer than the text") << "cancelled";
 }
 
@@ -59,23 +62,25 @@ TEST_F(SolutionsFile, KeepsToTheTextOnViewAfterLaterSearches)
 {
     optSolutionsFormat(0);
     SolutionList = "something else";
-    Seen.FileAnswers = {Path};
+    Seen.FileNames = {Path};
+    Seen.YesNoAnswers = {true};
     cmdSaveAsTextFile();
     EXPECT_EQ(Read(), std::string(PlainSolution) + "\r\n\r\n");
 }
 
 TEST_F(SolutionsFile, EmptyTextIsOneLineEnd)
 {
-    Seen.FileAnswers = {Path};
+    Seen.FileNames = {Path};
+    Seen.YesNoAnswers = {true};
     cmdSaveAsTextFile();
     EXPECT_EQ(Read(), "\r\n");
 }
 
 TEST_F(SolutionsFile, FailingWriteIsToldInTheSystemsWords)
 {
-    Seen.FileAnswers = {Path + "/below/a/file.txt"};
+    Seen.FileNames = {"/proc/no folder/file.txt"};
     cmdSaveAsTextFile();
-    EXPECT_EQ(Seen.Messages, Texts{"Not a directory"});
+    EXPECT_EQ(Seen.Messages, Texts{"No such file or directory"});
 }
 
 } // namespace

@@ -1,8 +1,9 @@
 #include "support/presentation_double.h"
 
 #include "configure/defaults.h"
-#include "files/file_choice.h"
+#include "files/file_dialog.h"
 #include "logic/driver.h"
+#include "support/settings_folder.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -52,7 +53,9 @@ private:
 void Restart()
 {
     static const OwnFolders folders;
-    folders.Use();
+    if (SettingsFolders::InUse == 0) {
+        folders.Use();
+    }
     SetDefaults();
     Seen = {};
 }
@@ -235,14 +238,24 @@ void ShowAboutScreen()
     Record("about screen", "");
 }
 
-bool ChooseFileToSave(std::string_view title, int firstType)
+// ---- Files and help ------------------------------------------------------------------------
+
+void RunFileDialog(std::size_t fileType)
 {
-    Record("file to save, type " + std::to_string(firstType), title);
-    if (Seen.FileAnswers.empty()) {
-        return false;
+    Record("file dialog", DialogCaption);
+    Seen.FileTypeSelected = fileType;
+    while (!Seen.FileNames.empty()) {
+        DialogName = Next(Seen.FileNames, std::string());
+        if (AcceptFileName(DialogName)) {
+            return;
+        }
     }
-    ChosenFilePath = Next(Seen.FileAnswers, std::string());
-    return true;
+    Record("file dialog", "cancelled");
+}
+
+void ShowHelpTopic(int topic)
+{
+    Record("help", std::to_string(topic));
 }
 
 } // namespace kelvarine

@@ -19,7 +19,6 @@ struct PresentationRecord {
     std::deque<bool> YesNoAnswers;  // taken from the front; No when empty
     std::deque<Answer> SaveAnswers; // taken from the front; No when empty
     std::deque<std::string> TextAnswers;
-    std::deque<std::string> FileAnswers; // paths chosen in turn; cancelled when empty
     std::string Clipboard;
     std::string WindowTitle;
     int BoardPaints = 0; // calls of DrawBoard where that is a double, too
@@ -34,11 +33,14 @@ struct PresentationRecord {
     int WinInterval = 0;
     std::uint32_t SoundVolume = 0;
     std::function<void()> OnYield;
+    std::deque<std::string> FileNames; // typed into the file dialog, OK after each; then Cancel
+    std::size_t FileTypeSelected = 0;
 };
 
 extern PresentationRecord Seen;
 
-// Puts the program and the record to the state of a start.
+// Puts the program and the record to the state of a start, with empty folders for what the program
+// keeps, unless the test has SettingsFolders of its own.
 void Restart();
 
 } // namespace kelvarine::testing

@@ -22,6 +22,8 @@ void PutFile(const std::filesystem::path &path, const std::string &bytes)
 
 } // namespace
 
+int SettingsFolders::InUse = 0;
+
 SettingsFolders::SettingsFolders()
 {
     std::string form = (std::filesystem::temp_directory_path() / "kelvarine-XXXXXX").string();
@@ -29,12 +31,14 @@ SettingsFolders::SettingsFolders()
         throw std::runtime_error("cannot make " + form);
     }
     home_ = form;
+    ++InUse;
     ::setenv("XDG_CONFIG_HOME", (home_ / "config").c_str(), 1);
     ::setenv("XDG_DATA_HOME", (home_ / "data").c_str(), 1);
 }
 
 SettingsFolders::~SettingsFolders()
 {
+    --InUse;
     std::error_code failure;
     std::filesystem::remove_all(home_, failure);
 }

@@ -24,6 +24,8 @@ public:
     [[nodiscard]] std::filesystem::path Settings() const;
     [[nodiscard]] std::filesystem::path Data() const;
 
+    static int InUse; // number of such folders
+
 private:
     std::filesystem::path home_;
 };

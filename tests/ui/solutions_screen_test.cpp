@@ -1,4 +1,3 @@
-#include "files/file_choice.h"
 #include "files/whole_file.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
@@ -13,8 +12,9 @@
 #include "ui/presentation.h"
 
 #include <QApplication>
-#include <QFileDialog>
+#include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -398,12 +398,14 @@ TEST_F(SolutionsScreens, ButtonSavesTheTextOnView)
     const std::string path = qEnvironmentVariable("HOME").toStdString() + "/solutions.txt";
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        if (auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget())) {
+        QWidget *dialog = QApplication::activeModalWidget();
+        if (dialog != nullptr && dialog->objectName() == "frmFile") {
             watch.stop();
             EXPECT_EQ(dialog->windowTitle(), "Save Solution(s) As Text File");
-            EXPECT_EQ(dialog->selectedNameFilter(), "Text files (*.txt)");
-            dialog->selectFile(QString::fromStdString(path));
-            QMetaObject::invokeMethod(dialog, "accept");
+            EXPECT_EQ(dialog->findChild<QComboBox *>("cmbFileTypes")->currentText(),
+                      "Text files (*.txt)");
+            dialog->findChild<QLineEdit *>("txtFileName")->setText(QString::fromStdString(path));
+            dialog->findChild<QPushButton *>("cmdOK")->click();
         }
     });
     watch.start(5);

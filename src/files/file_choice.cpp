@@ -1,7 +1,0 @@
-#include "files/file_choice.h"
-
-namespace kelvarine {
-
-std::string ChosenFilePath;
-
-} // namespace kelvarine

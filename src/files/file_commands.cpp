@@ -1,0 +1,87 @@
+#include "files/file_commands.h"
+
+#include "board/board.h"
+#include "files/file_dialog.h"
+#include "files/game_file.h"
+#include "files/text_case.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "ui/presentation.h"
+
+namespace kelvarine {
+
+namespace {
+
+void ShowFileInTitle()
+{
+    SetWindowTitle(std::string(ProgramName) + " (" + FileNameOf(GameFilePath) + ")");
+}
+
+// A game that could not be written keeps the path that it had.
+bool SaveUnderChosenName()
+{
+    const std::string former = GameFilePath;
+    ShowFileDialog(SaveGameCaption, SudokuFiles);
+    if (LastAnswer == AnsweredCancel) {
+        return false;
+    }
+    if (!WriteGameFile()) {
+        GameFilePath = former;
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+std::string FileNameOf(std::string_view path)
+{
+    return LowerCase(WithoutOuterBlanks(path.substr(path.rfind('/') + 1)));
+}
+
+void mnuOpen()
+{
+    QuerySaveGame();
+    if (LastAnswer == AnsweredCancel) {
+        return;
+    }
+    ShowFileDialog(OpenGameCaption, SudokuFiles);
+    if (LastAnswer == AnsweredCancel) {
+        return;
+    }
+    DrawBanner(" Standby ");
+    if (!ReadGameFile(ChosenFilePath)) {
+        DrawBoard(); // takes the banner down
+        ShowMessage("Unable to open file.\r\r"
+                    "Selected file is either corrupted or is not a sudoku game file.");
+        return;
+    }
+    GameFilePath = ChosenFilePath;
+    ShowFileInTitle();
+    GameModified = False;
+    DrawBoard();
+    RefreshWindow();
+}
+
+void mnuSave()
+{
+    if (GameFilePath.empty()) {
+        mnuSaveAs();
+    } else {
+        WriteGameFile();
+    }
+}
+
+void mnuSaveAs()
+{
+    if (SaveUnderChosenName()) {
+        ShowFileInTitle();
+    }
+}
+
+bool SaveGame()
+{
+    return GameFilePath.empty() ? SaveUnderChosenName() : WriteGameFile();
+}
+
+} // namespace kelvarine

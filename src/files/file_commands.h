@@ -1,0 +1,25 @@
+// The commands that open and save games.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kelvarine {
+
+// The name within a path: what follows the last slash, without outer blanks, in small letters.
+std::string FileNameOf(std::string_view path);
+
+// Opens a game that the player chooses, after the question about the game in hand. A file that is
+// no game is told, and the game in hand goes on.
+void mnuOpen();
+
+// Save the game: under the name that it has, asking for one when it has none; and under a name that
+// the player chooses.
+void mnuSave();
+void mnuSaveAs();
+
+// Saves the game for a caller that is about to give it up, as mnuSave does but for the title. False
+// when the player cancelled or the writing failed.
+bool SaveGame();
+
+} // namespace kelvarine

@@ -1,0 +1,201 @@
+#include "files/file_dialog.h"
+
+#include "files/folders.h"
+#include "files/text_case.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "ui/presentation.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <filesystem>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace kelvarine {
+
+std::string ChosenFilePath;
+std::string DialogFolder;
+std::string DialogName;
+std::string DialogCaption;
+std::string FilePattern;
+std::string DefaultExtension;
+
+namespace {
+
+constexpr std::string_view GameExtension = ".sdk";
+constexpr std::string_view TextExtension = ".txt";
+constexpr std::string_view TextPattern = "*.txt";
+constexpr std::string_view EveryFile = "*.*";
+
+std::string_view PatternOf(std::string_view fileType)
+{
+    const std::size_t start = fileType.rfind('(') + 1;
+    return fileType.substr(start, fileType.rfind(')') - start);
+}
+
+// A type that the program selects gives its own ending; one that the player selects knows but two.
+void PresetFileType(std::size_t fileType)
+{
+    FilePattern = PatternOf(FileTypes[fileType]);
+    DefaultExtension = FilePattern.substr(1);
+}
+
+// In questions a single "&" would mark a key.
+std::string WithDoubledMarks(std::string_view text)
+{
+    std::string doubled;
+    for (const char mark : text) {
+        doubled.append(mark == '&' ? 2 : 1, mark);
+    }
+    return doubled;
+}
+
+enum class Presence : std::uint8_t { There, Missing, Unreachable };
+
+Presence PresenceOf(const std::string &path)
+{
+    struct stat kind {};
+    if (::stat(path.c_str(), &kind) == 0) {
+        return Presence::There;
+    }
+    return errno == ENOENT ? Presence::Missing : Presence::Unreachable;
+}
+
+void TellToCheck(std::string_view what)
+{
+    ShowMessage(std::string(what) + "\r\rCheck path and file name");
+}
+
+// Whether the file may be opened or written over, as the caption wants it.
+bool AgreeOnFile(const std::string &path)
+{
+    switch (PresenceOf(path)) {
+    case Presence::Unreachable:
+        TellToCheck("Path, file, or device error.");
+        return false;
+    case Presence::Missing:
+        if (DialogCaption == OpenGameCaption) {
+            TellToCheck("File not found");
+            return false;
+        }
+        return true;
+    case Presence::There:
+        break;
+    }
+    return DialogCaption == OpenGameCaption ||
+           AskYesNo(WithDoubledMarks(path) + "\ralready exists.\r\rDo you want to overwrite it?",
+                    "Overwrite?");
+}
+
+// The full path that a typed name means.
+std::string PathFor(std::string_view typed)
+{
+    std::string path(typed);
+    if (path.find('/') == std::string::npos) {
+        path.insert(0, DialogFolder);
+    }
+    if (path.find('.', path.rfind('/') + 1) == std::string::npos) {
+        path += DefaultExtension;
+    }
+    return path;
+}
+
+// A folder that has gone gives way to the nearest one above it.
+void LeaveMissingFolder()
+{
+    std::error_code failure;
+    while (DialogFolder.size() > 1 && !std::filesystem::is_directory(DialogFolder, failure)) {
+        DialogFolder.pop_back();
+        DialogFolder.resize(DialogFolder.rfind('/') + 1);
+    }
+}
+
+bool IsGameFile(const std::string &path)
+{
+    std::error_code failure;
+    return !GameFilePath.empty() && std::filesystem::equivalent(path, GameFilePath, failure);
+}
+
+} // namespace
+
+void SetFileDialogDefaults()
+{
+    ChosenFilePath.clear();
+    DialogFolder = HomeFolder();
+    DialogName.clear();
+    DialogCaption.clear();
+    PresetFileType(SudokuFiles);
+}
+
+void ShowFileDialog(std::string_view caption, std::size_t fileType)
+{
+    LastAnswer = AnsweredCancel;
+    LeaveMissingFolder();
+    DialogCaption = caption;
+    PresetFileType(fileType);
+    RunFileDialog(fileType);
+}
+
+void SelectFileType(std::size_t fileType)
+{
+    FilePattern = PatternOf(FileTypes[fileType]);
+    DefaultExtension = FilePattern == TextPattern ? TextExtension : GameExtension;
+}
+
+bool IsListed(std::string_view name)
+{
+    return FilePattern == EveryFile ||
+           LowerCase(name).ends_with(LowerCase(std::string_view(FilePattern).substr(1)));
+}
+
+std::optional<std::size_t> EntryBeginning(const std::vector<std::string> &entries,
+                                          std::string_view typed)
+{
+    const std::string beginning = LowerCase(WithoutOuterBlanks(typed));
+    for (std::size_t entry = 0; !beginning.empty() && entry < entries.size(); ++entry) {
+        if (LowerCase(WithoutOuterBlanks(entries[entry])).starts_with(beginning)) {
+            return entry;
+        }
+    }
+    return std::nullopt;
+}
+
+bool AcceptFileName(std::string_view typed)
+{
+    ChosenFilePath = WithoutOuterBlanks(typed);
+    if (ChosenFilePath.empty()) {
+        ShowMessage("Please enter a file name.");
+        return false;
+    }
+    ChosenFilePath = PathFor(ChosenFilePath);
+    if (!AgreeOnFile(ChosenFilePath)) {
+        return false;
+    }
+    if (DialogCaption == SaveGameCaption) {
+        GameFilePath = ChosenFilePath;
+    }
+    LastAnswer = AnsweredOk;
+    return true;
+}
+
+bool DeleteListedFile(std::string_view name)
+{
+    if (!AskYesNo("Are you sure you want to delete:\r" + WithDoubledMarks(name))) {
+        return false;
+    }
+    const std::string path = DialogFolder + std::string(name);
+    const bool ofGame = IsGameFile(path);
+    if (::unlink(path.c_str()) != 0) {
+        const std::error_code reason(errno, std::generic_category());
+        ShowMessage("Unable to delete file.\r\r" + reason.message());
+        return false;
+    }
+    if (ofGame) {
+        GameModified = True;
+    }
+    return true;
+}
+
+} // namespace kelvarine

@@ -1,0 +1,220 @@
+#include "files/game_file.h"
+
+#include "files/text_case.h"
+#include "files/text_format.h"
+#include "files/whole_file.h"
+#include "game/clock.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "generator/game_number.h"
+#include "grid/grid.h"
+#include "ui/presentation.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+
+namespace kelvarine {
+
+namespace {
+
+// ---- Layout: records of ten little-endian words, numbered from 1 -----------------------------
+
+constexpr std::size_t WordSize = 4;
+constexpr std::size_t RecordWords = 10;
+constexpr std::size_t RecordSize = RecordWords * WordSize;
+
+constexpr std::size_t HeaderRecord = 1;
+constexpr std::size_t TimeRecord = 3; // a 64-bit float, then the header once more
+constexpr std::size_t GridRecord = 4;
+constexpr std::size_t HistoryRecord = 15;
+constexpr std::size_t SavedSlots = SnapshotSlot + 1; // the slots above are scratch
+constexpr std::size_t LastRecord = HistoryRecord + SavedSlots * RecordWords - 1;
+constexpr std::size_t GameFileSize = LastRecord * RecordSize;
+static_assert(LastRecord == 1034 && GameFileSize == 41360);
+
+// The single words; all others outside the grids mean nothing and are written as zeros.
+struct WordField {
+    std::size_t Record;
+    std::size_t Element;
+    std::int32_t *Value;
+};
+
+constexpr WordField WordFields[]{
+    {2, 0, &GameNumber},       {2, 1, &StatsCounted},       {14, 1, &HistoryCount},
+    {14, 2, &HistoryPosition}, {14, 3, &SnapshotAvailable},
+};
+
+constexpr std::size_t HeaderStart = 8; // within its record
+constexpr std::size_t HeaderSize = 32;
+constexpr std::string_view Header = "Kelvarine game file v1.0";
+constexpr std::string_view OtherHeader = "Kelva Rine game file v1.0"; // read, never written
+
+constexpr std::string_view TextEnding = ".txt";
+constexpr int AllCells = 81;
+
+// Place of an element of a word record in the file.
+constexpr std::size_t PlaceOf(std::size_t record, std::size_t element = 0)
+{
+    return (record - 1) * RecordSize + element * WordSize;
+}
+
+// ---- Numbers and grids to bytes and back -----------------------------------------------------
+
+template <typename Number>
+void PutNumber(std::string &bytes, std::size_t place, Number number)
+{
+    for (std::size_t i = 0; i < sizeof number; ++i) {
+        bytes[place + i] = static_cast<char>(number >> (8 * i) & 0xFFU);
+    }
+}
+
+template <typename Number>
+Number NumberAt(std::string_view bytes, std::size_t place)
+{
+    Number number = 0;
+    for (std::size_t i = 0; i < sizeof number; ++i) {
+        number |= static_cast<Number>(static_cast<unsigned char>(bytes[place + i])) << (8 * i);
+    }
+    return number;
+}
+
+// A grid takes ten records, one for each column, line 0 included.
+void PutGrid(std::string &bytes, std::size_t record, const GridTable &grid)
+{
+    for (std::size_t column = 0; column < grid.size(); ++column) {
+        for (std::size_t row = 0; row < RecordWords; ++row) {
+            PutNumber(bytes, PlaceOf(record + column, row), grid[column][row]);
+        }
+    }
+}
+
+void TakeGrid(std::string_view bytes, std::size_t record, GridTable &grid)
+{
+    for (std::size_t column = 0; column < grid.size(); ++column) {
+        for (std::size_t row = 0; row < RecordWords; ++row) {
+            grid[column][row] = NumberAt<CellWord>(bytes, PlaceOf(record + column, row));
+        }
+    }
+}
+
+// ---- A whole game ----------------------------------------------------------------------------
+
+void PutHeader(std::string &bytes, std::size_t record)
+{
+    const std::size_t place = PlaceOf(record) + HeaderStart;
+    bytes.replace(place, HeaderSize, HeaderSize, ' ');
+    bytes.replace(place, Header.size(), Header);
+}
+
+// A header that the end of the file cuts short is judged by what is there.
+bool HasGameHeader(std::string_view bytes)
+{
+    if (bytes.size() <= HeaderStart) {
+        return false;
+    }
+    const std::string_view header = WithoutOuterBlanks(bytes.substr(HeaderStart, HeaderSize));
+    return header == Header || header == OtherHeader;
+}
+
+// The values are taken as they stand but for the counters, which lead into the table: a file may
+// hold anything.
+void BringCountersIntoRange()
+{
+    HistoryCount = std::clamp(HistoryCount, 0, OldestSlot);
+    HistoryPosition = std::clamp(HistoryPosition, 0, HistoryCount);
+}
+
+void TakeGame(std::string_view contents)
+{
+    // What is missing at the end reads as zeros.
+    std::string bytes(contents.substr(0, GameFileSize));
+    bytes.resize(GameFileSize, '\0');
+    for (const WordField &field : WordFields) {
+        *field.Value = static_cast<std::int32_t>(
+            NumberAt<std::uint32_t>(bytes, PlaceOf(field.Record, field.Element)));
+    }
+    BringCountersIntoRange();
+    SolveSeconds = std::bit_cast<double>(NumberAt<std::uint64_t>(bytes, PlaceOf(TimeRecord)));
+    TakeGrid(bytes, GridRecord, Grid);
+    for (std::size_t slot = 0; slot < SavedSlots; ++slot) {
+        TakeGrid(bytes, HistoryRecord + slot * RecordWords, History[slot]);
+    }
+}
+
+// ---- A position as text ----------------------------------------------------------------------
+
+// First by runs of digits; where that does not fill the grid, by characters, which understands 81
+// digits with nothing between them.
+bool TakeText(std::string_view contents)
+{
+    History[SafeCopySlot] = Grid;
+    Grid = {};
+    if (ReadByDigitRuns(contents) == AllCells) {
+        return true;
+    }
+    Grid = {};
+    if (ReadByCharacters(contents) == AllCells) {
+        return true;
+    }
+    Grid = History[SafeCopySlot];
+    return false;
+}
+
+} // namespace
+
+std::string GameFileBytes()
+{
+    std::string bytes(GameFileSize, '\0');
+    PutHeader(bytes, HeaderRecord);
+    PutHeader(bytes, TimeRecord);
+    PutNumber(bytes, PlaceOf(TimeRecord), std::bit_cast<std::uint64_t>(SolveSeconds));
+    for (const WordField &field : WordFields) {
+        PutNumber(bytes, PlaceOf(field.Record, field.Element),
+                  static_cast<std::uint32_t>(*field.Value));
+    }
+    PutGrid(bytes, GridRecord, Grid);
+    for (std::size_t slot = 0; slot < SavedSlots; ++slot) {
+        PutGrid(bytes, HistoryRecord + slot * RecordWords, History[slot]);
+    }
+    return bytes;
+}
+
+bool WriteGameFile()
+{
+    if (GameFilePath.empty()) {
+        return false;
+    }
+    const bool asText = GameFilePath.ends_with(TextEnding);
+    std::string error;
+    if (!ReplaceWholeFile(GameFilePath, asText ? TextFileText() : GameFileBytes(), error,
+                          MissingFolders::Refused)) {
+        ShowMessage("Unable to save file.\r\r" + error);
+        return false;
+    }
+    // A text keeps but a part of the game, so the game stays modified.
+    if (!asText) {
+        GameModified = False;
+    }
+    return true;
+}
+
+bool ReadGame(std::string_view contents)
+{
+    if (HasGameHeader(contents)) {
+        TakeGame(contents);
+    } else if (!TakeText(contents)) {
+        return false;
+    }
+    StartGame(GameFromFile);
+    return true;
+}
+
+bool ReadGameFile(const std::string &path)
+{
+    std::string contents;
+    std::string error;
+    return !path.empty() && ReadWholeFile(path, contents, error) && ReadGame(contents);
+}
+
+} // namespace kelvarine
