@@ -8,6 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
+
 namespace kelvarine::testing {
 namespace {
 
@@ -47,6 +50,17 @@ TEST_F(Clock, SecondsAreRoundedAndNotCarried)
     EXPECT_EQ(TimeText(4.5), "0:04 ");
     EXPECT_EQ(TimeText(5.5), "0:06 ");
     EXPECT_EQ(TimeText(59.6), "0:60 ");
+}
+
+TEST_F(Clock, TimesThatNoGameLastsAreHarmless)
+{
+    constexpr double endless = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(TimeText(std::nan("")), "0:00 ");
+    EXPECT_EQ(TimeText(endless), "277777777777:46:40 ");
+    EXPECT_EQ(TimeText(1e300), "277777777777:46:40 ");
+    EXPECT_FALSE(TimeText(-endless).empty());
+    EXPECT_FALSE(TimeText(-1e300).empty());
+    EXPECT_FALSE(TimeText(-0.6).empty());
 }
 
 TEST_F(Clock, TickAddsASecondAndRenewsTheCaption)

@@ -1,0 +1,281 @@
+#include "files/file_commands.h"
+#include "files/file_dialog.h"
+#include "files/game_file.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "grid/grid.h"
+#include "support/play.h"
+#include "support/positions.h"
+#include "support/presentation_double.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace kelvarine::testing {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class FileCommands : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        Restart();
+        DialogFolder = Folder.Path();
+    }
+
+    // The file of an easy game with a number placed, and a program that knows nothing of it.
+    std::string SavedGame()
+    {
+        StartSavedGame(EasyGame);
+        WordAt({3, 1}) = (WordAt({3, 1}) & ~CandidateMask) | BitTable[4];
+        PushUndoState();
+        std::string bytes = GameFileBytes();
+        Folder.Write("saved.sdk", bytes);
+        Restart();
+        DialogFolder = Folder.Path();
+        return bytes;
+    }
+
+    TemporaryFolder Folder;
+};
+
+TEST_F(FileCommands, FileNameIsWhatFollowsTheLastSlashInSmallLetters)
+{
+    EXPECT_EQ(FileNameOf("/home/Anna/My Game.SDK"), "my game.sdk");
+    EXPECT_EQ(FileNameOf("game.sdk"), "game.sdk");
+    EXPECT_EQ(FileNameOf("/tmp/  a b.sdk "), "a b.sdk");
+    EXPECT_EQ(FileNameOf("/tmp/"), "");
+    EXPECT_EQ(FileNameOf(""), "");
+    EXPECT_EQ(FileNameOf("/tmp/C:\\Game.sdk"), "c:\\game.sdk");
+    EXPECT_EQ(FileNameOf("/tmp/\xC3\x84rger.sdk"), "\xC3\xA4rger.sdk");
+    EXPECT_EQ(FileNameOf("/tmp/\xFF\xC3.SDK"), "\xFF\xC3.sdk");
+}
+
+// ---- mnuOpen -------------------------------------------------------------------------------
+
+TEST_F(FileCommands, OpenShowsTheGameAndItsName)
+{
+    const std::string bytes = SavedGame();
+    Seen.FileNames = {"saved"};
+    mnuOpen();
+    EXPECT_EQ(Acts(), (Texts{"file dialog: Open Game", "banner:  Standby ",
+                             "stop sound: ", "board: ", "refresh: "}));
+    EXPECT_EQ(Seen.FileTypeSelected, 0U);
+    EXPECT_EQ(GameFilePath, Folder.Path("saved.sdk"));
+    EXPECT_EQ(ChosenFilePath, Folder.Path("saved.sdk"));
+    EXPECT_EQ(Seen.WindowTitle, "Kelvarine (saved.sdk)");
+    EXPECT_EQ(GameModified, False);
+    EXPECT_TRUE(GameFileBytes() == bytes);
+}
+
+TEST_F(FileCommands, OpenedTextIsTheGamesFileToo)
+{
+    Folder.Write("Puzzle.TXT", EasyGame);
+    Seen.FileNames = {"Puzzle.TXT"};
+    mnuOpen();
+    EXPECT_EQ(GameFilePath, Folder.Path("Puzzle.TXT"));
+    EXPECT_EQ(Seen.WindowTitle, "Kelvarine (puzzle.txt)");
+    EXPECT_EQ(GameModified, False);
+    EXPECT_EQ(GivenCount, 30);
+}
+
+TEST_F(FileCommands, OpenAsksForTheGameInHandFirst)
+{
+    SavedGame();
+    StartSavedGame(EasySolution);
+    GameModified = True;
+    const std::string before = ProgramState();
+    Seen.SaveAnswers = {Answer::Cancel};
+    Seen.FileNames = {"saved"};
+    mnuOpen();
+    EXPECT_EQ(Acts(), (Texts{"pending events: ",
+                             "save question: Would you like to save this game first?"}));
+    ForgetRecord();
+    LastAnswer = 0;
+    EXPECT_EQ(ProgramState(), before);
+}
+
+TEST_F(FileCommands, CancelInTheDialogOpensNothing)
+{
+    StartSavedGame(EasyGame);
+    const GridTable before = Grid;
+    mnuOpen();
+    EXPECT_EQ(LastAnswer, 2);
+    EXPECT_EQ(Acts(), (Texts{"file dialog: Open Game", "file dialog: cancelled"}));
+    EXPECT_EQ(Grid, before);
+}
+
+TEST_F(FileCommands, WhatIsNoGameIsToldAndTheGameGoesOn)
+{
+    StartSavedGame(EasyGame);
+    GameFilePath = "/kept/name.sdk";
+    const std::string before = ProgramState();
+    Folder.Write("broken.sdk", "Kelvarine game file v9");
+    Seen.FileNames = {"broken"};
+    mnuOpen();
+    EXPECT_EQ(Acts(), (Texts{"file dialog: Open Game", "banner:  Standby ", "board: ",
+                             "message: Unable to open file.\r\rSelected file is either corrupted "
+                             "or is not a sudoku game file."}));
+    ForgetRecord();
+    LastAnswer = 0;
+    EXPECT_EQ(ProgramState(), before);
+}
+
+TEST_F(FileCommands, FolderChosenAsAGameIsTold)
+{
+    std::filesystem::create_directory(Folder.Path("folder.sdk"));
+    Seen.FileNames = {"folder"};
+    mnuOpen();
+    EXPECT_EQ(Seen.Messages, Texts{"Unable to open file.\r\rSelected file is either corrupted or "
+                                   "is not a sudoku game file."});
+    EXPECT_EQ(GameFilePath, "");
+}
+
+TEST_F(FileCommands, DecliningToSaveKeepsTheLoadedHistory)
+{
+    SavedGame();
+    StartSavedGame(EasySolution);
+    GameModified = True;
+    Seen.SaveAnswers = {Answer::No};
+    Seen.FileNames = {"saved"};
+    mnuOpen();
+    EXPECT_EQ(HistoryCount, 2);
+    EXPECT_EQ(GameModified, False);
+    Undo();
+    EXPECT_EQ(CountCandidates(3, 1), 9);
+}
+
+// ---- mnuSave and mnuSaveAs -----------------------------------------------------------------
+
+TEST_F(FileCommands, SaveOfANamedGameAsksNothing)
+{
+    StartSavedGame(EasyGame);
+    GameFilePath = Folder.Path("game.sdk");
+    GameModified = True;
+    mnuSave();
+    EXPECT_EQ(Acts(), Texts{});
+    EXPECT_EQ(GameModified, False);
+    EXPECT_TRUE(Folder.Read("game.sdk") == GameFileBytes());
+    EXPECT_EQ(Seen.WindowTitle, "Kelvarine");
+}
+
+TEST_F(FileCommands, SaveOfAGameWithoutANameAsksForOne)
+{
+    StartSavedGame(EasyGame);
+    Seen.FileNames = {"New Game"};
+    mnuSave();
+    EXPECT_EQ(Acts(), Texts{"file dialog: Save Game As"});
+    EXPECT_EQ(Seen.FileTypeSelected, 0U);
+    EXPECT_EQ(GameFilePath, Folder.Path("New Game.sdk"));
+    EXPECT_EQ(Seen.WindowTitle, "Kelvarine (new game.sdk)");
+    EXPECT_TRUE(Folder.Read("New Game.sdk") == GameFileBytes());
+}
+
+TEST_F(FileCommands, SaveAsGivesANewNameAndLeavesTheOldFile)
+{
+    StartSavedGame(EasyGame);
+    Folder.Write("old.sdk", "old");
+    GameFilePath = Folder.Path("old.sdk");
+    Seen.FileNames = {"new.txt"};
+    mnuSaveAs();
+    EXPECT_EQ(GameFilePath, Folder.Path("new.txt"));
+    EXPECT_EQ(Seen.WindowTitle, "Kelvarine (new.txt)");
+    EXPECT_EQ(Folder.Read("old.sdk"), "old");
+    EXPECT_EQ(Folder.Read("new.txt").substr(0, 2), "+-");
+}
+
+TEST_F(FileCommands, CancelledSaveAsWritesNothing)
+{
+    StartSavedGame(EasyGame);
+    GameModified = True;
+    mnuSaveAs();
+    EXPECT_EQ(GameModified, True);
+    EXPECT_EQ(GameFilePath, "");
+    EXPECT_EQ(Folder.Entries(), 0);
+    EXPECT_EQ(Seen.WindowTitle, "Kelvarine");
+}
+
+TEST_F(FileCommands, FailedSaveAsKeepsNameTitleAndGame)
+{
+    StartSavedGame(EasyGame);
+    GameFilePath = Folder.Path("old.sdk");
+    GameModified = True;
+    Seen.FileNames = {Folder.Path("gone/new.sdk")};
+    mnuSaveAs();
+    EXPECT_EQ(Seen.Messages, Texts{"Unable to save file.\r\rNo such file or directory"});
+    EXPECT_EQ(GameFilePath, Folder.Path("old.sdk"));
+    EXPECT_EQ(Seen.WindowTitle, "Kelvarine");
+    EXPECT_EQ(GameModified, True);
+}
+
+// ---- The question before a game is lost ----------------------------------------------------
+
+TEST_F(FileCommands, YesSavesUnderTheNameAndGoesOn)
+{
+    StartSavedGame(EasyGame);
+    GameFilePath = Folder.Path("game.sdk");
+    GameModified = True;
+    Seen.SaveAnswers = {Answer::Yes};
+    QuerySaveGame();
+    EXPECT_EQ(LastAnswer, 0);
+    EXPECT_EQ(GameModified, False);
+    EXPECT_TRUE(Folder.Read("game.sdk") == GameFileBytes());
+}
+
+TEST_F(FileCommands, YesAsksForANameAndGoesOn)
+{
+    StartSavedGame(EasyGame);
+    GameModified = True;
+    Seen.SaveAnswers = {Answer::Yes};
+    Seen.FileNames = {"game"};
+    QuerySaveGame();
+    EXPECT_EQ(LastAnswer, 0);
+    EXPECT_EQ(Seen.Calls.back(), "file dialog: Save Game As");
+    EXPECT_TRUE(Folder.Read("game.sdk") == GameFileBytes());
+    EXPECT_EQ(Seen.WindowTitle, "Kelvarine");
+}
+
+TEST_F(FileCommands, YesToATextGoesOnWithTheGameModified)
+{
+    StartSavedGame(EasyGame);
+    GameModified = True;
+    Seen.SaveAnswers = {Answer::Yes};
+    Seen.FileNames = {"game.txt"};
+    QuerySaveGame();
+    EXPECT_EQ(LastAnswer, 0);
+    EXPECT_EQ(GameModified, True);
+}
+
+TEST_F(FileCommands, YesStopsTheCallerWhenTheDialogIsCancelled)
+{
+    StartSavedGame(EasyGame);
+    GameModified = True;
+    Seen.SaveAnswers = {Answer::Yes};
+    mnuGameBlankGrid();
+    EXPECT_EQ(LastAnswer, 2);
+    EXPECT_EQ(GivenCount, 30);
+}
+
+TEST_F(FileCommands, YesStopsTheCallerWhenTheWritingFails)
+{
+    StartSavedGame(EasyGame);
+    GameModified = True;
+    Seen.SaveAnswers = {Answer::Yes};
+    Seen.FileNames = {Folder.Path("gone/game.sdk")};
+    mnuGameBlankGrid();
+    EXPECT_EQ(LastAnswer, 2);
+    EXPECT_EQ(GivenCount, 30);
+    EXPECT_EQ(GameModified, True);
+    EXPECT_EQ(GameFilePath, "");
+    GameFilePath = Folder.Path("gone/game.sdk");
+    Seen.SaveAnswers = {Answer::Yes};
+    mnuGameBlankGrid();
+    EXPECT_EQ(LastAnswer, 2);
+    EXPECT_EQ(GivenCount, 30);
+}
+
+} // namespace
+} // namespace kelvarine::testing

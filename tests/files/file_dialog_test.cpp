@@ -1,0 +1,277 @@
+#include "files/file_dialog.h"
+#include "files/folders.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "support/play.h"
+#include "support/presentation_double.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sys/stat.h>
+
+namespace kelvarine::testing {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class FileDialogRules : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        Restart();
+        DialogFolder = Folder.Path();
+    }
+
+    // Shows the dialog, types the name and presses OK. True when that closes it.
+    bool Choose(std::string_view caption, const std::string &name,
+                std::size_t fileType = SudokuFiles)
+    {
+        ForgetRecord();
+        Seen.FileNames = {name};
+        ShowFileDialog(caption, fileType);
+        return LastAnswer == AnsweredOk;
+    }
+
+    TemporaryFolder Folder;
+};
+
+// ---- Types ---------------------------------------------------------------------------------
+
+TEST_F(FileDialogRules, TypesNameTheirPatterns)
+{
+    EXPECT_EQ(FileTypes[0], "Sudoku files (*.sdk)");
+    EXPECT_EQ(FileTypes[1], "Text files (*.txt)");
+    EXPECT_EQ(FileTypes[2], "All files (*.*)");
+}
+
+TEST_F(FileDialogRules, SelectedTypeSetsPatternAndExtension)
+{
+    SelectFileType(SudokuFiles);
+    EXPECT_EQ(FilePattern + " " + DefaultExtension, "*.sdk .sdk");
+    SelectFileType(TextFiles);
+    EXPECT_EQ(FilePattern + " " + DefaultExtension, "*.txt .txt");
+    SelectFileType(AllFiles);
+    EXPECT_EQ(FilePattern + " " + DefaultExtension, "*.* .sdk");
+}
+
+TEST_F(FileDialogRules, PresetTypeTakesWhatFollowsTheStar)
+{
+    Choose(SaveSolutionsCaption, "", TextFiles);
+    EXPECT_EQ(FilePattern + " " + DefaultExtension, "*.txt .txt");
+    Choose(SaveSolutionsCaption, "", AllFiles);
+    EXPECT_EQ(FilePattern + " " + DefaultExtension, "*.* .*");
+    Choose(OpenGameCaption, "");
+    EXPECT_EQ(FilePattern + " " + DefaultExtension, "*.sdk .sdk");
+}
+
+TEST_F(FileDialogRules, ListHoldsWhatThePatternTells)
+{
+    SelectFileType(SudokuFiles);
+    EXPECT_TRUE(IsListed("game.sdk"));
+    EXPECT_TRUE(IsListed("GAME.SDK"));
+    EXPECT_FALSE(IsListed("game.txt"));
+    EXPECT_FALSE(IsListed("sdk"));
+    SelectFileType(AllFiles);
+    EXPECT_TRUE(IsListed("game.txt"));
+    EXPECT_TRUE(IsListed("no point"));
+}
+
+// ---- From a name to a path -----------------------------------------------------------------
+
+TEST_F(FileDialogRules, BareNameGetsFolderAndExtension)
+{
+    EXPECT_TRUE(Choose(SaveSolutionsCaption, "game"));
+    EXPECT_EQ(ChosenFilePath, Folder.Path("game.sdk"));
+    EXPECT_TRUE(Choose(SaveSolutionsCaption, "game", TextFiles));
+    EXPECT_EQ(ChosenFilePath, Folder.Path("game.txt"));
+    EXPECT_TRUE(Choose(SaveSolutionsCaption, "  my game  "));
+    EXPECT_EQ(ChosenFilePath, Folder.Path("my game.sdk"));
+}
+
+TEST_F(FileDialogRules, NameWithAPointKeepsItsExtension)
+{
+    for (const std::string name : {"game.text", ".hidden", "game.", "a.b.c", "GAME.SDK"}) {
+        EXPECT_TRUE(Choose(SaveSolutionsCaption, name));
+        EXPECT_EQ(ChosenFilePath, Folder.Path(name));
+    }
+}
+
+TEST_F(FileDialogRules, NameWithAFolderStaysAsItIs)
+{
+    EXPECT_TRUE(Choose(SaveSolutionsCaption, "/some/where/game"));
+    EXPECT_EQ(ChosenFilePath, "/some/where/game.sdk");
+    EXPECT_TRUE(Choose(SaveSolutionsCaption, "below/game"));
+    EXPECT_EQ(ChosenFilePath, "below/game.sdk");
+    EXPECT_TRUE(Choose(SaveSolutionsCaption, "/some.folder/game"));
+    EXPECT_EQ(ChosenFilePath, "/some.folder/game.sdk");
+}
+
+TEST_F(FileDialogRules, ColonAndBackslashAreOrdinaryCharacters)
+{
+    EXPECT_TRUE(Choose(SaveSolutionsCaption, "C:\\game"));
+    EXPECT_EQ(ChosenFilePath, Folder.Path("C:\\game.sdk"));
+}
+
+TEST_F(FileDialogRules, EmptyNameIsToldAndTheDialogStays)
+{
+    for (const std::string name : {"", "   "}) {
+        EXPECT_FALSE(Choose(SaveGameCaption, name));
+        EXPECT_EQ(Seen.Messages, Texts{"Please enter a file name."});
+        EXPECT_EQ(LastAnswer, 2);
+    }
+}
+
+// ---- Opening -------------------------------------------------------------------------------
+
+TEST_F(FileDialogRules, OpensWhatIsThere)
+{
+    Folder.Write("game.sdk", "");
+    GameFilePath = "/kept.sdk";
+    EXPECT_TRUE(Choose(OpenGameCaption, "game"));
+    EXPECT_EQ(ChosenFilePath, Folder.Path("game.sdk"));
+    EXPECT_EQ(GameFilePath, "/kept.sdk");
+    EXPECT_EQ(Seen.Calls, Texts{"file dialog: Open Game"});
+}
+
+TEST_F(FileDialogRules, MissingFileIsToldAndTheDialogStays)
+{
+    Folder.Write("game.sdk", "");
+    Seen.FileNames = {"other", "game"};
+    ShowFileDialog(OpenGameCaption, SudokuFiles);
+    EXPECT_EQ(Seen.Calls, (Texts{"file dialog: Open Game",
+                                 "message: File not found\r\rCheck path and file name"}));
+    EXPECT_EQ(LastAnswer, 1);
+    EXPECT_EQ(ChosenFilePath, Folder.Path("game.sdk"));
+}
+
+TEST_F(FileDialogRules, UnreachablePathsAreToldInEveryUse)
+{
+    Folder.Write("file", "");
+    for (const std::string_view caption :
+         {OpenGameCaption, SaveGameCaption, SaveSolutionsCaption}) {
+        for (const std::string &name :
+             {Folder.Path("file/game.sdk"), Folder.Path(std::string(300, 'n')),
+              Folder.Path(std::string(5000, 'n'))}) {
+            EXPECT_FALSE(Choose(caption, name));
+            EXPECT_EQ(Seen.Messages,
+                      Texts{"Path, file, or device error.\r\rCheck path and file name"});
+            EXPECT_EQ(LastAnswer, 2);
+        }
+    }
+    EXPECT_EQ(GameFilePath, "");
+}
+
+// ---- Saving --------------------------------------------------------------------------------
+
+TEST_F(FileDialogRules, SavingAGameSetsItsPath)
+{
+    EXPECT_TRUE(Choose(SaveGameCaption, "game"));
+    EXPECT_EQ(GameFilePath, Folder.Path("game.sdk"));
+    EXPECT_EQ(ChosenFilePath, Folder.Path("game.sdk"));
+    GameFilePath = "/kept.sdk";
+    EXPECT_TRUE(Choose(SaveSolutionsCaption, "solutions"));
+    EXPECT_EQ(GameFilePath, "/kept.sdk");
+}
+
+TEST_F(FileDialogRules, OverwritingIsAskedAndNoKeepsTheDialog)
+{
+    Folder.Write("a & b.sdk", "");
+    for (const std::string_view caption : {SaveGameCaption, SaveSolutionsCaption}) {
+        Seen.YesNoAnswers = {false};
+        EXPECT_FALSE(Choose(caption, "a & b"));
+        EXPECT_EQ(Seen.Questions, Texts{Folder.Path("a && b.sdk") +
+                                        "\ralready exists.\r\rDo you want to overwrite it?"});
+        EXPECT_EQ(Seen.Titles, Texts{"Overwrite?"});
+        EXPECT_EQ(LastAnswer, 2);
+        EXPECT_EQ(GameFilePath, "");
+    }
+    Seen.YesNoAnswers = {true};
+    EXPECT_TRUE(Choose(SaveGameCaption, "a & b"));
+    EXPECT_EQ(GameFilePath, Folder.Path("a & b.sdk"));
+}
+
+// ---- The list ------------------------------------------------------------------------------
+
+TEST_F(FileDialogRules, TypingGoesToTheFirstEntryThatBeginsSo)
+{
+    const Texts entries{"Alpha.sdk", "beta.sdk", "Beta two.sdk", "\xC3\x84rger.sdk", " gap.sdk"};
+    EXPECT_EQ(EntryBeginning(entries, "b"), 1U);
+    EXPECT_EQ(EntryBeginning(entries, "BETA T"), 2U);
+    EXPECT_EQ(EntryBeginning(entries, "  alpha "), 0U);
+    EXPECT_EQ(EntryBeginning(entries, "\xC3\xA4r"), 3U);
+    EXPECT_EQ(EntryBeginning(entries, "gap"), 4U);
+    EXPECT_EQ(EntryBeginning(entries, "lpha"), std::nullopt);
+    EXPECT_EQ(EntryBeginning(entries, "alpha.sdk.old"), std::nullopt);
+    EXPECT_EQ(EntryBeginning(entries, " "), std::nullopt);
+    EXPECT_EQ(EntryBeginning({}, "a"), std::nullopt);
+}
+
+TEST_F(FileDialogRules, DeletingAsksWithNoAsDefault)
+{
+    Folder.Write("a & b.sdk", "");
+    Seen.YesNoAnswers = {false};
+    EXPECT_FALSE(DeleteListedFile("a & b.sdk"));
+    EXPECT_EQ(Seen.Questions, Texts{"Are you sure you want to delete:\ra && b.sdk"});
+    EXPECT_EQ(Folder.Entries(), 1);
+    Seen.YesNoAnswers = {true};
+    EXPECT_TRUE(DeleteListedFile("a & b.sdk"));
+    EXPECT_EQ(Folder.Entries(), 0);
+    EXPECT_EQ(GameModified, False);
+}
+
+TEST_F(FileDialogRules, DeletingTheFileOfTheGameInHandMarksTheGame)
+{
+    Folder.Write("game.sdk", "");
+    Folder.Write("other.sdk", "");
+    GameFilePath =
+        Folder.Path("../" + std::filesystem::path(Folder.Path()).parent_path().filename().string() +
+                    "/game.sdk");
+    Seen.YesNoAnswers = {true, true};
+    EXPECT_TRUE(DeleteListedFile("other.sdk"));
+    EXPECT_EQ(GameModified, False);
+    EXPECT_TRUE(DeleteListedFile("game.sdk"));
+    EXPECT_EQ(GameModified, True);
+}
+
+TEST_F(FileDialogRules, FailedDeletionIsTold)
+{
+    std::filesystem::create_directory(Folder.Path("folder"));
+    GameFilePath = Folder.Path("folder");
+    Seen.YesNoAnswers = {true, true};
+    EXPECT_FALSE(DeleteListedFile("folder"));
+    EXPECT_FALSE(DeleteListedFile("gone.sdk"));
+    EXPECT_EQ(Seen.Messages, (Texts{"Unable to delete file.\r\rIs a directory",
+                                    "Unable to delete file.\r\rNo such file or directory"}));
+    EXPECT_EQ(GameModified, False);
+}
+
+// ---- From one showing to the next ----------------------------------------------------------
+
+TEST_F(FileDialogRules, OpensInTheHomeFolderAtFirst)
+{
+    SetFileDialogDefaults();
+    EXPECT_EQ(DialogFolder, HomeFolder());
+    EXPECT_TRUE(DialogFolder.ends_with('/'));
+}
+
+TEST_F(FileDialogRules, FolderThatIsGoneGivesWayToTheOneAbove)
+{
+    DialogFolder = Folder.Path("gone/too/");
+    Choose(OpenGameCaption, "");
+    EXPECT_EQ(DialogFolder, Folder.Path());
+    DialogFolder = "/no/such/place/";
+    Choose(OpenGameCaption, "");
+    EXPECT_EQ(DialogFolder, "/");
+}
+
+TEST_F(FileDialogRules, EachShowingBeginsAsCancelled)
+{
+    LastAnswer = 1;
+    ShowFileDialog(OpenGameCaption, SudokuFiles);
+    EXPECT_EQ(LastAnswer, 2);
+}
+
+} // namespace
+} // namespace kelvarine::testing

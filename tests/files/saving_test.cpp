@@ -1,0 +1,238 @@
+// What may go wrong while a game is saved, and that it never costs the player one.
+#include "files/file_commands.h"
+#include "files/game_file.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "generator/game_number.h"
+#include "grid/grid.h"
+#include "support/child_process.h"
+#include "support/play.h"
+#include "support/presentation_double.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <random>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <thread>
+
+namespace kelvarine::testing {
+namespace {
+
+constexpr int Nobody = 65534;
+constexpr int NotPossible = 77; // a child that this machine does not allow to do its part
+
+class Saving : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        Restart();
+        StartSavedGame(EasyGame);
+        GameFilePath = Folder.Path("game.sdk");
+        ASSERT_TRUE(WriteGameFile());
+        OldFile = Folder.Read("game.sdk");
+        WordAt({3, 1}) = BitTable[4];
+        PushUndoState();
+        ForgetRecord();
+    }
+
+    // Saves and expects the message, the old file and a modified game. 0 when all is so.
+    int SavingFails(const std::string &words)
+    {
+        mnuSave();
+        EXPECT_EQ(Seen.Messages, std::vector<std::string>{"Unable to save file.\r\r" + words});
+        EXPECT_EQ(GameModified, True);
+        return HasFailure() ? 1 : 0;
+    }
+
+    void ExpectOldFileAlone() const
+    {
+        EXPECT_TRUE(Folder.Read("game.sdk") == OldFile);
+        EXPECT_EQ(Folder.Entries(), 1);
+    }
+
+    TemporaryFolder Folder;
+    std::string OldFile;
+};
+
+// The games of two numbers, as bytes.
+std::array<std::string, 2> TwoGames()
+{
+    std::array<std::string, 2> games;
+    for (const std::int32_t number : {0, 1}) {
+        GameNumber = number;
+        games[static_cast<std::size_t>(number)] = GameFileBytes();
+    }
+    return games;
+}
+
+// Saves the games of numbers 1 and 0 in turn until it is killed, and tells when it is under way.
+[[noreturn]] void SaveForEver(int tell)
+{
+    for (GameNumber = 1;; GameNumber = 1 - GameNumber) {
+        WriteGameFile();
+        const char mark = 1;
+        [[maybe_unused]] const ssize_t told = ::write(tell, &mark, 1);
+    }
+}
+
+void KillWhileSaving(std::chrono::microseconds after)
+{
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(::pipe(pipe.data()), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::close(pipe[0]);
+        ::signal(SIGPIPE, SIG_IGN);
+        SaveForEver(pipe[1]);
+    }
+    ::close(pipe[1]);
+    char mark = 0;
+    ASSERT_EQ(::read(pipe[0], &mark, 1), 1);
+    ::close(pipe[0]);
+    std::this_thread::sleep_for(after);
+    ::kill(child, SIGKILL);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFSIGNALED(status));
+}
+
+TEST_F(Saving, KilledAtAnyMomentLeavesTheOldOrTheNewFile)
+{
+    const std::array<std::string, 2> games = TwoGames();
+    std::mt19937 random(20240601);
+    std::array<int, 2> found{};
+    for (int kill = 0; kill < 100; ++kill) {
+        ASSERT_NO_FATAL_FAILURE(KillWhileSaving(std::chrono::microseconds(random() % 15000)));
+        const std::string bytes = Folder.Read("game.sdk");
+        ASSERT_TRUE(bytes == games[0] || bytes == games[1]) << "after kill " << kill;
+        ++found[bytes == games[0] ? 0 : 1];
+    }
+    // Had the child never got as far as a second save, the kills would prove nothing.
+    EXPECT_GT(found[0], 0);
+    EXPECT_GT(found[1], 0);
+}
+
+TEST_F(Saving, FileSizeLimitLeavesTheOldFileWhole)
+{
+    const int result = RunInChild([&] {
+        ::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{4096, 4096};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        return SavingFails("File too large");
+    });
+    EXPECT_EQ(result, 0);
+    ExpectOldFileAlone();
+}
+
+// In a child with mounts of its own: a disk on which the old file fits, but no second one.
+int SaveOnAFullDisk(const std::string &folder, const std::function<int()> &save)
+{
+    if (::unshare(CLONE_NEWNS) != 0 ||
+        ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+        ::mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=64k") != 0) {
+        return NotPossible;
+    }
+    return save();
+}
+
+TEST_F(Saving, FullDiskLeavesTheOldFileWhole)
+{
+    const int result = RunInChild([&] {
+        return SaveOnAFullDisk(Folder.Path(), [&] {
+            Folder.Write("game.sdk", OldFile);
+            const int failure = SavingFails("No space left on device");
+            ExpectOldFileAlone();
+            return HasFailure() ? 1 : failure;
+        });
+    });
+    if (result == NotPossible) {
+        GTEST_SKIP() << "this machine lets nobody mount a disk";
+    }
+    EXPECT_EQ(result, 0);
+}
+
+// Becomes a user without rights of any kind.
+bool GiveUpRights()
+{
+    return ::getuid() != 0 || (::setgid(Nobody) == 0 && ::setuid(Nobody) == 0);
+}
+
+TEST_F(Saving, FolderWithoutPermissionLeavesTheOldFileWhole)
+{
+    ::chmod(Folder.Path().c_str(), 0555);
+    ::chmod(Folder.Path("game.sdk").c_str(), 0666);
+    const int result =
+        RunInChild([&] { return GiveUpRights() ? SavingFails("Permission denied") : NotPossible; });
+    ::chmod(Folder.Path().c_str(), 0755);
+    EXPECT_EQ(result, 0);
+    ExpectOldFileAlone();
+}
+
+TEST_F(Saving, WriteProtectedFileIsNotReplaced)
+{
+    ::chmod(Folder.Path().c_str(), 0777);
+    ::chmod(Folder.Path("game.sdk").c_str(), 0444);
+    const int result =
+        RunInChild([&] { return GiveUpRights() ? SavingFails("Permission denied") : NotPossible; });
+    EXPECT_EQ(result, 0);
+    ExpectOldFileAlone();
+}
+
+TEST_F(Saving, NameTooLongIsTold)
+{
+    GameFilePath = Folder.Path(std::string(300, 'n'));
+    SavingFails("File name too long");
+    ExpectOldFileAlone();
+}
+
+TEST_F(Saving, FolderGoneIsToldAndNotMadeAnew)
+{
+    GameFilePath = Folder.Path("gone/game.sdk");
+    SavingFails("No such file or directory");
+    ExpectOldFileAlone();
+}
+
+TEST_F(Saving, PathBelowAFileIsTold)
+{
+    GameFilePath = Folder.Path("game.sdk/game.sdk");
+    SavingFails("Not a directory");
+    ExpectOldFileAlone();
+}
+
+TEST_F(Saving, FolderPipeAndDeviceAreNotReplaced)
+{
+    ASSERT_EQ(::mkdir(Folder.Path("folder").c_str(), 0700), 0);
+    ASSERT_EQ(::mkfifo(Folder.Path("pipe").c_str(), 0600), 0);
+    GameFilePath = Folder.Path("folder");
+    SavingFails("Is a directory");
+    for (const std::string &path : {Folder.Path("pipe"), std::string("/dev/full")}) {
+        ForgetRecord();
+        GameFilePath = path;
+        SavingFails("Invalid argument");
+    }
+    struct stat kind {};
+    ASSERT_EQ(::stat(Folder.Path("pipe").c_str(), &kind), 0);
+    EXPECT_TRUE(S_ISFIFO(kind.st_mode));
+    EXPECT_EQ(Folder.Entries(), 3);
+}
+
+TEST_F(Saving, FailureIsOverAtTheNextGoodSave)
+{
+    GameFilePath = Folder.Path("gone/game.sdk");
+    mnuSave();
+    ASSERT_EQ(GameModified, True);
+    GameFilePath = Folder.Path("game.sdk");
+    mnuSave();
+    EXPECT_EQ(GameModified, False);
+    EXPECT_TRUE(Folder.Read("game.sdk") == GameFileBytes());
+}
+
+} // namespace
+} // namespace kelvarine::testing
