@@ -11,11 +11,13 @@
 #include <QFile>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTimer>
 #include <QTreeView>
 
 namespace kelvarine {
@@ -53,14 +55,6 @@ QLabel *LabelFor(QWidget *control, const QString &text)
     auto *label = new QLabel(text, control->parentWidget());
     label->setBuddy(control);
     return label;
-}
-
-void RunOnKey(QWidget *widget, const QKeySequence &key, Qt::ShortcutContext context,
-              const std::function<void()> &action)
-{
-    auto *shortcut = new QShortcut(key, widget);
-    shortcut->setContext(context);
-    QObject::connect(shortcut, &QShortcut::activated, widget, action);
 }
 
 } // namespace
@@ -161,7 +155,7 @@ void FileDialog::Connect()
     connect(cmdOK, &QPushButton::clicked, this, &FileDialog::PressOk);
     connect(cmdCancel, &QPushButton::clicked, this, &FileDialog::reject);
     connect(cmdHelp, &QPushButton::clicked, this, &FileDialog::PressHelp);
-    RunOnKey(this, Qt::Key_F1, Qt::WindowShortcut, [this] { PressHelp(); });
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &FileDialog::PressHelp);
     ConnectFiles();
 }
 
@@ -170,7 +164,7 @@ void FileDialog::ConnectFiles()
     connect(filFiles, &QListWidget::itemSelectionChanged, this, &FileDialog::CopyName);
     connect(filFiles, &QListWidget::itemClicked, this, &FileDialog::CopyName);
     connect(filFiles, &QListWidget::itemDoubleClicked, this, &FileDialog::PressOk);
-    RunOnKey(filFiles, Qt::Key_Delete, Qt::WidgetShortcut, [this] { DeleteSelected(); });
+    filFiles->installEventFilter(this);
 }
 
 // ---- Folders and files ---------------------------------------------------------------------
@@ -180,14 +174,25 @@ void FileDialog::ShowFolder()
     const QModelIndex index = folders.index(DecodedPath(DialogFolder));
     dirDirectory->setCurrentIndex(index);
     dirDirectory->expand(index);
-    dirDirectory->scrollTo(index);
-    // The tree fills up while the dialog is on view already, and moves what was in sight.
-    connect(&folders, &QFileSystemModel::directoryLoaded, dirDirectory,
-            [this] { dirDirectory->scrollTo(dirDirectory->currentIndex()); });
+    loading =
+        connect(&folders, &QFileSystemModel::directoryLoaded, this, &FileDialog::FollowLoading);
+}
+
+// The tree fills up while the dialog is on view already. Each folder is sorted in the next turn of
+// the event loop, and the one in hand comes last.
+void FileDialog::FollowLoading(const QString &loaded)
+{
+    QTimer::singleShot(0, dirDirectory, [this] {
+        dirDirectory->scrollTo(dirDirectory->currentIndex(), QTreeView::PositionAtCenter);
+    });
+    if (loaded == folders.filePath(dirDirectory->currentIndex())) {
+        disconnect(loading);
+    }
 }
 
 void FileDialog::FolderChosen(const QModelIndex &index)
 {
+    disconnect(loading);
     const QString path = folders.filePath(index);
     DialogFolder = EncodedPath(path.endsWith(u'/') ? path : path + u'/');
     ListFiles();
@@ -204,6 +209,16 @@ void FileDialog::ListFiles()
             filFiles->addItem(name);
         }
     }
+}
+
+bool FileDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == filFiles && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent *>(event)->matches(QKeySequence::Delete)) {
+        DeleteSelected();
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void FileDialog::CopyName()

@@ -26,6 +26,10 @@ public:
     // Keeps place and name for the next showing, however the dialog is closed.
     void done(int result) override;
 
+protected:
+    // The Delete key in the list of files.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void BuildControls(std::size_t fileType);
     void BuildFolders();
@@ -33,6 +37,7 @@ private:
     void Connect();
     void ConnectFiles();
     void ShowFolder();
+    void FollowLoading(const QString &loaded);
     void FolderChosen(const QModelIndex &index);
     void ListFiles();
     void CopyName();
@@ -42,6 +47,7 @@ private:
     void PressHelp();
 
     QFileSystemModel folders;
+    QMetaObject::Connection loading; // keeps the folder in sight while the tree fills up
     QLabel *lblFolder;
     QTreeView *dirDirectory;
     QListWidget *filFiles;
