@@ -73,10 +73,13 @@ protected:
                                 std::vector<QMessageBox::StandardButton> answers)
     {
         SetGame(LongSearch);
-        QTimer::singleShot(30, [&] {
+        QTimer start;
+        start.setSingleShot(true);
+        QObject::connect(&start, &QTimer::timeout, &start, [&] {
             EXPECT_NE(SearchActive, False) << "the search has ended already";
             action();
         });
+        start.start(30);
         return AnswerBoxes(mnuShowSolution, std::move(answers));
     }
 
