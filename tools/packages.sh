@@ -10,5 +10,6 @@ SCREEN_PACKAGES=(xvfb xauth xdotool openbox imagemagick)
 CHECK_PACKAGES=(
     libgtest-dev librapidcheck-dev libbenchmark-dev pkg-config
     clang-format clang-tidy
+    poppler-utils
     python3 python3-pil xclip x11-xkb-utils x11-xserver-utils
 )

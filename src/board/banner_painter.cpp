@@ -1,10 +1,12 @@
+#include "board/banner_painter.h"
+
 #include "board/board.h"
 #include "board/board_painter.h"
 #include "board/geometry.h"
 #include "board/text_painter.h"
 #include "game/win_display.h"
 
-#include <string>
+#include <array>
 
 namespace kelvarine {
 
@@ -13,7 +15,7 @@ namespace {
 constexpr double BannerSize = 1.1; // times the size of a given
 constexpr int FrameWidth = 10;
 constexpr int ShadowOffset = 3;
-constexpr int CountDistance = 14; // from the line of the first text down to that of the count
+constexpr int LineDistance = 14; // from a text down to the next
 
 constexpr std::size_t Black = 0;
 constexpr std::size_t Silver = 7;
@@ -26,13 +28,13 @@ struct Box {
     Rectangle Place;
 };
 
-// Box for a text, centred across the board; its height on the board is still open.
-Box MakeBox(double points, std::string_view text, int boardWidth)
+// Box for a text, centred across a picture; its height on it is still open.
+Box MakeBox(double points, std::string_view text, int pictureWidth)
 {
     Box box{BoardFace(points), std::string(text), {}};
     box.Place.Width = TextWidth(box.Letters, text);
     box.Place.Height = box.Letters.Height;
-    box.Place.X = (boardWidth - box.Place.Width) / 2;
+    box.Place.X = (pictureWidth - box.Place.Width) / 2;
     return box;
 }
 
@@ -54,51 +56,59 @@ void DrawEmptyBox(QPainter &painter, const Box &box)
     FillBox(painter, box.Place, 0, White);
 }
 
-// Draws the raised text in the middle of the board and leaves where it stands.
-Rectangle DrawRaisedBox(QPainter &painter, std::string_view text)
+// Draws the raised text in the middle of the picture and leaves where it stands.
+Rectangle DrawRaisedBox(QPainter &painter, QSize picture, double points, std::string_view text)
 {
-    const QSizeF board = VisibleBoardPicture().deviceIndependentSize();
-    Box box = MakeBox(GivenFontSize * BannerSize, text, qRound(board.width()));
-    box.Place.Y = (qRound(board.height()) - box.Place.Height) / 2;
+    Box box = MakeBox(points, text, picture.width());
+    box.Place.Y = (picture.height() - box.Place.Height) / 2;
     DrawEmptyBox(painter, box);
     WriteBoxText(painter, box, 0, Silver);
     WriteBoxText(painter, box, ShadowOffset, Black);
     return box.Place;
 }
 
-void DrawCount(QPainter &painter, std::int32_t count, const Rectangle &above)
+void ShowBanner(std::string_view text, std::span<const std::string> lines)
 {
-    const QSizeF board = VisibleBoardPicture().deviceIndependentSize();
-    Box box = MakeBox(NineFontSize, " # of games screened: " + std::to_string(count) + " ",
-                      qRound(board.width()));
-    box.Place.Y = above.Y + above.Height + CountDistance;
-    DrawEmptyBox(painter, box);
-    WriteBoxText(painter, box, 0, Black);
+    QImage &board = VisibleBoardPicture();
+    if (board.isNull()) {
+        return;
+    }
+    QPainter painter(&board);
+    PaintBanner(painter, board.deviceIndependentSize().toSize(), GivenFontSize * BannerSize, text,
+                NineFontSize, lines);
+    painter.end();
+    ShowBoardPicture();
 }
 
 } // namespace
 
+void PaintBanner(QPainter &painter, QSize picture, double points, std::string_view text,
+                 double linePoints, std::span<const std::string> lines)
+{
+    Rectangle above = DrawRaisedBox(painter, picture, points, text);
+    for (const std::string &line : lines) {
+        Box box = MakeBox(linePoints, line, picture.width());
+        box.Place.Y = above.Y + above.Height + LineDistance;
+        DrawEmptyBox(painter, box);
+        WriteBoxText(painter, box, 0, Black);
+        above = box.Place;
+    }
+}
+
+std::string GamesScreenedText(std::int32_t count)
+{
+    return " # of games screened: " + std::to_string(count) + " ";
+}
+
 void DrawBanner(std::string_view text)
 {
-    if (VisibleBoardPicture().isNull()) {
-        return;
-    }
-    QPainter painter(&VisibleBoardPicture());
-    DrawRaisedBox(painter, text);
-    painter.end();
-    ShowBoardPicture();
+    ShowBanner(text, {});
 }
 
 void DrawSearchBanner(std::int32_t count)
 {
-    if (VisibleBoardPicture().isNull()) {
-        return;
-    }
-    QPainter painter(&VisibleBoardPicture());
-    const Rectangle raised = DrawRaisedBox(painter, " Searching ");
-    DrawCount(painter, count, raised);
-    painter.end();
-    ShowBoardPicture();
+    const std::array lines{GamesScreenedText(count)};
+    ShowBanner(SearchingText, lines);
 }
 
 } // namespace kelvarine

@@ -51,33 +51,40 @@ QImage &VisibleBoardPicture()
     return picBoard;
 }
 
+void PaintCells(const Canvas &canvas)
+{
+    DrawPrimaryGrid(canvas);
+    CloseGrid(canvas);
+    DrawSecondaryGrid(canvas);
+    TextureBackground(canvas);
+    DrawExteriorBorder(canvas);
+    for (const Cell cell : Cells) {
+        DrawCell(canvas, cell);
+    }
+}
+
+void PaintNumbers(const Canvas &canvas)
+{
+    for (const Cell cell : Cells) {
+        DrawNumbers(canvas, cell);
+    }
+}
+
 void PaintBoard(QImage &picture)
 {
     const Canvas canvas = CanvasOf(picture);
     if (canvas.Pixels == nullptr) {
         return;
     }
-    // 1. Lines, and what grains and frames them.
-    DrawPrimaryGrid(canvas);
-    CloseGrid(canvas);
-    DrawSecondaryGrid(canvas);
-    TextureBackground(canvas);
-    DrawExteriorBorder(canvas);
+    // 1. Lines, what grains and frames them, and cells.
+    PaintCells(canvas);
 
-    // 2. Cells.
-    for (const Cell cell : Cells) {
-        DrawCell(canvas, cell);
-    }
-
-    // 3. Links and chains, under the numbers.
+    // 2. Links and chains, under the numbers.
     DrawLinks(picture);
 
-    // 4. Numbers, hidden while the game is paused.
-    if (IsPaused()) {
-        return;
-    }
-    for (const Cell cell : Cells) {
-        DrawNumbers(canvas, cell);
+    // 3. Numbers, hidden while the game is paused.
+    if (!IsPaused()) {
+        PaintNumbers(canvas);
     }
 }
 

@@ -2,6 +2,8 @@
 // the player never sees half a board.
 #pragma once
 
+#include "board/pixel_painter.h"
+
 #include <QImage>
 
 namespace kelvarine {
@@ -21,6 +23,11 @@ QImage &VisibleBoardPicture();
 // ratio it heeds. What no rule paints keeps what the picture held. Any other format stays as it
 // is.
 void PaintBoard(QImage &picture);
+
+// Two steps of the painting, for pictures and for paper: the grid with the fills and frames of the
+// cells of Grid, and the numbers in view.
+void PaintCells(const Canvas &canvas);
+void PaintNumbers(const Canvas &canvas);
 
 // Shows BoardPicture() to the player. Implemented by the window.
 void ShowBoardPicture();

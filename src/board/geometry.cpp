@@ -52,24 +52,48 @@ void SetGeometryDefaults()
 
 void LayoutBoard(int clientWidth, int clientHeight, int toolbarHeight)
 {
-    const int lines = 4 * PrimaryThickness + 6 * SecondaryThickness;
+    const int lines = LinesAcross();
     const int edges = 2 * (MarginThickness + BorderThickness);
     const int roomDown = (clientHeight - lines - edges - toolbarHeight) / 9;
     const int roomAcross = (clientWidth - lines - edges) / 9;
-    CellHeight = std::max(1, roomDown);
-    CellWidth = std::max(1, roomAcross);
+    // Cells that had no room at all, though they are one pixel, get the smallest of fonts.
+    UseSizes(SizesOfCells(std::max(1, roomAcross), std::max(1, roomDown),
+                          std::min(roomAcross, roomDown)));
 
     BoardPlace.Width = 9 * CellWidth + lines + 2 * BorderThickness;
     BoardPlace.Height = 9 * CellHeight + lines + 2 * BorderThickness;
     BoardPlace.X = (clientWidth - BoardPlace.Width) / 2;
     BoardPlace.Y = (clientHeight - BoardPlace.Height + toolbarHeight) / 2;
+}
 
-    // Cells that had no room at all, though they are one pixel, get the smallest of fonts.
-    const int side = std::min(roomAcross, roomDown);
-    GivenFontSize = FontSize(side, 1.5);
-    PairFontSize = FontSize(side, 3);
-    QuadFontSize = FontSize(side, 4);
-    NineFontSize = FontSize(side, 5);
+CellSizes SizesOfCells(int width, int height, int fontSide)
+{
+    return {width,
+            height,
+            FontSize(fontSide, 1.5),
+            FontSize(fontSide, 3),
+            FontSize(fontSide, 4),
+            FontSize(fontSide, 5)};
+}
+
+CellSizes SizesInUse()
+{
+    return {CellWidth, CellHeight, GivenFontSize, PairFontSize, QuadFontSize, NineFontSize};
+}
+
+void UseSizes(const CellSizes &sizes)
+{
+    CellWidth = sizes.Width;
+    CellHeight = sizes.Height;
+    GivenFontSize = sizes.GivenFont;
+    PairFontSize = sizes.PairFont;
+    QuadFontSize = sizes.QuadFont;
+    NineFontSize = sizes.NineFont;
+}
+
+int LinesAcross()
+{
+    return 4 * PrimaryThickness + 6 * SecondaryThickness;
 }
 
 int CellX(int column)

@@ -42,6 +42,29 @@ void SetGeometryDefaults();
 // of the toolbar, 0 when it is hidden. Any size will do; cells are at least one pixel.
 void LayoutBoard(int clientWidth, int clientHeight, int toolbarHeight);
 
+// The sizes that cells and numbers are drawn with, all of those above but the board's place.
+struct CellSizes {
+    int Width = 0;
+    int Height = 0;
+    double GivenFont = 0;
+    double PairFont = 0;
+    double QuadFont = 0;
+    double NineFont = 0;
+
+    friend constexpr bool operator==(const CellSizes &, const CellSizes &) = default;
+};
+
+// Sizes of cells of at least one pixel, with the fonts that suit a side; any side will do.
+CellSizes SizesOfCells(int width, int height, int fontSide);
+
+// The sizes in use, and putting others in their place. Who draws a grid of another size gives the
+// board's own back when it is drawn.
+CellSizes SizesInUse();
+void UseSizes(const CellSizes &sizes);
+
+// Pixels that all lines across the board take.
+int LinesAcross();
+
 // Origin of the cells of a column or a row, 1..9.
 int CellX(int column);
 int CellY(int row);

@@ -72,8 +72,12 @@ void DrawDigit(const Canvas &canvas, int digit, double points, Point centre, Col
         return;
     }
     const DigitPicture &picture = DigitAt(points, canvas.Ratio, digit);
-    BlendMask(canvas, picture.Shape, {centre.X - picture.Width / 2, centre.Y - picture.Height / 2},
-              colour);
+    const Point place{centre.X - picture.Width / 2, centre.Y - picture.Height / 2};
+    if (canvas.Paper != nullptr) {
+        WriteDigit(*canvas.Paper, points, place, digit, colour);
+    } else {
+        BlendMask(canvas, picture.Shape, place, colour);
+    }
 }
 
 void DrawGiven(const Canvas &canvas, CellWord word, Cell cell)

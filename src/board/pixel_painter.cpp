@@ -61,6 +61,13 @@ Canvas CanvasOf(QImage &picture)
     return canvas;
 }
 
+Canvas PaperCanvas(QPainter &paper, QImage &beneath)
+{
+    Canvas canvas = CanvasOf(beneath);
+    canvas.Paper = &paper;
+    return canvas;
+}
+
 int DeviceEdge(const Canvas &canvas, int position)
 {
     constexpr double farthest = 1e8; // keeps sums of edges within their type
@@ -80,13 +87,25 @@ void FillCorners(const Canvas &canvas, Point a, Point b, Colour colour)
     const int left = std::min(a.X, b.X);
     const int top = std::min(a.Y, b.Y);
     const Rectangle all{left, top, std::max(a.X, b.X) - left + 1, std::max(a.Y, b.Y) - top + 1};
-    FillDeviceArea(canvas, DevicePart(canvas, all), colour);
+    const DeviceArea area = DevicePart(canvas, all);
+    FillDeviceArea(canvas, area, colour);
+    if (canvas.Paper != nullptr) {
+        canvas.Paper->fillRect(
+            QRectF(area.Left, area.Top, area.Right - area.Left, area.Bottom - area.Top),
+            QColor::fromRgb(colour));
+    }
 }
 
 void DrawLine(const Canvas &canvas, Point from, Point to, Colour colour)
 {
     if (from.X == to.X || from.Y == to.Y) {
         FillCorners(canvas, from, to, colour);
+        return;
+    }
+    if (canvas.Paper != nullptr) {
+        const QPointF middle(0.5, 0.5); // of a pixel
+        canvas.Paper->setPen(QPen(QColor::fromRgb(colour), 1, Qt::SolidLine, Qt::FlatCap));
+        canvas.Paper->drawLine(QPointF(from.X, from.Y) + middle, QPointF(to.X, to.Y) + middle);
         return;
     }
     const int x = DeviceEdge(canvas, from.X);

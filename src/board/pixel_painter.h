@@ -1,12 +1,14 @@
 // The painter's strokes on the pixels of a picture: rectangles, lines and masks. Positions are
 // logical pixels; at a device pixel ratio of 1 each is one pixel of the picture. Both ends of a
-// stroke are painted, and whatever lies outside the picture is cut off.
+// stroke are painted, and whatever lies outside the picture is cut off. On paper the same strokes
+// are drawn at the printer's resolution.
 #pragma once
 
 #include "board/geometry.h"
 #include "game/win_display.h"
 
 #include <QImage>
+#include <QPainter>
 
 #include <cstddef>
 #include <cstdint>
@@ -24,6 +26,7 @@ struct Canvas {
     int Width = 0; // logical
     int Height = 0;
     double Ratio = 1;
+    QPainter *Paper = nullptr; // draws the strokes on paper besides, in logical pixels
 };
 
 // How far each pixel of a small picture is covered, 0..255, line by line.
@@ -43,6 +46,11 @@ struct DeviceArea {
 
 // Opens a picture of format RGB32; any other gives a canvas without pixels.
 Canvas CanvasOf(QImage &picture);
+
+// Paper to draw on: rectangles, lines and digits reach the painter as such, at its scale. The
+// picture, of format RGB32 and ratio 1, follows them pixel by pixel, since textures depend on what
+// lies beneath; masks go to it alone.
+Canvas PaperCanvas(QPainter &paper, QImage &beneath);
 
 // Device pixel at which a logical pixel begins, not clipped.
 int DeviceEdge(const Canvas &canvas, int position);

@@ -33,6 +33,7 @@ using Digits = std::array<DigitPicture, 10>;
 struct DigitSet {
     double Points = 0;
     double Ratio = 0;
+    Face Letters;
     Digits Pictures;
 };
 
@@ -40,9 +41,8 @@ struct DigitSet {
 std::array<DigitSet, 8> digitSets;
 std::size_t oldestSet;
 
-Digits PaintDigits(double points, double ratio)
+Digits PaintDigits(const Face &face, double ratio)
 {
-    const Face face = BoardFace(points);
     Digits digits;
     for (std::size_t digit = 0; digit < digits.size(); ++digit) {
         const std::string text = std::to_string(digit);
@@ -58,6 +58,21 @@ Digits PaintDigits(double points, double ratio)
         digits[digit] = {MaskOf(picture), width, face.Height};
     }
     return digits;
+}
+
+const DigitSet &DigitSetFor(double points, double ratio)
+{
+    const auto *known = std::find_if(digitSets.begin(), digitSets.end(), [&](const DigitSet &set) {
+        return set.Points == points && set.Ratio == ratio;
+    });
+    if (known != digitSets.end()) {
+        return *known;
+    }
+    DigitSet &set = digitSets[oldestSet];
+    oldestSet = (oldestSet + 1) % digitSets.size();
+    const Face face = BoardFace(points);
+    set = {points, ratio, face, PaintDigits(face, ratio)};
+    return set;
 }
 
 } // namespace
@@ -104,17 +119,12 @@ void WriteText(QPainter &painter, const Face &face, Point place, std::string_vie
 
 const DigitPicture &DigitAt(double points, double ratio, int digit)
 {
-    const auto index = static_cast<std::size_t>(digit);
-    const auto *known = std::find_if(digitSets.begin(), digitSets.end(), [&](const DigitSet &set) {
-        return set.Points == points && set.Ratio == ratio;
-    });
-    if (known != digitSets.end()) {
-        return known->Pictures[index];
-    }
-    DigitSet &set = digitSets[oldestSet];
-    oldestSet = (oldestSet + 1) % digitSets.size();
-    set = {points, ratio, PaintDigits(points, ratio)};
-    return set.Pictures[index];
+    return DigitSetFor(points, ratio).Pictures[static_cast<std::size_t>(digit)];
+}
+
+void WriteDigit(QPainter &painter, double points, Point place, int digit, Colour colour)
+{
+    WriteText(painter, DigitSetFor(points, 1).Letters, place, std::to_string(digit), colour);
 }
 
 } // namespace kelvarine

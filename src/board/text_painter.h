@@ -41,4 +41,7 @@ struct DigitPicture {
 // Picture of a digit 0..9 at a size, from a cache. Good until the next call.
 const DigitPicture &DigitAt(double points, double ratio, int digit);
 
+// Writes a digit 0..9 with the top left corner of its line box at a point.
+void WriteDigit(QPainter &painter, double points, Point place, int digit, Colour colour);
+
 } // namespace kelvarine

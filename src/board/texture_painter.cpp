@@ -64,12 +64,43 @@ void TextureLine(std::uint32_t *pixels, int left, int right, const std::uint32_t
     }
 }
 
+// Pictures drawn on paper latest. Most cells of a page look alike, and a picture that is drawn
+// again takes no room in a document.
+constexpr std::size_t KeptPictures = 8;
+std::array<QImage, KeptPictures> paperPictures; // picture cache
+std::size_t oldestPicture;
+
+const QImage &KeptPicture(const QImage &picture)
+{
+    const auto *known = std::find(paperPictures.begin(), paperPictures.end(), picture);
+    if (known != paperPictures.end()) {
+        return *known;
+    }
+    QImage &kept = paperPictures[oldestPicture];
+    oldestPicture = (oldestPicture + 1) % KeptPictures;
+    kept = picture.copy();
+    return kept;
+}
+
+// Shows a part of the pixels on paper, each a sharp square.
+void ShowOnPaper(const Canvas &canvas, const DeviceArea &area)
+{
+    const auto *begin =
+        reinterpret_cast<const uchar *>(canvas.Pixels + area.Top * canvas.Stride + area.Left);
+    const QImage part(begin, area.Right - area.Left, area.Bottom - area.Top,
+                      canvas.Stride * static_cast<qsizetype>(sizeof(std::uint32_t)),
+                      QImage::Format_RGB32);
+    canvas.Paper->drawImage(QRectF(area.Left, area.Top, part.width(), part.height()),
+                            KeptPicture(part));
+}
+
 } // namespace
 
 void TextureRectangle(const Canvas &canvas, const Rectangle &rectangle, std::int32_t texture)
 {
     const DeviceArea area = DevicePart(canvas, rectangle);
-    if (texture <= NoTexture || texture >= TileCount || area.Left == area.Right) {
+    if (texture <= NoTexture || texture >= TileCount || area.Left == area.Right ||
+        area.Top == area.Bottom) {
         return;
     }
     const QImage &tile = TileFor(texture, canvas.Ratio);
@@ -80,6 +111,9 @@ void TextureRectangle(const Canvas &canvas, const Rectangle &rectangle, std::int
         TextureLine(canvas.Pixels + y * canvas.Stride, area.Left, area.Right,
                     reinterpret_cast<const std::uint32_t *>(tile.constScanLine(tileLine)),
                     tile.width(), originX);
+    }
+    if (canvas.Paper != nullptr) {
+        ShowOnPaper(canvas, area);
     }
 }
 

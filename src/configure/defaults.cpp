@@ -19,6 +19,8 @@
 #include "input/toolbar.h"
 #include "logic/driver.h"
 #include "logic/event_sound.h"
+#include "print/page_layout.h"
+#include "print/print_run.h"
 #include "print/print_settings.h"
 
 namespace kelvarine {
@@ -45,6 +47,8 @@ void SetDefaults()
     SetPrintDefaults();
     SetConfigurationDefaults();
     SetFileDialogDefaults();
+    SetPageDefaults();
+    SetPrintRunDefaults();
 }
 
 } // namespace kelvarine

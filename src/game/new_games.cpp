@@ -1,14 +1,13 @@
 #include "game/new_games.h"
 
 #include "board/board.h"
-#include "game/history.h"
+#include "game/game_in_hand.h"
 #include "game/lifecycle.h"
 #include "generator/game_number.h"
 #include "generator/generator.h"
 #include "generator/patterns.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
-#include "logic/rating.h"
 #include "ui/presentation.h"
 
 #include <memory>
@@ -112,36 +111,6 @@ bool SettingsAreAccepted()
     return MaxGivens >= FewestGivensFound || AskYesNo(FewGivensQuestion());
 }
 
-// ---- The game in hand ----------------------------------------------------------------------
-
-// What a search may touch and a stopped one must give back. The logic that is applied to new
-// games records undo states, also for games that are thrown away.
-struct GameInHand {
-    GridTable Cells = Grid;
-    std::array<GridTable, HistorySlots> Levels = History;
-    std::int32_t Count = HistoryCount;
-    std::int32_t Position = HistoryPosition;
-    Flag Modified = GameModified;
-};
-
-void BringBack(const GameInHand &game)
-{
-    Grid = game.Cells;
-    History = game.Levels;
-    HistoryCount = game.Count;
-    HistoryPosition = game.Position;
-    GameModified = game.Modified;
-    CountGivens();
-    RateGame();
-}
-
-void FillIfWished()
-{
-    if (SolveOnStart != False || FillOnStart != False) {
-        FillPencilmarks();
-    }
-}
-
 // Makes games until one is left unsolved by the logic that is applied to it, and starts it.
 void SearchAndStart(const GameInHand &before)
 {
@@ -159,6 +128,13 @@ void SearchAndStart(const GameInHand &before)
 }
 
 } // namespace
+
+void FillIfWished()
+{
+    if (SolveOnStart != False || FillOnStart != False) {
+        FillPencilmarks();
+    }
+}
 
 void mnuGameRandom()
 {

@@ -10,4 +10,7 @@ void mnuGameRandom();
 // Asks for a number and makes the game of that number under the settings as they are.
 void UserSelectedGame();
 
+// Fills the pencilmarks of a game just made, when the settings ask for them or for logic.
+void FillIfWished();
+
 } // namespace kelvarine

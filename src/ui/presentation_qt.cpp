@@ -5,6 +5,7 @@
 #include "ui/board_widget.h"
 #include "ui/main_window.h"
 #include "ui/presentation.h"
+#include "ui/print_tab.h"
 #include "ui/toolbar_widget.h"
 
 #include <QApplication>
@@ -171,6 +172,7 @@ void ShowBoardPicture()
 {
     Window()->Client->Board->update();
     AnnounceBoard();
+    RefreshPrintPreview();
 }
 
 } // namespace kelvarine

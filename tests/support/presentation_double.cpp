@@ -81,6 +81,36 @@ T Next(std::deque<T> &script, T fallback)
 
 } // namespace
 
+// True when a call to the printer works. The first one begins the document and its first page.
+bool PrinterWorks()
+{
+    if (Seen.PrintedPages == 0) {
+        Seen.PrintedPages = 1;
+    }
+    if (Seen.PrintsBeforeFailure == 0) {
+        return false;
+    }
+    if (Seen.PrintsBeforeFailure > 0) {
+        --Seen.PrintsBeforeFailure;
+    }
+    return true;
+}
+
+bool PrintThing(PrintedThing thing)
+{
+    if (!PrinterWorks()) {
+        return false;
+    }
+    thing.Page = Seen.PrintedPages;
+    thing.Cells = Grid;
+    thing.SearchedFor = SearchKind;
+    Seen.Printed.push_back(thing);
+    if (Seen.OnPrint) {
+        Seen.OnPrint(thing);
+    }
+    return true;
+}
+
 } // namespace testing
 
 using testing::Next;
@@ -256,6 +286,57 @@ void RunFileDialog(std::size_t fileType)
 void ShowHelpTopic(int topic)
 {
     Record("help", std::to_string(topic));
+}
+
+// ---- Printer -------------------------------------------------------------------------------
+
+PrinterPage CurrentPrinterPage()
+{
+    return Seen.Paper;
+}
+
+bool ChoosePrinter()
+{
+    Record("choose printer", "");
+    return !Seen.PrinterRefused;
+}
+
+bool PrintPicture(PrintedPicture picture, const PagePlace &place)
+{
+    return testing::PrintThing(
+        {0, picture == PrintedPicture::Board ? "board" : "grid", true, place, {}, 0});
+}
+
+bool PrintText(double left, double top, std::string_view text)
+{
+    return testing::PrintThing({0, std::string(text), false, {left, top, 0, 0}, {}, 0});
+}
+
+double PrintedTextWidth(std::string_view text)
+{
+    return 20.0 * static_cast<double>(text.size());
+}
+
+bool NewPage()
+{
+    if (!testing::PrinterWorks()) {
+        return false;
+    }
+    ++Seen.PrintedPages;
+    return true;
+}
+
+std::string EndDocument()
+{
+    Record("end document", "");
+    const std::string words = Seen.PrintsBeforeFailure == 0 ? Seen.PrinterWords : "";
+    Seen.EndedDocuments.push_back(words);
+    return words;
+}
+
+std::string DecimalSign()
+{
+    return ".";
 }
 
 } // namespace kelvarine

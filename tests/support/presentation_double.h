@@ -2,6 +2,7 @@
 // from a script.
 #pragma once
 
+#include "grid/grid.h"
 #include "ui/presentation.h"
 
 #include <deque>
@@ -10,6 +11,16 @@
 #include <vector>
 
 namespace kelvarine::testing {
+
+// A picture or a text that was printed.
+struct PrintedThing {
+    int Page = 0;     // from 1
+    std::string Text; // "board" or "grid" for a picture
+    bool Picture = false;
+    PagePlace Place;              // a text has only a corner
+    GridTable Cells;              // what stood on Grid
+    std::int32_t SearchedFor = 0; // SearchKind
+};
 
 struct PresentationRecord {
     std::vector<std::string> Calls;    // every call in order, such as "message: text"
@@ -35,6 +46,16 @@ struct PresentationRecord {
     std::function<void()> OnYield;
     std::deque<std::string> FileNames; // typed into the file dialog, OK after each; then Cancel
     std::size_t FileTypeSelected = 0;
+
+    // ---- Printer ----
+    bool PrinterRefused = false;                // the player's answer to the print dialog
+    PrinterPage Paper{2250, 3000, 300, 300};    // 7.5 by 10 inches
+    std::vector<PrintedThing> Printed;          // in order
+    int PrintedPages = 0;                       // 0 as long as nothing is printed
+    int PrintsBeforeFailure = -1;               // calls that still work; -1 for all
+    std::string PrinterWords = "No paper left"; // the system's words for a failure
+    std::vector<std::string> EndedDocuments;    // words of each document that was ended
+    std::function<void(const PrintedThing &)> OnPrint;
 };
 
 extern PresentationRecord Seen;

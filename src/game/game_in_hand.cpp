@@ -1,0 +1,21 @@
+#include "game/game_in_hand.h"
+
+#include "logic/rating.h"
+
+namespace kelvarine {
+
+void BringBack(const GameInHand &game)
+{
+    Grid = game.Cells;
+    History = game.Levels;
+    HistoryCount = game.Count;
+    HistoryPosition = game.Position;
+    GameModified = game.Modified;
+    CountGivens();
+    RateGame();
+    // The rating runs techniques, too.
+    ChainColumns = game.Columns;
+    ChainRows = game.Rows;
+}
+
+} // namespace kelvarine

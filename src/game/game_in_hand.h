@@ -1,0 +1,29 @@
+// The game in hand put aside: what a search for other games may touch, and must give back when no
+// new game takes its place.
+#pragma once
+
+#include "game/history.h"
+#include "grid/grid.h"
+
+#include <array>
+#include <cstdint>
+
+namespace kelvarine {
+
+// A copy of the game, taken when it is made. The history is part of it, since the logic that is
+// applied to new games records undo states, also for games that are thrown away; so is the chain,
+// since the techniques use its lists as their own. Too large for the stack.
+struct GameInHand {
+    GridTable Cells = Grid;
+    std::array<GridTable, HistorySlots> Levels = History;
+    std::int32_t Count = HistoryCount;
+    std::int32_t Position = HistoryPosition;
+    Flag Modified = GameModified;
+    decltype(ChainColumns) Columns = ChainColumns;
+    decltype(ChainRows) Rows = ChainRows;
+};
+
+// Puts a copy in the place of what stands there now, and counts and rates it.
+void BringBack(const GameInHand &game);
+
+} // namespace kelvarine

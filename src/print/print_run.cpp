@@ -1,0 +1,226 @@
+#include "print/print_run.h"
+
+#include "board/board.h"
+#include "board/margin.h"
+#include "game/game_in_hand.h"
+#include "game/new_games.h"
+#include "generator/generator.h"
+#include "grid/grid.h"
+#include "input/keys.h"
+#include "logic/driver.h"
+#include "print/page_layout.h"
+#include "print/print_settings.h"
+#include "ui/presentation.h"
+
+#include <array>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace kelvarine {
+
+Flag PrintRunning;
+std::int32_t PrintGameNumber;
+std::int32_t PrintGameCount;
+
+namespace {
+
+// A solved grid: the digit of each cell, in the order of Cells.
+using SolvedGrid = std::array<std::uint8_t, 81>;
+
+constexpr std::array<std::string_view, 8> RatingWords{
+    "None", "Easy", "Medium", "Hard", "Very hard", "Extreme", "Multiple solutions", "Impossible"};
+
+std::string_view RatingWord()
+{
+    const auto rating = static_cast<std::size_t>(GameRating);
+    return rating < RatingWords.size() ? RatingWords[rating] : std::string_view();
+}
+
+// Prints two texts under a picture, at its left and its right edge; the right one only when both
+// fit side by side. False when printing failed.
+bool PrintLabels(const PagePlace &place, std::string_view left, std::string_view right)
+{
+    const double top = place.Top + place.Height;
+    const double width = PrintedTextWidth(right);
+    if (!PrintText(place.Left, top, left)) {
+        return false;
+    }
+    return PrintedTextWidth(left) + width > place.Width ||
+           PrintText(place.Left + place.Width - width, top, right);
+}
+
+std::string GameLabel(int number)
+{
+    return "Game #" + std::to_string(number);
+}
+
+void EndAndReport()
+{
+    if (const std::string words = EndDocument(); !words.empty()) {
+        ShowMessage(words);
+    }
+}
+
+void PrintCurrentGame()
+{
+    if (!HasSize() || !ChoosePrinter()) {
+        return;
+    }
+    TakePrintableArea();
+    const PrinterPage page = CurrentPrinterPage();
+    const PagePlace place = CurrentGamePlace(page.PixelsPerInchAcross, page.PixelsPerInchDown);
+    if (PrintPicture(PrintedPicture::Board, place)) {
+        PrintLabels(place, RatingWord(), GivenCountText());
+    }
+    EndAndReport();
+}
+
+// ---- Batches -------------------------------------------------------------------------------
+
+// Leaves a game on Grid that the logic applied to new games doesn't solve outright. False when the
+// player stopped the search.
+bool MakeGame()
+{
+    while (true) {
+        GamesScreened = 0;
+        if (!GenerateGame()) {
+            return false;
+        }
+        SearchKind = SearchingGame; // as long as the batch runs, which is longer than one game
+        FillIfWished();
+        if (SolveOnStart == False) {
+            return true;
+        }
+        const std::int32_t result = ApplyLogic(SolveAsPlayer);
+        if (result != Solved) {
+            return result != Stopped;
+        }
+    }
+}
+
+SolvedGrid SolutionOfGrid()
+{
+    SolvedGrid solution{};
+    for (std::size_t k = 0; k < solution.size(); ++k) {
+        const CellWord digits = (WordAt(Cells[k]) & SolutionMask) >> SolutionShift;
+        solution[k] = static_cast<std::uint8_t>(LowestCandidate(digits));
+    }
+    return solution;
+}
+
+void ShowSolution(const SolvedGrid &solution)
+{
+    for (std::size_t k = 0; k < solution.size(); ++k) {
+        WordAt(Cells[k]) = BitTable[solution[k]] | GivenBit;
+    }
+}
+
+// Prints the game on Grid, on a page of its own when the one before is full.
+bool PrintGame(const PageLayout &layout, int number)
+{
+    const int index = (number - 1) % (layout.Columns * layout.Rows);
+    if (index == 0 && number > 1 && !NewPage()) {
+        return false;
+    }
+    const PagePlace place = PlaceOf(layout, index);
+    return PrintPicture(PrintedPicture::Game, place) &&
+           PrintLabels(place, RatingWord(), GameLabel(number));
+}
+
+// Makes and prints all games of the batch and collects their solutions. False when the player
+// stopped it or printing failed.
+bool PrintGames(const PrinterPage &page, std::vector<SolvedGrid> &solutions)
+{
+    const auto index = static_cast<std::size_t>(PrintGamesPerPage);
+    const PageLayout layout = LayoutOfGames(index, page.Width, page.Height);
+    PrintGameCount = GamesInBatch();
+    for (PrintGameNumber = 1; PrintGameNumber <= PrintGameCount; ++PrintGameNumber) {
+        if (!MakeGame() || !PrintGame(layout, PrintGameNumber)) {
+            return false;
+        }
+        solutions.push_back(SolutionOfGrid());
+    }
+    return true;
+}
+
+void PrintSolutions(const PrinterPage &page, const std::vector<SolvedGrid> &solutions)
+{
+    const PageLayout layout = LayoutOfSolutions(page.Width, page.Height);
+    for (std::size_t k = 0; k < solutions.size(); ++k) {
+        const int index = static_cast<int>(k) % SolutionsPerPage;
+        if (index == 0 && !NewPage()) {
+            return;
+        }
+        ShowSolution(solutions[k]);
+        const PagePlace place = PlaceOf(layout, index);
+        if (!PrintPicture(PrintedPicture::Game, place) ||
+            !PrintLabels(place, "", GameLabel(static_cast<int>(k) + 1))) {
+            return;
+        }
+    }
+}
+
+void PrintBatch()
+{
+    if (PrintPages <= 0) {
+        ShowMessage("Please enter the number of pages you'd like to print.");
+        return;
+    }
+    if (!ChoosePrinter()) {
+        return;
+    }
+    TakePrintableArea();
+    const PrinterPage page = CurrentPrinterPage();
+    const auto before = std::make_unique<GameInHand>();
+    const Flag withSolutions = PrintIncludeSolutions;
+    std::vector<SolvedGrid> solutions;
+    PrintRunning = True;
+    SearchKind = SearchingGame;
+    if (PrintGames(page, solutions) && withSolutions != False) {
+        PrintSolutions(page, solutions);
+    }
+    const std::string words = EndDocument();
+    // From here on there is nothing to be stopped, not even the rating of the game in hand.
+    SearchKind = NotStoppable;
+    PrintRunning = False;
+    BringBack(*before);
+    DrawBoard();
+    RefreshWindow();
+    if (!words.empty()) {
+        ShowMessage(words);
+    }
+}
+
+} // namespace
+
+void SetPrintRunDefaults()
+{
+    PrintRunning = False;
+    PrintGameNumber = 0;
+    PrintGameCount = 0;
+}
+
+void cmdPrint()
+{
+    if (PrintRunning != False) {
+        QueryStopSearch();
+        return;
+    }
+    if (!ReadyForCommand()) {
+        return;
+    }
+    if (PrintMode == PrintNewGames) {
+        PrintBatch();
+    } else {
+        PrintCurrentGame();
+    }
+}
+
+std::string BatchProgressText()
+{
+    return " Game " + std::to_string(PrintGameNumber) + " of " + std::to_string(PrintGameCount) +
+           " ";
+}
+
+} // namespace kelvarine

@@ -1,0 +1,92 @@
+#include "ui/print_preview.h"
+
+#include "board/banner_painter.h"
+#include "generator/generator.h"
+#include "print/page_layout.h"
+#include "print/print_painter.h"
+#include "print/print_run.h"
+#include "print/print_settings.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <array>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr QSize LargestPreview{210, 270};
+constexpr double BannerPoints = 18;
+constexpr double LinePoints = 8;
+
+// Draws a picture at a place, made smaller with care.
+void DrawSmall(QPainter &painter, const QImage &picture, const PagePlace &place)
+{
+    const QRectF target(place.Left, place.Top, place.Width, place.Height);
+    const QSize size = (target.size() * painter.device()->devicePixelRatio()).toSize();
+    if (size.width() < picture.width() && size.height() < picture.height()) {
+        painter.drawImage(target,
+                          picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    } else {
+        painter.drawImage(target, picture);
+    }
+}
+
+void DrawCurrentGame(QPainter &painter, QSize page)
+{
+    if (HasSize()) {
+        DrawSmall(painter, PictureOfBoard(),
+                  CurrentGamePlace(page.width() / PrintableWidth, page.height() / PrintableHeight));
+    }
+}
+
+void DrawBatch(QPainter &painter, QSize page)
+{
+    const QImage picture = PictureOfGrid(false);
+    const auto index = static_cast<std::size_t>(PrintGamesPerPage);
+    const PageLayout layout = LayoutOfGames(index, page.width(), page.height());
+    for (int game = 0; game < GamesOnPage(); ++game) {
+        DrawSmall(painter, picture, PlaceOf(layout, game));
+    }
+}
+
+void DrawProgress(QPainter &painter, QSize page)
+{
+    const std::array lines{GamesScreenedText(GamesScreened), BatchProgressText()};
+    PaintBanner(painter, page, BannerPoints, SearchingText, LinePoints, lines);
+}
+
+} // namespace
+
+PrintPreview::PrintPreview(QWidget *parent) : QWidget(parent)
+{
+    setObjectName("picPrintPreview");
+    setAccessibleName(tr("Preview of the page"));
+    FitPage();
+}
+
+void PrintPreview::FitPage()
+{
+    const QSizeF page(PrintableWidth, PrintableHeight);
+    const QSize size = page.scaled(LargestPreview, Qt::KeepAspectRatio).toSize();
+    setFixedSize(size.expandedTo(QSize(1, 1)));
+}
+
+void PrintPreview::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    // While a batch runs, Grid belongs to the generator.
+    if (PrintRunning != False) {
+        DrawProgress(painter, size());
+    } else if (PrintMode == PrintNewGames) {
+        DrawBatch(painter, size());
+    } else {
+        DrawCurrentGame(painter, size());
+    }
+    painter.setPen(Qt::darkGray);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+} // namespace kelvarine
