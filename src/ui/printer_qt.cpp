@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QFile>
-#include <QLocale>
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
@@ -51,11 +50,10 @@ void TakeWidestArea(QPrinter &printer)
 
 void PreparePdf(QPrinter &printer)
 {
-    const bool inches = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
     printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setPageLayout(
-        QPageLayout(QPageSize(inches ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait,
-                    QMarginsF(PdfMargin, PdfMargin, PdfMargin, PdfMargin), QPageLayout::Inch));
+    printer.setPageLayout(QPageLayout(UsualPaper(QLocale()), QPageLayout::Portrait,
+                                      QMarginsF(PdfMargin, PdfMargin, PdfMargin, PdfMargin),
+                                      QPageLayout::Inch));
 }
 
 QPagedPaintDevice &Device()
@@ -135,6 +133,12 @@ QPrinter &ChosenPrinter()
         qAddPostRoutine([] { chosenPrinter.reset(); });
     }
     return *chosenPrinter;
+}
+
+QPageSize UsualPaper(const QLocale &locale)
+{
+    const bool inches = locale.measurementSystem() == QLocale::ImperialUSSystem;
+    return QPageSize(inches ? QPageSize::Letter : QPageSize::A4);
 }
 
 PrinterPage CurrentPrinterPage()

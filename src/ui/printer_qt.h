@@ -1,11 +1,16 @@
 // The player's printer, over the toolkit.
 #pragma once
 
+#include <QLocale>
+#include <QPageSize>
 #include <QPrinter>
 
 namespace kelvarine {
 
 // The printer chosen latest, or the system's usual one. Without any printer it writes PDF files.
 QPrinter &ChosenPrinter();
+
+// Paper size that is usual where a locale is.
+QPageSize UsualPaper(const QLocale &locale);
 
 } // namespace kelvarine
