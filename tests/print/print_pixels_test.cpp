@@ -186,11 +186,10 @@ TEST_F(PrintedGrid, PaperHasTheTexturesOfThePicture)
     GivenTexture = 5;
     UnknownTexture = 7;
     GivenCells3D = True;
-    EXPECT_TRUE(AreEqual(OnPaper(502, false), PictureOfGrid(false)));
-    EXPECT_FALSE(AreEqual(OnPaper(502, false), [] {
-        GridTexture = 0;
-        return PictureOfGrid(false);
-    }()));
+    const QImage textured = PictureOfGrid(false);
+    EXPECT_TRUE(AreEqual(OnPaper(502, false), textured));
+    UnknownTexture = 0;
+    EXPECT_FALSE(AreEqual(OnPaper(502, false), textured));
 }
 
 TEST_F(PrintedGrid, TexturesKeepTheirPixelsWhenTheyAreLargeOnPaper)
@@ -248,9 +247,10 @@ TEST_F(PrintedGrid, DiagonalRunsFromCornerToCornerOnPaper)
     const Rectangle area = PrintedCell(3, 1);
     for (const int step : {6, 20, 25, 30, 44}) {
         const int x = 4 * (area.X + step) + 2;
-        const int y = 4 * (area.Y + 50 - step) + 2;
+        const int y = 4 * area.Y + 4 * (50 * 50 - 51 * step) / 50 + 2; // ends one pixel above
         EXPECT_EQ(PixelAt(paper, x, y), ColourTable[PencilmarkLineColour]) << step;
         EXPECT_EQ(PixelAt(paper, x, y - 8), ColourTable[UnknownCellColour]) << step;
+        EXPECT_EQ(PixelAt(paper, x, y + 8), ColourTable[UnknownCellColour]) << step;
     }
 }
 

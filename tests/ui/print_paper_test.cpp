@@ -1,5 +1,6 @@
 #include "board/look.h"
 #include "files/whole_file.h"
+#include "game/history.h"
 #include "game/lifecycle.h"
 #include "generator/generator.h"
 #include "generator/random_source.h"
