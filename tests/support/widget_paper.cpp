@@ -50,7 +50,7 @@ QRect CellPart(const QRectF &place, const QRect &part, Cell cell)
 // large and then made small, so that the letters are those of paper and not of a screen.
 QImage PatternOf(std::size_t digit, const QRectF &place, const QRect &part)
 {
-    constexpr int enlarged = 4;
+    constexpr int enlarged = 2;
     for (const Cell cell : Cells) {
         CellWord &word = WordAt(cell);
         word = (word & GivenBit) | (digit == 0 ? 0 : BitTable[digit]);

@@ -105,8 +105,8 @@ void ExpectGame(const QImage &page, const QRectF &place, const GridTable &game)
 
 void ExpectCorners(const QImage &page, const QRectF &place)
 {
-    // A millimetre more all round, but nothing of the labels underneath.
-    const double around = 2 * HalfMillimetre;
+    // Some more all round, but nothing of the labels above and underneath.
+    const double around = HalfMillimetre + 1;
     const QRect ink = InkIn(page, place.adjusted(-around, -around, around, 0.5));
     EXPECT_NEAR(ink.left(), place.left(), HalfMillimetre);
     EXPECT_NEAR(ink.top(), place.top(), HalfMillimetre);
@@ -114,10 +114,10 @@ void ExpectCorners(const QImage &page, const QRectF &place)
     EXPECT_NEAR(ink.bottom() + 1, place.bottom(), HalfMillimetre);
 }
 
-// The strip under a picture, as high as a label.
+// The strip under a picture, as high as the letters of a label.
 QRectF StripUnder(const QRectF &place, double from, double to)
 {
-    constexpr double labelHeight = 11.5 / 72 * PixelsPerInch;
+    constexpr double labelHeight = 10.0 / 72 * PixelsPerInch;
     return {place.left() + place.width() * from, place.bottom() + 1, place.width() * (to - from),
             labelHeight - 1};
 }
