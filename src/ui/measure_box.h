@@ -12,7 +12,7 @@ public:
     explicit MeasureBox(QWidget *parent);
 
     // The measure that stands in the box, 0 for none.
-    double Measure() const;
+    [[nodiscard]] double Measure() const;
 
     // Shows a measure, unless the player is typing one.
     void ShowMeasure(double inches);

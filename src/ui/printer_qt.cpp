@@ -138,7 +138,7 @@ QPrinter &ChosenPrinter()
 QPageSize UsualPaper(const QLocale &locale)
 {
     const bool inches = locale.measurementSystem() == QLocale::ImperialUSSystem;
-    return QPageSize(inches ? QPageSize::Letter : QPageSize::A4);
+    return QPageSize{inches ? QPageSize::Letter : QPageSize::A4};
 }
 
 PrinterPage CurrentPrinterPage()
@@ -206,7 +206,7 @@ std::string EndDocument()
     if (document->Pen.isActive() && !document->Pen.end()) {
         Fail();
     }
-    const std::string failure = WriteDocument();
+    std::string failure = WriteDocument();
     document.reset();
     return failure;
 }
