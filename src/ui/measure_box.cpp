@@ -4,7 +4,6 @@
 #include "ui/presentation.h"
 
 #include <QKeyEvent>
-#include <QTimer>
 
 namespace kelvarine {
 
@@ -45,7 +44,7 @@ void MeasureBox::focusInEvent(QFocusEvent *event)
 {
     QLineEdit::focusInEvent(event);
     // A click sets the cursor after the focus and would take the selection away again.
-    QTimer::singleShot(0, this, &QLineEdit::selectAll);
+    QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection);
 }
 
 void MeasureBox::focusOutEvent(QFocusEvent *event)
