@@ -44,7 +44,7 @@ void MeasureBox::focusInEvent(QFocusEvent *event)
 {
     QLineEdit::focusInEvent(event);
     // A click sets the cursor after the focus and would take the selection away again.
-    QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, "selectAll", Qt::QueuedConnection);
 }
 
 void MeasureBox::focusOutEvent(QFocusEvent *event)
