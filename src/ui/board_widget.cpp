@@ -14,6 +14,16 @@
 
 namespace kelvarine {
 
+namespace {
+
+// The keys that the toolbar shows the sign of.
+bool IsSignKey(std::int32_t code)
+{
+    return code == ShiftCode || code == CtrlCode;
+}
+
+} // namespace
+
 BoardWidget::BoardWidget(QWidget *parent) : QWidget(parent)
 {
     DescribeBoardToTools(); // before anything asks for the description, because that is kept
@@ -48,26 +58,27 @@ void BoardWidget::mouseDoubleClickEvent(QMouseEvent *event)
 
 void BoardWidget::mouseMoveEvent(QMouseEvent *event)
 {
-    const std::int32_t button = event->buttons().testFlag(Qt::LeftButton) ? LeftButton : NoButton;
+    // Only the left button alone drags.
+    const std::int32_t button = event->buttons() == Qt::LeftButton ? LeftButton : NoButton;
     const QPoint place = event->position().toPoint();
     BoardMoved(button, ModifiersOf(event->modifiers()), place.x(), place.y());
 }
 
 void BoardWidget::keyPressEvent(QKeyEvent *event)
 {
+    // A key without a code has no command, but like all others it ends the win display and brings
+    // the question during a search.
     const std::int32_t code = KeyCodeOf(*event);
-    if (code == 0) {
-        event->ignore();
-        return;
-    }
-    modifierHeld = modifierHeld || code == ShiftCode || code == CtrlCode;
+    modifierHeld = modifierHeld || IsSignKey(code);
     KeyDown(code, ModifiersOf(event->modifiers()));
 }
 
 void BoardWidget::keyReleaseEvent(QKeyEvent *event)
 {
-    modifierHeld = false;
-    KeyUp(KeyCodeOf(*event));
+    const std::int32_t code = KeyCodeOf(*event);
+    // Another key that comes up leaves the modifier down.
+    modifierHeld = modifierHeld && !IsSignKey(code);
+    KeyUp(code);
 }
 
 void BoardWidget::focusOutEvent(QFocusEvent *event)

@@ -2,6 +2,7 @@
 
 #include "input/toolbar.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -79,6 +80,8 @@ void ToolButtonWidget::mousePressEvent(QMouseEvent * /*event*/)
 {
     setDown(true);
     ToolPressed(number);
+    // A question that came up meanwhile has taken the release.
+    setDown(QGuiApplication::mouseButtons() != Qt::NoButton);
 }
 
 void ToolButtonWidget::mouseDoubleClickEvent(QMouseEvent *event)
