@@ -7,6 +7,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <cmath>
+
 namespace kelvarine {
 
 namespace {
@@ -15,11 +17,19 @@ constexpr int EdgeShade = 170; // percent, as the toolkit darkens colours
 constexpr int PressedShade = 125;
 constexpr qreal Rounding = 3; // pixels
 
+// How light a colour looks, 0 black to 1 white.
+double Lightness(const QColor &colour)
+{
+    constexpr double gamma = 2.2;
+    return 0.2126 * std::pow(colour.redF(), gamma) + 0.7152 * std::pow(colour.greenF(), gamma) +
+           0.0722 * std::pow(colour.blueF(), gamma);
+}
+
 // Black or white, whichever reads better on a colour.
 QColor InkOn(const QColor &background)
 {
-    constexpr int middle = 80; // black reads better on all but quite dark colours
-    return qGray(background.rgb()) < middle ? Qt::white : Qt::black;
+    constexpr double even = 0.18; // as far from black as from white, to the eye
+    return Lightness(background) < even ? Qt::white : Qt::black;
 }
 
 // A button without a caption has its colour for one; for those who don't see it, its number.
