@@ -1,0 +1,75 @@
+#include "support/widget_events.h"
+
+#include "board/geometry.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTimer>
+
+namespace kelvarine::testing {
+
+void SendMouse(QWidget *widget, QEvent::Type type, QPoint place, Qt::MouseButton button,
+               Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
+{
+    QMouseEvent event(type, place, widget->mapToGlobal(QPointF(place)), button, buttons, modifiers);
+    QApplication::sendEvent(widget, &event);
+}
+
+void Click(QWidget *widget, QPoint place, Qt::MouseButton button, Qt::KeyboardModifiers modifiers)
+{
+    SendMouse(widget, QEvent::MouseButtonPress, place, button, button, modifiers);
+    SendMouse(widget, QEvent::MouseButtonRelease, place, button, Qt::NoButton, modifiers);
+}
+
+void SendKey(QWidget *widget, QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QKeyEvent event(type, key, modifiers);
+    QApplication::sendEvent(widget, &event);
+}
+
+QPoint CentreOf(int column, int row)
+{
+    return {CellX(column) + CellWidth / 2, CellY(row) + CellHeight / 2};
+}
+
+QPoint PlaceOf(int column, int row, int number)
+{
+    return {CellX(column) + CellWidth * (2 * ((number - 1) % 3) + 1) / 6,
+            CellY(row) + CellHeight * (2 * ((number - 1) / 3) + 1) / 6};
+}
+
+QPushButton *ToolButtonOf(const MainWindow &window, int index)
+{
+    return window.findChild<QPushButton *>(QStringLiteral("cmdTool%1").arg(index));
+}
+
+std::vector<std::string> CloseModals(const std::function<void()> &action)
+{
+    std::vector<std::string> seen;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+        QWidget *window = QApplication::activeModalWidget();
+        if (window == nullptr || !window->isVisible()) {
+            return;
+        }
+        std::string words = window->windowTitle().toStdString();
+        if (const auto *box = qobject_cast<QMessageBox *>(window)) {
+            words += ": " + box->text().toStdString();
+        }
+        seen.push_back(words);
+        if (auto *dialog = qobject_cast<QDialog *>(window)) {
+            dialog->reject();
+        } else {
+            window->close();
+        }
+    });
+    watch.start(1);
+    action();
+    return seen;
+}
+
+} // namespace kelvarine::testing
