@@ -10,6 +10,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace kelvarine {
@@ -20,6 +22,15 @@ namespace {
 bool IsSignKey(std::int32_t code)
 {
     return code == ShiftCode || code == CtrlCode;
+}
+
+// Modifiers that serve the menus and the window manager mean nothing by themselves: the question
+// of a search must not get in the way of closing the window by Alt and F4.
+bool IsDesktopKey(int key)
+{
+    constexpr std::array keys{Qt::Key_Alt,     Qt::Key_AltGr,   Qt::Key_Meta,
+                              Qt::Key_Super_L, Qt::Key_Super_R, Qt::Key_Menu};
+    return std::ranges::find(keys, key) != keys.end();
 }
 
 } // namespace
@@ -66,6 +77,10 @@ void BoardWidget::mouseMoveEvent(QMouseEvent *event)
 
 void BoardWidget::keyPressEvent(QKeyEvent *event)
 {
+    if (IsDesktopKey(event->key())) {
+        event->ignore();
+        return;
+    }
     // A key without a code has no command, but like all others it ends the win display and brings
     // the question during a search.
     const std::int32_t code = KeyCodeOf(*event);

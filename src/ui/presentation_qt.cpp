@@ -3,6 +3,7 @@
 #include "board/board_painter.h"
 #include "ui/board_accessible.h"
 #include "ui/board_widget.h"
+#include "ui/box_place.h"
 #include "ui/main_window.h"
 #include "ui/presentation.h"
 #include "ui/print_tab.h"
@@ -12,6 +13,7 @@
 #include <QClipboard>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTime>
 #include <QTimer>
 
@@ -30,6 +32,28 @@ QString Text(std::string_view text)
     return converted.replace(u'\r', u'\n');
 }
 
+// Size of a box with its frame, as it will be on view.
+QSize SizeOnView(QMessageBox &box)
+{
+    // A box works out its size when it is shown, and it has to stand in its place before that.
+    box.setAttribute(Qt::WA_DontShowOnScreen);
+    box.show();
+    const QSize inner = box.size();
+    box.hide();
+    box.setAttribute(Qt::WA_DontShowOnScreen, false);
+    return inner + (Window()->frameSize() - Window()->size());
+}
+
+void MoveBesideBoard(QMessageBox &box)
+{
+    const QWidget &board = *Window()->Client->Board;
+    const QRect place(board.mapToGlobal(QPoint(0, 0)), board.size());
+    const QRect screen = Window()->screen()->availableGeometry();
+    if (const std::optional<QPoint> corner = PlaceBeside(place, SizeOnView(box), screen)) {
+        box.move(*corner);
+    }
+}
+
 QMessageBox::StandardButton RunBox(QMessageBox::Icon icon, std::string_view text,
                                    std::string_view title, QMessageBox::StandardButtons buttons,
                                    QMessageBox::StandardButton defaultButton)
@@ -39,6 +63,7 @@ QMessageBox::StandardButton RunBox(QMessageBox::Icon icon, std::string_view text
                     above != nullptr ? above : Window());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(defaultButton);
+    MoveBesideBoard(box);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

@@ -155,8 +155,8 @@ TEST_F(BoardOnView, KeypadDigitsAreDigits)
 
 TEST_F(BoardOnView, EveryKeyEndsTheWinDisplay)
 {
-    for (const Qt::Key key : {Qt::Key_F5, Qt::Key_Alt, Qt::Key_Q, Qt::Key_Return, Qt::Key_Home,
-                              Qt::Key_Udiaeresis, Qt::Key_Space}) {
+    for (const Qt::Key key :
+         {Qt::Key_F5, Qt::Key_Q, Qt::Key_Return, Qt::Key_Home, Qt::Key_Udiaeresis, Qt::Key_Space}) {
         StartWinDisplay();
         QTest::keyClick(Board(), key);
         EXPECT_EQ(WinDisplayRunning, False) << std::hex << key;
@@ -171,6 +171,15 @@ TEST_F(BoardOnView, EveryKeyAsksOnceDuringAGameSearch)
         const Texts boxes = CloseModals([&] { QTest::keyPress(Board(), key); });
         SearchActive = False;
         EXPECT_EQ(boxes, Texts{"Kelvarine: Would you like to stop searching?"}) << std::hex << key;
+    }
+}
+
+TEST_F(BoardOnView, KeysOfTheDesktopAloneMeanNothing)
+{
+    for (const Qt::Key key : {Qt::Key_Alt, Qt::Key_AltGr, Qt::Key_Meta, Qt::Key_Super_L}) {
+        StartWinDisplay();
+        SendKey(Board(), QEvent::KeyPress, key);
+        EXPECT_EQ(WinDisplayRunning, True) << std::hex << key;
     }
 }
 
