@@ -44,13 +44,18 @@ QSize SizeOnView(QMessageBox &box)
     return inner + (Window()->frameSize() - Window()->size());
 }
 
+// Beside the whole window, so that the coordinates stay in view as well, or else beside the board.
 void MoveBesideBoard(QMessageBox &box)
 {
     const QWidget &board = *Window()->Client->Board;
-    const QRect place(board.mapToGlobal(QPoint(0, 0)), board.size());
+    const QRect cells(board.mapToGlobal(QPoint(0, 0)), board.size());
     const QRect screen = Window()->screen()->availableGeometry();
-    if (const std::optional<QPoint> corner = PlaceBeside(place, SizeOnView(box), screen)) {
-        box.move(*corner);
+    const QSize size = SizeOnView(box);
+    for (const QRect &area : {Window()->frameGeometry(), cells}) {
+        if (const std::optional<QPoint> corner = PlaceBeside(area, size, screen)) {
+            box.move(*corner);
+            return;
+        }
     }
 }
 

@@ -96,6 +96,11 @@ class Desktop:
         found = self.run("xdotool", "search", "--onlyvisible", "--name", name, check=False)
         return found.decode().split()
 
+    def screen(self):
+        """A picture of everything on view."""
+        png = self.run("import", "-window", "root", "png:-")
+        return Image.open(io.BytesIO(png)).convert("RGB")
+
     def dialog(self, title="^Kelvarine$", other_than=()):
         """Waits for a window of this title that is none of the others, and gives it the focus."""
         def fresh():
