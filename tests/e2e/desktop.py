@@ -174,10 +174,10 @@ class Board:
     def __init__(self, picture):
         self.picture = picture
         width, height = picture.size
-        # The client area ends with the window and begins under the menu bar: going up through the
-        # black of the left margin, its light edge is the first thing that is not black.
+        # The room of the board ends with the window and begins under the toolbar: going up through
+        # the black of the left margin, the toolbar is the first thing that is not black.
         top = height // 2
-        while top > 0 and picture.getpixel((4, top)) == (0, 0, 0):
+        while top > 0 and picture.getpixel((4, top - 1)) == (0, 0, 0):
             top -= 1
         self.top = top
         client_height = height - top
