@@ -35,11 +35,27 @@ constexpr Colour Black = Rgb(0, 0, 0);
 
 } // namespace
 
-void SetLookDefaults()
+void SetDefaultLook()
 {
     ColourTable = {
         Rgb(32, 96, 80), Rgb(66, 120, 107), Rgb(54, 162, 253), White,          White, Black, Black,
         White,           Rgb(204, 204, 0),  Rgb(136, 136, 0),  Rgb(255, 0, 0), Black};
+    GivenTexture = 0;
+    UnknownTexture = 0;
+    GridTexture = 0;
+    PrimaryThickness = 8;
+    SecondaryThickness = 0;
+    BorderThickness = 10;
+    PrimaryGrid3D = False;
+    SecondaryGrid3D = False;
+    GivenCells3D = True;
+    UnknownCells3D = True;
+    SelectedCells3D = True;
+}
+
+void SetLookDefaults()
+{
+    SetDefaultLook();
     HighlightColours = {Black,
                         Rgb(255, 128, 128),
                         Rgb(128, 255, 128),
@@ -51,18 +67,7 @@ void SetLookDefaults()
                         Rgb(0, 0, 255),
                         Rgb(192, 192, 0),
                         White};
-    GivenTexture = 0;
-    UnknownTexture = 0;
-    GridTexture = 0;
-    PrimaryThickness = 8;
-    SecondaryThickness = 0;
-    BorderThickness = 10;
     MarginThickness = 30;
-    PrimaryGrid3D = False;
-    SecondaryGrid3D = False;
-    GivenCells3D = True;
-    UnknownCells3D = True;
-    SelectedCells3D = True;
     PencilmarkLayout = 1;
     PencilmarkLines = False;
     StrongLinkMode = 1;

@@ -50,6 +50,10 @@ extern Flag ToolbarVisible; // default true
 extern Flag ToolTipsVisible;
 extern Flag CoordinatesVisible;
 
+// Puts the part of the look that a preset holds to its default: the twelve colours, the textures,
+// the thicknesses of lines and border, and the effects.
+void SetDefaultLook();
+
 // Puts every setting above to its default.
 void SetLookDefaults();
 

@@ -169,4 +169,14 @@ std::string EndDocument();
 // The sign between whole numbers and decimals where the player lives.
 std::string DecimalSign();
 
+// ---- Configuration screen ------------------------------------------------------------------
+
+// Opens the configuration screen on CurrentTab, or switches it there and brings it up.
+void ShowConfigureScreen();
+
+// Moves the bar of the margin's thickness, 0..100, on the open configuration screen, as the player
+// would; its change sets MarginThickness and lays the window out anew. Nothing while the screen is
+// closed.
+void MoveMarginBar(std::int32_t thickness);
+
 } // namespace kelvarine

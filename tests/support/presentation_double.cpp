@@ -2,6 +2,7 @@
 
 #include "configure/defaults.h"
 #include "files/file_dialog.h"
+#include "game/screens.h"
 #include "logic/driver.h"
 #include "support/settings_folder.h"
 
@@ -337,6 +338,18 @@ std::string EndDocument()
 std::string DecimalSign()
 {
     return ".";
+}
+
+// ---- Configuration screen ------------------------------------------------------------------
+
+void ShowConfigureScreen()
+{
+    Record("configure", std::to_string(CurrentTab));
+}
+
+void MoveMarginBar(std::int32_t thickness)
+{
+    Record("margin bar", std::to_string(thickness));
 }
 
 } // namespace kelvarine

@@ -1,0 +1,141 @@
+#include "configure/logic_settings.h"
+
+#include "board/board.h"
+#include "grid/grid.h"
+#include "logic/alerts.h"
+#include "logic/rating.h"
+#include "ui/presentation.h"
+
+namespace kelvarine {
+
+const std::array<std::string_view, LogicRows + 1> TechniqueCaptions{
+    "",
+    "   Naked singles",
+    "   Hidden singles",
+    "   Naked pairs",
+    "   Hidden pairs",
+    "   Naked triples",
+    "   Hidden triples",
+    "   Naked quads",
+    "   Hidden quads",
+    "   Col-row-box intersections",
+    "   X-wing",
+    "   Swordfish",
+    "   Jellyfish",
+    "   XY-wing",
+    "   Remote pairs",
+    "   XY-chains",
+    "   XYZ-wing",
+    "   WXYZ-wing", // the logic report calls it by another name; both stand
+    "   Singles chains",
+    "   Inference chains",
+};
+
+const std::array<std::string_view, Levels + 1> LevelWords{"",     "Easy",      "Medium",
+                                                          "Hard", "Very hard", "Extreme"};
+
+namespace {
+
+constexpr std::int32_t AlertMode = 1;
+constexpr std::size_t RequiredRow = 6;
+constexpr std::string_view RequiredMark = "*  ";
+constexpr std::uint32_t AllRows = 0xFFFFE; // bits 1..19
+
+std::uint32_t BitOf(std::int32_t k)
+{
+    return BitTable[static_cast<std::size_t>(k)];
+}
+
+void SetBit(std::uint32_t &mask, std::int32_t k, bool on)
+{
+    mask = on ? mask | BitOf(k) : mask & ~BitOf(k);
+}
+
+void ScanAndPaint()
+{
+    ScanAlerts(AlertMode);
+    DrawBoard();
+}
+
+} // namespace
+
+bool UsesLogic(std::int32_t k)
+{
+    return (SolveMask & BitOf(k)) != 0;
+}
+
+bool ShowsAlerts(std::int32_t k)
+{
+    return (AlertMask & BitOf(k)) != 0;
+}
+
+void SetUseLogic(std::int32_t k, bool on)
+{
+    SetBit(SolveMask, k, on);
+}
+
+void SetShowAlerts(std::int32_t k, bool on)
+{
+    SetBit(AlertMask, k, on);
+    ScanAndPaint();
+}
+
+void SelectAllAlerts()
+{
+    AlertMask |= AllRows;
+    ScanAndPaint();
+}
+
+void DeselectAllAlerts()
+{
+    AlertMask = 0;
+    ClearCellBits(AlertBit);
+    DrawBoard();
+}
+
+void SetIncludeSingles(bool on)
+{
+    IncludeSingles = on ? True : False;
+    ScanAndPaint();
+}
+
+void SetLinkLimit(std::int32_t &limit, std::int32_t links)
+{
+    limit = links;
+    ScanAndPaint();
+}
+
+std::string LevelCaption(std::int32_t k)
+{
+    std::string caption;
+    if ((LevelTable[RequiredRow] & BitOf(k)) != 0) {
+        caption = RequiredMark;
+    }
+    for (std::size_t level = 1; level <= Levels; ++level) {
+        if ((LevelTable[level] & BitOf(k)) != 0) {
+            return caption.append(LevelWords[level]);
+        }
+    }
+    return caption;
+}
+
+void SetLevel(std::int32_t k, std::int32_t level)
+{
+    for (std::size_t row = 1; row <= RequiredRow; ++row) {
+        SetBit(LevelTable[row], k, row == static_cast<std::size_t>(level));
+    }
+    RateGame();
+    RefreshWindow();
+}
+
+void ToggleRequired(std::int32_t k)
+{
+    LevelTable[RequiredRow] ^= BitOf(k);
+}
+
+bool AnyRequired()
+{
+    return LevelTable[RequiredRow] != 0;
+}
+
+} // namespace kelvarine

@@ -1,0 +1,66 @@
+#include "configure/look_settings.h"
+
+#include "board/board.h"
+#include "board/margin.h"
+#include "ui/presentation.h"
+
+namespace kelvarine {
+
+const std::array<std::string_view, 12> ColourCaptions{
+    " Given cells",     " Unknown cells",      " Selected cells",       " Given numbers",
+    " Unknown numbers", " Primary grid lines", " Secondary grid lines", " Pencilmark grid lines",
+    " Hi-lites 1",      " Hi-lites 2",         " Alerts && links",      " Exterior margins",
+};
+
+void SetColour(std::size_t index, Colour colour)
+{
+    ColourTable[index] = colour;
+    if (index == MarginColour) {
+        PickMarginTextColour();
+        RefreshWindow();
+    }
+    DrawBoard();
+}
+
+std::int32_t *TextureOf(std::size_t index)
+{
+    switch (index) {
+    case GivenCellColour:
+        return &GivenTexture;
+    case UnknownCellColour:
+        return &UnknownTexture;
+    case PrimaryLineColour:
+    case SecondaryLineColour:
+        return &GridTexture;
+    default:
+        return nullptr;
+    }
+}
+
+void SetTexture(std::size_t index, std::int32_t tile)
+{
+    if (std::int32_t *texture = TextureOf(index); texture != nullptr) {
+        *texture = tile;
+        DrawBoard();
+    }
+}
+
+void SetThickness(std::int32_t &thickness, std::int32_t pixels)
+{
+    thickness = pixels;
+    ResizeWindow();
+}
+
+void SetLookFlag(Flag &flag, bool on)
+{
+    flag = on ? True : False;
+    DrawBoard();
+}
+
+void SetPencilmarkLayout(std::int32_t layout)
+{
+    PencilmarkLayout = layout;
+    DrawBoard();
+}
+
+} // namespace kelvarine

@@ -1,0 +1,24 @@
+#include "configure/new_game_settings.h"
+
+#include "generator/generator.h"
+#include "grid/grid.h"
+
+namespace kelvarine {
+
+const std::array<std::string_view, Levels + 1> DifficultyCaptions{
+    "", " Easy", " Medium", " Hard", " Very hard", " Extreme"};
+
+bool AcceptsLevel(std::int32_t level)
+{
+    return (DifficultySelection & BitTable[static_cast<std::size_t>(level)]) != 0;
+}
+
+void SetAcceptedLevels(const std::array<bool, Levels + 1> &boxes)
+{
+    DifficultySelection = 0;
+    for (std::size_t level = 1; level <= Levels; ++level) {
+        DifficultySelection |= boxes[level] ? BitTable[level] : 0;
+    }
+}
+
+} // namespace kelvarine

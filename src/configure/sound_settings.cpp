@@ -1,0 +1,43 @@
+#include "configure/sound_settings.h"
+
+namespace kelvarine {
+
+namespace {
+
+constexpr std::int32_t VolumeStep = 256; // of a bar's 255 positions
+
+void TestSound(const SoundList &list, std::int32_t index, std::size_t volumeIndex)
+{
+    if (index > 0) {
+        PlayEventSound(SoundFile(list, index), volumeIndex, false);
+    }
+}
+
+} // namespace
+
+std::string_view SoundCaption(std::string_view file)
+{
+    return file.substr(0, file.find('.'));
+}
+
+std::int32_t VolumeBar(std::size_t index)
+{
+    return SoundVolumes[index] / VolumeStep;
+}
+
+void SetVolume(std::size_t index, std::int32_t bar)
+{
+    SoundVolumes[index] = bar * VolumeStep;
+}
+
+void TestAlertSound()
+{
+    TestSound(AlertFiles, AlertSound, AlertVolume);
+}
+
+void TestWinSound()
+{
+    TestSound(WinFiles, WinSound, WinVolume);
+}
+
+} // namespace kelvarine

@@ -1,0 +1,78 @@
+// The controls of the configuration screen, ready made: each knows its name, shows a setting and
+// hands a change on at once, unless code is filling it.
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+
+class QAbstractButton;
+class QButtonGroup;
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QScrollBar;
+class QWidget;
+
+namespace kelvarine {
+
+// ---- Guards against write-back; both off when no code is filling controls --------------------
+
+extern bool LoadingControls; // the window fills its controls, or sets a column of boxes at once
+extern bool ShowingValues;   // controls are moved to values that were set elsewhere
+
+// True when the change of a control is the player's: no guard is on and no search is running.
+bool ChangesCount();
+
+// ---- Texts -----------------------------------------------------------------------------------
+
+QString TextOf(std::string_view text);
+
+// Name of a control of an array, such as "chkUseLogic3".
+QString IndexedName(std::string_view name, int index);
+
+// A caption as a screen reader should say it: without outer blanks, && as one &.
+QString SpokenText(std::string_view caption);
+
+// ---- Controls; each belongs to parent and is named for tests and screen readers --------------
+
+QCheckBox *MakeCheckBox(QWidget *parent, const QString &name, std::string_view caption, bool on,
+                        const std::function<void(bool)> &change);
+
+QPushButton *MakeButton(QWidget *parent, const QString &name, std::string_view caption,
+                        const std::function<void()> &act);
+
+// What a bar can show, and its steps.
+struct BarSteps {
+    int Highest = 0; // the lowest is 0
+    int Small = 1;
+    int Large = 10;
+};
+
+// A horizontal scroll bar. Scrolling while dragging is a change, too.
+QScrollBar *MakeBar(QWidget *parent, const QString &name, const QString &spoken,
+                    const BarSteps &steps, int value, const std::function<void(int)> &change);
+
+// A text box for a number, at most so many digits long. The change gets the number it holds.
+QLineEdit *MakeNumberBox(QWidget *parent, const QString &name, const QString &spoken, int number,
+                         const std::function<void(std::int32_t)> &change);
+
+// A frame with options under each other, named by array name and index; the one of the current
+// index is chosen, none when there is no such option.
+QGroupBox *MakeOptions(QWidget *parent, std::string_view name, std::string_view frame,
+                       std::span<const std::string_view> captions, std::int32_t current,
+                       const std::function<void(std::int32_t)> &change);
+
+// A list of texts with one chosen, none for an index out of the list.
+QComboBox *MakeList(QWidget *parent, const QString &name, const QString &spoken,
+                    const QStringList &entries, std::int32_t current,
+                    const std::function<void(std::int32_t)> &change);
+
+} // namespace kelvarine

@@ -1,0 +1,305 @@
+#include "ui/configure_screen.h"
+
+#include "configure/window_places.h"
+#include "game/screens.h"
+#include "grid/grid.h"
+#include "ui/colours_tab.h"
+#include "ui/configure_controls.h"
+#include "ui/coordinates_tab.h"
+#include "ui/grid_tab.h"
+#include "ui/logic_tab.h"
+#include "ui/main_window.h"
+#include "ui/new_games_tab.h"
+#include "ui/presentation.h"
+#include "ui/preset_tab.h"
+#include "ui/sound_tab.h"
+#include "ui/tab_strip.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QScrollBar>
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr QSize PanelDesign{450, 475};
+constexpr int LowestContainer = 140;
+constexpr int SmallestWidth = 458;
+constexpr int StripHeight = TabBaseline + 1;
+
+struct TabRow {
+    std::string_view Text;
+    std::string_view PanelName;
+    char AccessKey;
+    int HelpContext;
+    QWidget *(*Make)(QWidget *parent);
+};
+
+QWidget *MakeEmptyPanel(QWidget *parent)
+{
+    return new QWidget(parent);
+}
+
+constexpr std::array<TabRow, TabCount> TabRows{{
+    {"New Games", "picTabNewGame", 'N', 202, MakeNewGamesTab},
+    {"Sound", "picTabSound", 'S', 204, MakeSoundTab},
+    {"Print", "picTabPrint", 'P', 206, MakeEmptyPanel},
+    {"Logic", "picTabLogic", 'L', 208, MakeLogicTab},
+    {"Preset Grids", "picTabPresetGrids", 'E', 210, MakePresetTab},
+    {"Grid", "picTabGrid", 'G', 212, MakeGridTab},
+    {"Colors", "picTabTableColors", 'C', 214, MakeColoursTab},
+    {"Coordinates", "picTabCoordinates", 'O', 216, MakeCoordinatesTab},
+}};
+
+// Two keys have no tab behind them: no panel is shown then, which is intended.
+constexpr std::string_view KeysWithoutTab = "RV";
+
+ConfigureScreen *openScreen = nullptr;
+
+std::array<QString, TabCount> TabTexts()
+{
+    std::array<QString, TabCount> texts;
+    std::ranges::transform(TabRows, texts.begin(),
+                           [](const TabRow &row) { return TextOf(row.Text); });
+    return texts;
+}
+
+WindowPlace PlaceOf(const QRect &rectangle)
+{
+    return {rectangle.x(), rectangle.y(), rectangle.width(), rectangle.height()};
+}
+
+// Where the screen opens: where it was, brought back into reach, or beside the board.
+WindowPlace OpeningPlace(const QSize &size)
+{
+    if (ConfigurePlace.Width > 0) {
+        const QPoint middle(ConfigurePlace.Left + ConfigurePlace.Width / 2,
+                            ConfigurePlace.Top + ConfigurePlace.Height / 2);
+        const QScreen *screen = QGuiApplication::screenAt(middle);
+        screen = screen != nullptr ? screen : Window()->screen();
+        return BroughtOnScreen(ConfigurePlace, PlaceOf(screen->availableGeometry()));
+    }
+    return PlaceBeside(PlaceOf(Window()->frameGeometry()), size.width(), size.height(),
+                       PlaceOf(Window()->screen()->availableGeometry()));
+}
+
+// Events by which the player would change something.
+bool IsInput(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+ConfigureScreen *OpenConfigureScreen()
+{
+    return openScreen;
+}
+
+ConfigureScreen::ConfigureScreen(QWidget *parent)
+    : QWidget(parent, Qt::Window), strip(new TabStrip(this, TabTexts(),
+                                                      [this](std::int32_t tab) {
+                                                          CurrentTab = tab;
+                                                          ShowTab();
+                                                      })),
+      container(new QWidget(this)), scrollBar(new QScrollBar(Qt::Vertical, this))
+{
+    const QScopedValueRollback loading(LoadingControls, true);
+    setObjectName("frmConfigure");
+    setWindowTitle(tr("Configure"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    container->setObjectName("picTabContainer");
+    scrollBar->setObjectName("vsbTabContainer");
+    scrollBar->setAccessibleName(tr("Scroll"));
+    scrollBar->setRange(0, 500);
+    scrollBar->setSingleStep(50);
+    scrollBar->setPageStep(140);
+    connect(scrollBar, &QScrollBar::valueChanged, this, [this](int value) {
+        if (QWidget *panel = CurrentPanel(); panel != nullptr) {
+            panel->move(0, -value);
+        }
+    });
+    QSize size = PanelDesign;
+    for (std::size_t tab = 0; tab < TabRows.size(); ++tab) {
+        panels[tab] = TabRows[tab].Make(container);
+        panels[tab]->setObjectName(TextOf(TabRows[tab].PanelName));
+        panels[tab]->hide();
+        size = size.expandedTo(panels[tab]->minimumSizeHint());
+    }
+    setMinimumSize(std::max(SmallestWidth, size.width()), StripHeight + LowestContainer);
+    resize(minimumWidth(), StripHeight + size.height());
+    AddAccessKeys();
+    qApp->installEventFilter(this);
+    openScreen = this;
+}
+
+ConfigureScreen::~ConfigureScreen()
+{
+    if (openScreen == this) {
+        openScreen = nullptr;
+    }
+}
+
+void ConfigureScreen::AddAccessKeys()
+{
+    const auto add = [this](char letter, std::int32_t tab) {
+        auto *key = new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(letter)), this);
+        key->setObjectName(IndexedName("cmdAltKeys", tab));
+        connect(key, &QShortcut::activated, this, [this, tab] {
+            if (CurrentTab != tab && SearchActive == False) {
+                CurrentTab = tab;
+                ShowTab();
+            }
+        });
+    };
+    std::int32_t tab = 0;
+    for (const TabRow &row : TabRows) {
+        add(row.AccessKey, tab++);
+    }
+    for (const char letter : KeysWithoutTab) {
+        add(letter, tab++);
+    }
+}
+
+QWidget *ConfigureScreen::CurrentPanel() const
+{
+    const auto tab = static_cast<std::size_t>(CurrentTab);
+    return tab < panels.size() ? panels[tab] : nullptr;
+}
+
+int ConfigureScreen::HelpContext() const
+{
+    return helpContext;
+}
+
+void ConfigureScreen::ShowTab()
+{
+    for (std::size_t tab = 0; tab < panels.size(); ++tab) {
+        const bool shown = panels[tab] == CurrentPanel();
+        if (shown) {
+            helpContext = TabRows[tab].HelpContext;
+        }
+        panels[tab]->setVisible(shown);
+    }
+    if (CurrentTab == ColoursTab) {
+        SetColorScrollbars();
+    }
+    strip->ShowCurrent();
+    ArrangePanels();
+}
+
+void ConfigureScreen::ArrangePanels()
+{
+    QWidget *panel = CurrentPanel();
+    const QSize needed =
+        panel != nullptr ? PanelDesign.expandedTo(panel->minimumSizeHint()) : PanelDesign;
+    const int room = std::max(LowestContainer, height() - StripHeight);
+    const bool fits = room >= needed.height();
+    const int barWidth = fits ? 0 : scrollBar->sizeHint().width();
+
+    strip->setGeometry(0, 0, width(), StripHeight);
+    container->setGeometry(0, StripHeight, width() - barWidth, room);
+    scrollBar->setGeometry(width() - barWidth, StripHeight, barWidth, room);
+    scrollBar->setVisible(!fits);
+    if (panel != nullptr) {
+        panel->resize(std::max(needed.width() - barWidth, container->width()),
+                      std::max(needed.height(), room));
+        if (fits) {
+            panel->move(0, 0);
+        }
+    }
+}
+
+void ConfigureScreen::KeepPlace()
+{
+    if (isVisible() && !isMinimized()) {
+        ConfigurePlace = {x(), y(), width(), height()};
+    }
+}
+
+void ConfigureScreen::resizeEvent(QResizeEvent * /*event*/)
+{
+    ArrangePanels();
+    KeepPlace();
+}
+
+void ConfigureScreen::moveEvent(QMoveEvent * /*event*/)
+{
+    KeepPlace();
+}
+
+void ConfigureScreen::closeEvent(QCloseEvent * /*event*/)
+{
+    KeepPlace();
+    ConfigureOpen = False;
+    // The window goes when events run next; until then another one may open.
+    openScreen = nullptr;
+    qApp->removeEventFilter(this);
+}
+
+void ConfigureScreen::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        close();
+        break;
+    case Qt::Key_F1:
+        ShowHelpTopic(helpContext);
+        break;
+    default:
+        event->ignore();
+    }
+}
+
+// While a search runs the settings stand still: nothing that the player does here is taken.
+bool ConfigureScreen::eventFilter(QObject *watched, QEvent *event)
+{
+    if (SearchActive == False || !IsInput(event->type())) {
+        return false;
+    }
+    const auto *widget = qobject_cast<const QWidget *>(watched);
+    return widget != nullptr && widget->window() == this;
+}
+
+void ShowConfigureScreen()
+{
+    if (openScreen == nullptr) {
+        ConfigureOpen = True;
+        auto *screen = new ConfigureScreen(Window());
+        const WindowPlace place = OpeningPlace(screen->size());
+        screen->resize(place.Width, place.Height);
+        screen->move(place.Left, place.Top);
+    }
+    openScreen->ShowTab();
+    if (openScreen->isMinimized()) {
+        openScreen->showNormal();
+    }
+    openScreen->show();
+    openScreen->raise();
+    openScreen->activateWindow();
+}
+
+void MoveMarginBar(std::int32_t thickness)
+{
+    if (openScreen != nullptr) {
+        openScreen->findChild<QScrollBar *>("hsbExtMarginThickness")->setValue(thickness);
+    }
+}
+
+} // namespace kelvarine

@@ -1,0 +1,39 @@
+// The tabs of the configuration screen, painted in two rows: the four with the current tab in
+// front, joined to the panel below, the other four behind them.
+#pragma once
+
+#include "configure/tab_places.h"
+
+#include <QWidget>
+
+#include <array>
+#include <functional>
+
+namespace kelvarine {
+
+class TabStrip : public QWidget {
+    Q_OBJECT
+
+public:
+    // choose is called with the tab that a press or an arrow key asks for.
+    TabStrip(QWidget *parent, const std::array<QString, TabCount> &texts,
+             const std::function<void(std::int32_t)> &choose);
+
+    [[nodiscard]] const QString &TextOfTab(int tab) const;
+    [[nodiscard]] QRect PlaceOfTab(int tab) const; // where it is painted
+    void Choose(int tab);
+
+    // The current tab is another one.
+    void ShowCurrent();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    std::array<QString, TabCount> tabTexts;
+    std::function<void(std::int32_t)> chooseTab;
+};
+
+} // namespace kelvarine
