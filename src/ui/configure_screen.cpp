@@ -190,6 +190,7 @@ int ConfigureScreen::HelpContext() const
 
 void ConfigureScreen::ShowTab()
 {
+    const QScopedValueRollback switching(switchingTab, true);
     for (std::size_t tab = 0; tab < panels.size(); ++tab) {
         const bool shown = panels[tab] == CurrentPanel();
         if (shown) {
@@ -265,6 +266,24 @@ void ConfigureScreen::keyPressEvent(QKeyEvent *event)
     default:
         event->ignore();
     }
+}
+
+// The Tab key may lead to a control that a low window hides: the panel follows.
+bool ConfigureScreen::focusNextPrevChild(bool next)
+{
+    const bool moved = QWidget::focusNextPrevChild(next);
+    const QWidget *control = focusWidget();
+    const QWidget *panel = CurrentPanel();
+    if (switchingTab || !scrollBar->isVisible() || control == nullptr || panel == nullptr ||
+        !panel->isAncestorOf(control)) {
+        return moved;
+    }
+    const int top = control->mapTo(panel, QPoint()).y();
+    const int bottom = top + control->height();
+    if (top < -panel->y() || bottom > container->height() - panel->y()) {
+        scrollBar->setValue(bottom - container->height() / 2);
+    }
+    return moved;
 }
 
 // While a search runs the settings stand still: nothing that the player does here is taken.

@@ -38,6 +38,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void AddAccessKeys();
@@ -49,6 +50,7 @@ private:
     QWidget *container;    // picTabContainer: what is seen of a panel
     QScrollBar *scrollBar; // vsbTabContainer
     int helpContext = 0;
+    bool switchingTab = false; // panels come and go, and the focus moves by itself
 };
 
 // The open screen, or null.

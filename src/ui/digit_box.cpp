@@ -8,12 +8,14 @@ namespace {
 
 constexpr int MostDigits = 2;
 
-// Keys that would write something else than a digit. Keys with Ctrl write nothing.
+// Keys that would write something else than a digit. Keys with Ctrl are commands.
 bool WritesNoDigit(const QKeyEvent &event)
 {
     const QString text = event.text();
-    return !text.isEmpty() && text.front().isPrint() &&
-           (text.front() < u'0' || text.front() > u'9');
+    if (text.isEmpty() || event.modifiers() == Qt::ControlModifier) {
+        return false;
+    }
+    return text.front().isPrint() && (text.front() < u'0' || text.front() > u'9');
 }
 
 } // namespace

@@ -115,6 +115,8 @@ void LogicPanel::AddTechnique(std::int32_t k)
     alertBoxes[row] = MakeCheckBox(this, IndexedName("chkShowConflicts", k), caption,
                                    ShowsAlerts(k), [k](bool on) { SetShowAlerts(k, on); });
     alertBoxes[row]->setAccessibleName("Alert: " + SpokenText(caption));
+    // A box without caption is lower than one with, and the two would not stand in line.
+    solveBoxes[row]->setFixedHeight(alertBoxes[row]->sizeHint().height());
     levelLabels[row] = new LevelLabel(this, [this, k] { OpenMenu(k); });
     levelLabels[row]->setObjectName(IndexedName("lblDifficulty", k));
     ShowLevel(k);

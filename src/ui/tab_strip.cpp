@@ -36,13 +36,25 @@ int NeighbourOf(int tab, int key)
     }
 }
 
+// Between the colours of window and text, so that it shows on light and on dark windows.
+QColor EdgeColour(const QPalette &colours)
+{
+    const QColor window = colours.color(QPalette::Window);
+    const QColor text = colours.color(QPalette::WindowText);
+    const auto mix = [](int near, int far) {
+        return (2 * near + far) / 3;
+    };
+    return {mix(window.red(), text.red()), mix(window.green(), text.green()),
+            mix(window.blue(), text.blue())};
+}
+
 void DrawEdges(QPainter &painter, const QRect &place, const QPalette &colours)
 {
     const int left = place.left();
     const int right = place.right();
     const int top = place.top();
     const int bottom = place.bottom();
-    painter.setPen(colours.color(QPalette::Dark));
+    painter.setPen(EdgeColour(colours));
     painter.drawLine(left, bottom, left, top + Corner);
     painter.drawLine(left, top + Corner, left + Corner, top);
     painter.drawLine(left + Corner, top, right - Corner, top);
@@ -95,7 +107,7 @@ void TabStrip::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     const QPalette colours = palette();
-    painter.setPen(colours.color(QPalette::Dark));
+    painter.setPen(EdgeColour(colours));
     painter.drawLine(0, TabBaseline, width(), TabBaseline);
     // The rear row comes first, so that the front one covers its lower edge.
     for (const bool front : {false, true}) {

@@ -1,0 +1,31 @@
+#include "configure/configure_commands.h"
+#include "game/screens.h"
+#include "support/play.h"
+#include "support/presentation_double.h"
+
+#include <gtest/gtest.h>
+
+namespace kelvarine::testing {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+TEST(ConfigureCommands, ConfigureKeepsTheTab)
+{
+    Restart();
+    CurrentTab = ColoursTab;
+    mnuConfigure();
+    EXPECT_EQ(CurrentTab, ColoursTab);
+    EXPECT_EQ(Acts(), Texts{"configure: 6"});
+}
+
+TEST(ConfigureCommands, AlertsOpensTheLogicTab)
+{
+    Restart();
+    mnuAlerts();
+    EXPECT_EQ(CurrentTab, 3);
+    EXPECT_EQ(Acts(), Texts{"configure: 3"});
+}
+
+} // namespace
+} // namespace kelvarine::testing

@@ -1,0 +1,132 @@
+#include "support/widget_configure.h"
+
+#include "board/board.h"
+#include "board/board_painter.h"
+#include "board/geometry.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "game/screens.h"
+#include "support/positions.h"
+#include "ui/presentation.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QStyleOptionSlider>
+
+namespace kelvarine::testing {
+
+namespace {
+
+constexpr std::string_view GameOnBoard = R"(
+    53..7....
+    6..195...
+    .98....6.
+    8...6...3
+    4..8.3..1
+    7...2...6
+    .6....28.
+    ...419..5
+    ....8..79
+)";
+
+// Middle of the thumb of a horizontal bar at a value.
+QPoint ThumbAt(const QScrollBar &bar, int value)
+{
+    QStyleOptionSlider option;
+    option.initFrom(&bar);
+    option.orientation = Qt::Horizontal;
+    option.minimum = bar.minimum();
+    option.maximum = bar.maximum();
+    option.singleStep = bar.singleStep();
+    option.pageStep = bar.pageStep();
+    option.sliderPosition = value;
+    option.sliderValue = value;
+    option.state |= QStyle::State_Horizontal;
+    option.subControls = QStyle::SC_All;
+    return bar.style()
+        ->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &bar)
+        .center();
+}
+
+} // namespace
+
+void ConfigureTest::SetUp()
+{
+    Running = std::make_unique<Program>();
+    SetGame(GameOnBoard);
+    StartGame(NewGame);
+    GameModified = False;
+    DrawBoard();
+}
+
+void ConfigureTest::TearDown()
+{
+    Running.reset();
+    EXPECT_EQ(OpenConfigureScreen(), nullptr);
+}
+
+void ConfigureTest::Open(std::int32_t tab)
+{
+    CurrentTab = tab;
+    ShowConfigureScreen();
+    Screen = OpenConfigureScreen();
+    ASSERT_NE(Screen, nullptr);
+    QCoreApplication::processEvents();
+}
+
+void ConfigureTest::Close()
+{
+    Screen->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Screen = nullptr;
+}
+
+void ConfigureTest::Click(const char *name)
+{
+    auto *control = Find<QWidget>(name);
+    ASSERT_TRUE(control->isVisible()) << name;
+    QPoint place = control->rect().center();
+    if (control->inherits("QCheckBox") || control->inherits("QRadioButton")) {
+        place.setX(8);
+    }
+    QTest::mouseClick(control, Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void ConfigureTest::Type(const char *name, const char *text)
+{
+    auto *box = Find<QLineEdit>(name);
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClicks(box, text);
+}
+
+void ConfigureTest::Drag(const char *name, int value)
+{
+    auto *bar = Find<QScrollBar>(name);
+    const QPoint from = ThumbAt(*bar, bar->value());
+    const QPoint to = ThumbAt(*bar, value);
+    QTest::mousePress(bar, Qt::LeftButton, Qt::NoModifier, from);
+    QTest::mouseMove(bar, (from + to) / 2);
+    QTest::mouseMove(bar, to);
+    QTest::mouseRelease(bar, Qt::LeftButton, Qt::NoModifier, to);
+    // A thumb has fewer places than a bar has values; the arrow keys do the rest.
+    while (bar->value() < value && bar->value() + bar->singleStep() <= value) {
+        QTest::keyClick(bar, Qt::Key_Right);
+    }
+    while (bar->value() > value && bar->value() - bar->singleStep() >= value) {
+        QTest::keyClick(bar, Qt::Key_Left);
+    }
+}
+
+Colour PaintedIn(Cell cell)
+{
+    constexpr int inside = 5;
+    return BoardPicture().pixel(CellX(cell.Column) + inside, CellY(cell.Row) + inside) & 0xFFFFFF;
+}
+
+QImage PaintedNow()
+{
+    return BoardPicture().copy();
+}
+
+} // namespace kelvarine::testing

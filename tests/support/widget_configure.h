@@ -1,0 +1,55 @@
+// The open configuration screen in a test: its controls by name, and the player's hand on them.
+#pragma once
+
+#include "board/look.h"
+#include "grid/houses.h"
+#include "support/widget_program.h"
+#include "ui/configure_screen.h"
+
+#include <QScrollBar>
+#include <QtTest>
+#include <gtest/gtest.h>
+
+namespace kelvarine::testing {
+
+// A fresh program with a game on the board and the configuration screen open on a tab.
+class ConfigureTest : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // Opens the screen on a tab, or switches it there.
+    void Open(std::int32_t tab);
+
+    // Closes the screen and lets it go.
+    void Close();
+
+    // The control of a name, on view or not. Fails the test when there is none.
+    template <typename Control>
+    Control *Find(const char *name)
+    {
+        auto *control = Screen->findChild<Control *>(name);
+        EXPECT_NE(control, nullptr) << name;
+        return control;
+    }
+
+    // A click of the left button: on the box or circle of a button, in the middle of others.
+    void Click(const char *name);
+
+    // Types into a text box, replacing what it holds.
+    void Type(const char *name, const char *text);
+
+    // Drags the thumb of a bar to a value, with a stop on half its way.
+    void Drag(const char *name, int value);
+
+    std::unique_ptr<Program> Running;
+    ConfigureScreen *Screen = nullptr;
+};
+
+// Colour of the painted board in a cell, between its frame and its numbers.
+Colour PaintedIn(Cell cell);
+
+// The painted board as it is now, for comparison with a later one.
+QImage PaintedNow();
+
+} // namespace kelvarine::testing
