@@ -17,6 +17,7 @@
 
 #include <array>
 #include <functional>
+#include <utility>
 
 namespace kelvarine {
 
@@ -35,9 +36,9 @@ constexpr std::array<const char *, 3> BarCaptions{"Red", "Green", "Blue"};
 
 class PaletteView : public QWidget {
 public:
-    PaletteView(QWidget *parent, const std::function<void(Colour)> &pickColour)
+    PaletteView(QWidget *parent, std::function<void(Colour)> pickColour)
         : QWidget(parent), picture(PalettePicture(PaletteSize.width(), PaletteSize.height())),
-          pick(pickColour)
+          pick(std::move(pickColour))
     {
         setObjectName("picColorpal");
         setAccessibleName("Color palette");

@@ -5,10 +5,12 @@
 #include <QPainter>
 #include <QStyleOption>
 
+#include <utility>
+
 namespace kelvarine {
 
-LevelLabel::LevelLabel(QWidget *parent, const std::function<void()> &openMenu)
-    : QLabel(parent), openLevels(openMenu)
+LevelLabel::LevelLabel(QWidget *parent, std::function<void()> openMenu)
+    : QLabel(parent), openLevels(std::move(openMenu))
 {
     setFocusPolicy(Qt::StrongFocus);
     // The press and the keys below are all that opens the menu.

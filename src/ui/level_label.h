@@ -12,7 +12,7 @@ class LevelLabel : public QLabel {
     Q_OBJECT
 
 public:
-    LevelLabel(QWidget *parent, const std::function<void()> &openMenu);
+    LevelLabel(QWidget *parent, std::function<void()> openMenu);
 
     // Red while the menu is open.
     void ShowOpen(bool open);

@@ -82,7 +82,7 @@ LogicPanel::LogicPanel(QWidget *parent)
     auto *rows = new QVBoxLayout(this);
     rows->setSpacing(6);
     grid->setVerticalSpacing(1);
-    grid->setHorizontalSpacing(8);
+    grid->setHorizontalSpacing(6);
     grid->setColumnStretch(AlertColumn, 1);
     rows->addLayout(grid);
     AddHeads();
@@ -161,6 +161,10 @@ void LogicPanel::AddFoot(QVBoxLayout *rows)
     requireMessage->setSizePolicy(policy);
     requireMessage->setVisible(AnyRequired());
     grid->addWidget(requireMessage, 0, LevelColumn);
+    // Room for a star in front of the longest word, so that the column never grows.
+    LevelLabel longest(this, {});
+    longest.setText("*  Very hard");
+    grid->setColumnMinimumWidth(LevelColumn, longest.sizeHint().width());
     rows->addWidget(MakeSelectors());
     rows->addWidget(MakeCheckBox(this, TextOf("chkIncludeSingles"),
                                  " Include singles in naked && hidden pairs/triples/quads",

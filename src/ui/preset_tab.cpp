@@ -12,6 +12,7 @@
 
 #include <array>
 #include <functional>
+#include <utility>
 
 namespace kelvarine {
 
@@ -24,9 +25,10 @@ constexpr QMargins MarkDistance{5, 5, 4, 4};
 
 class PresetView : public QWidget {
 public:
-    PresetView(QWidget *parent, std::int32_t presetNumber, const std::function<void()> &chooseIt,
-               const std::function<void()> &markIt)
-        : QWidget(parent), number(presetNumber), choose(chooseIt), mark(markIt)
+    PresetView(QWidget *parent, std::int32_t presetNumber, std::function<void()> chooseIt,
+               std::function<void()> markIt)
+        : QWidget(parent), number(presetNumber), choose(std::move(chooseIt)),
+          mark(std::move(markIt))
     {
         setObjectName(IndexedName("picPresetGrid", number));
         setAccessibleName(QStringLiteral("Preset grid %1").arg(number + 1));

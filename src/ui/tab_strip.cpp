@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace kelvarine {
 
@@ -64,9 +65,9 @@ void DrawEdges(QPainter &painter, const QRect &place, const QPalette &colours)
 
 } // namespace
 
-TabStrip::TabStrip(QWidget *parent, const std::array<QString, TabCount> &texts,
-                   const std::function<void(std::int32_t)> &choose)
-    : QWidget(parent), tabTexts(texts), chooseTab(choose)
+TabStrip::TabStrip(QWidget *parent, std::array<QString, TabCount> texts,
+                   std::function<void(std::int32_t)> choose)
+    : QWidget(parent), tabTexts(std::move(texts)), chooseTab(std::move(choose))
 {
     InstallTabStripAccess();
     setFocusPolicy(Qt::TabFocus);

@@ -16,8 +16,8 @@ class TabStrip : public QWidget {
 
 public:
     // choose is called with the tab that a press or an arrow key asks for.
-    TabStrip(QWidget *parent, const std::array<QString, TabCount> &texts,
-             const std::function<void(std::int32_t)> &choose);
+    TabStrip(QWidget *parent, std::array<QString, TabCount> texts,
+             std::function<void(std::int32_t)> choose);
 
     [[nodiscard]] const QString &TextOfTab(int tab) const;
     [[nodiscard]] QRect PlaceOfTab(int tab) const; // where it is painted

@@ -290,6 +290,16 @@ TEST_F(LogicTabTest, StarGoesOnAndOffAndALevelTakesItOff)
     EXPECT_FALSE(StarMessageOnView());
 }
 
+TEST_F(LogicTabTest, StarDoesNotWidenThePanel)
+{
+    Open(LogicTab);
+    const int width = Find<QWidget>("picTabLogic")->minimumSizeHint().width();
+    ChooseOn(8, 6);
+    EXPECT_EQ(LevelShown(8), "*  Very hard");
+    EXPECT_EQ(Find<QWidget>("picTabLogic")->minimumSizeHint().width(), width);
+    EXPECT_LE(width, Find<QWidget>("picTabLogic")->width());
+}
+
 TEST_F(LogicTabTest, AllAlertsAnswerWithinAFrame)
 {
     Open(LogicTab);
