@@ -238,7 +238,9 @@ TEST_F(ConfigureScreenTest, LowWindowShowsTheBarWhichMovesThePanelOnView)
     EXPECT_EQ(grid->y(), 0) << "and applies at its next change";
     bar->setValue(130);
     EXPECT_EQ(grid->y(), -130);
+    QTest::keyClick(Screen, Qt::Key_L, Qt::AltModifier);
     EXPECT_EQ(logic->y(), -120);
+    QTest::keyClick(Screen, Qt::Key_G, Qt::AltModifier);
     Screen->resize(458, 700);
     QCoreApplication::processEvents();
     EXPECT_FALSE(bar->isVisible());

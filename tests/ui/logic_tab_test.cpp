@@ -160,6 +160,20 @@ TEST_F(LogicTabTest, SelectAllButtons)
     EXPECT_EQ(AlertMask, 0x4U) << "the guard is off again";
 }
 
+TEST_F(LogicTabTest, SelectingAllAlertsWritesOnceAndNotBoxByBox)
+{
+    Open(LogicTab);
+    std::uint32_t atLastBox = 77;
+    QObject::connect(Find<QAbstractButton>("chkShowConflicts19"), &QAbstractButton::toggled, Screen,
+                     [&atLastBox] { atLastBox = AlertMask; });
+    Click("cmdSelectAllAlerts");
+    EXPECT_EQ(atLastBox, 0U) << "the boxes themselves write nothing";
+    EXPECT_EQ(AlertMask, 0xFFFFEU);
+    Click("cmdDeselectAllAlerts");
+    EXPECT_EQ(atLastBox, 0xFFFFEU);
+    EXPECT_EQ(AlertMask, 0U);
+}
+
 TEST_F(LogicTabTest, IncludeSinglesScansAtOnce)
 {
     Open(LogicTab);
@@ -250,7 +264,7 @@ TEST_F(LogicTabTest, MenuOpensByKeyboard)
 {
     Open(LogicTab);
     auto *label = Find<QLabel>("lblDifficulty6");
-    QMenu *menu = Find<QMenu>("mnuRatings");
+    auto *menu = Find<QMenu>("mnuRatings");
     label->setFocus();
     QTest::keyClick(label, Qt::Key_Menu);
     EXPECT_TRUE(menu->isVisible());

@@ -62,6 +62,19 @@ TEST_F(ColoursTabTest, OptionsShowTheirColourOnTheBars)
     EXPECT_EQ(ColourTable, colours) << "showing writes nothing back";
 }
 
+TEST_F(ColoursTabTest, BarsOnTheirWayToAColourWriteNothing)
+{
+    Open(ColoursTab);
+    const auto colours = ColourTable;
+    int moves = 0;
+    QObject::connect(Find<QScrollBar>("hsbColor0"), &QScrollBar::valueChanged, Screen, [&] {
+        ++moves;
+        EXPECT_EQ(ColourTable, colours);
+    });
+    Click("optTableColors2");
+    EXPECT_EQ(moves, 1);
+}
+
 TEST_F(ColoursTabTest, BarsHaveTheirRangeAndSteps)
 {
     Open(ColoursTab);
