@@ -3,8 +3,10 @@
 BUILD_PACKAGES=(
     g++ cmake ninja-build
     qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev
+    qt6-tools-dev qt6-documentation-tools
 )
-PLAY_PACKAGES=(fonts-liberation)
+# The help is a database that the toolkit opens through a driver of its own package.
+PLAY_PACKAGES=(fonts-liberation libqt6sql6-sqlite)
 # A virtual display with real keys and a picture of it, for machines without a screen.
 SCREEN_PACKAGES=(xvfb xauth xdotool openbox imagemagick)
 CHECK_PACKAGES=(
@@ -12,4 +14,9 @@ CHECK_PACKAGES=(
     clang-format clang-tidy
     poppler-utils
     python3 python3-pil xclip x11-xkb-utils x11-xserver-utils
+)
+# What looks at the package as the desktop and Debian do.
+DESKTOP_PACKAGES=(
+    desktop-file-utils appstream shared-mime-info libxml2-utils
+    dpkg-dev lintian man-db
 )

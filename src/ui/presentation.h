@@ -110,14 +110,11 @@ void ShowSolutionCount();
 // Shows name, version and licence of the program until the player has read them.
 void ShowAboutScreen();
 
-// ---- Files and help ------------------------------------------------------------------------
+// ---- Files -----------------------------------------------------------------------------
 
 // Shows the file dialog, with a type of files/file_dialog.h selected, until the player has chosen a
 // file or given up; that header holds its rules and its results.
 void RunFileDialog(std::size_t fileType);
-
-// Opens the help at a topic.
-void ShowHelpTopic(int topic);
 
 // ---- Printer -------------------------------------------------------------------------------
 
@@ -178,5 +175,11 @@ void ShowConfigureScreen();
 // would; its change sets MarginThickness and lays the window out anew. Nothing while the screen is
 // closed.
 void MoveMarginBar(std::int32_t thickness);
+
+// ---- Help ----------------------------------------------------------------------------------
+
+// Shows the help at the topic of a context number: 202, 204 to 216 the tabs of the configuration
+// screen, 600 the file window; any other number is the default topic.
+void ShowHelpTopic(int context);
 
 } // namespace kelvarine

@@ -269,7 +269,7 @@ void ShowAboutScreen()
     Record("about screen", "");
 }
 
-// ---- Files and help ------------------------------------------------------------------------
+// ---- Files -----------------------------------------------------------------------------
 
 void RunFileDialog(std::size_t fileType)
 {

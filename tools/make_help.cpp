@@ -1,0 +1,240 @@
+// Makes what the pages of the help cannot hold as words: the table of keys, from the table that the
+// menus are built from, and the examples of the techniques, as the game itself paints and explains
+// them. Run by the build.
+//
+//   make_help keyboard PAGE OUTPUT            PAGE with the table of keys in place of @KEYS@
+//   make_help technique PAGE FRAME OUTPUT PICTURE
+//                                             PAGE with FRAME in place of @EXAMPLE@, and the
+//                                             picture of its position with the marks of the first
+//                                             hint
+#include "board/board_painter.h"
+#include "board/geometry.h"
+#include "board/look.h"
+#include "board/margin.h"
+#include "board/margin_painter.h"
+#include "configure/defaults.h"
+#include "files/text_format.h"
+#include "files/whole_file.h"
+#include "grid/grid.h"
+#include "input/menu_table.h"
+#include "logic/alerts.h"
+#include "logic/rating.h"
+#include "ui/help_page.h"
+
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+
+#include <cstdlib>
+#include <iostream>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr int PictureSide = 460; // logical pixels
+constexpr int PictureRatio = 2;
+constexpr std::int32_t FullHint = 5;
+
+[[noreturn]] void Fail(const std::string &words)
+{
+    std::cerr << "make_help: " << words << '\n';
+    std::exit(EXIT_FAILURE);
+}
+
+std::string ReadText(const std::string &path)
+{
+    std::string text;
+    std::string error;
+    if (!ReadWholeFile(path, text, error)) {
+        Fail(path + ": " + error);
+    }
+    return text;
+}
+
+void WriteText(const std::string &path, std::string_view text)
+{
+    std::string error;
+    if (!ReplaceWholeFile(path, text, error)) {
+        Fail(path + ": " + error);
+    }
+}
+
+void ReplaceAll(std::string &text, std::string_view mark, std::string_view by)
+{
+    for (std::size_t at = text.find(mark); at != std::string::npos;
+         at = text.find(mark, at + by.size())) {
+        text.replace(at, mark.size(), by);
+    }
+}
+
+std::string Escaped(std::string text)
+{
+    ReplaceAll(text, "&", "&amp;");
+    ReplaceAll(text, "<", "&lt;");
+    ReplaceAll(text, ">", "&gt;");
+    return text;
+}
+
+// Puts a text in the place of a mark that the page must have.
+void Fill(std::string &page, std::string_view mark, std::string_view by)
+{
+    if (page.find(mark) == std::string::npos) {
+        Fail("no " + std::string(mark) + " in the page");
+    }
+    ReplaceAll(page, mark, by);
+}
+
+// ---- The table of keys -----------------------------------------------------------------------
+
+// A caption as the player reads it: without the mark of the access letter.
+std::string Words(std::string_view caption)
+{
+    std::string words;
+    for (std::size_t k = 0; k < caption.size(); ++k) {
+        if (caption[k] == '&' && k + 1 < caption.size() && caption[k + 1] != '&') {
+            continue;
+        }
+        words += caption[k];
+        k += caption[k] == '&' ? 1 : 0;
+    }
+    return words;
+}
+
+// A caption or shortcut of a row that stands for several numbers: "Ctrl+1 to Ctrl+9".
+std::string Range(std::string_view text, const MenuRow &row)
+{
+    const std::string first = WithNumber(text, row.First);
+    const std::string last = WithNumber(text, row.Last);
+    return first == last ? first : first + " to " + last;
+}
+
+std::string KeyTableHtml()
+{
+    std::string html;
+    std::string menu;
+    std::string submenu;
+    for (const MenuRow &row : MenuTable) {
+        if (row.Level == 1) {
+            menu = Words(row.Caption);
+        }
+        if (row.Level < 3) {
+            submenu = row.Run == nullptr ? Words(row.Caption) + ": " : "";
+        }
+        if (row.Shortcut.empty()) {
+            continue;
+        }
+        if (!menu.empty()) {
+            html += "<tr><th colspan=\"2\">" + Escaped(menu) + "</th></tr>\n";
+            menu.clear();
+        }
+        const std::string group = row.Level == 3 ? submenu : "";
+        html += "<tr><td>" + Escaped(Range(row.Shortcut, row)) + "</td><td>" +
+                Escaped(group + Range(Words(row.Caption), row)) + "</td></tr>\n";
+    }
+    return "<table class=\"keys\">\n" + html + "</table>\n";
+}
+
+void MakeKeyboardPage(const std::string &page, const std::string &output)
+{
+    std::string text = ReadText(page);
+    Fill(text, "@KEYS@", KeyTableHtml());
+    WriteText(output, text);
+}
+
+// ---- Examples --------------------------------------------------------------------------------
+
+// Puts the position of a page on the board and takes the game's first hint on it.
+void ShowHintOn(const std::string &page)
+{
+    const std::string position = PositionOf(page);
+    if (ReadPosition(position) != 81) {
+        Fail("the position of the page is not whole");
+    }
+    CountGivens();
+    RateGame();
+    ScanAlerts(FullHint);
+    if (HintText.empty()) {
+        Fail("the game has no hint on the position of the page");
+    }
+}
+
+void PaintPicture(const std::string &path)
+{
+    MarginThickness = LeastTextMargin;
+    LayoutBoard(PictureSide, PictureSide, 0);
+    SetMarginDefaults();
+
+    QImage board(PictureRatio * BoardPlace.Width, PictureRatio * BoardPlace.Height,
+                 QImage::Format_RGB32);
+    board.setDevicePixelRatio(PictureRatio);
+    PaintBoard(board);
+
+    QImage picture(PictureRatio * PictureSide, PictureRatio * PictureSide, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(PictureRatio);
+    QPainter painter(&picture);
+    PaintWindowTexts(painter, PictureSide, PictureSide);
+    painter.drawImage(QPoint(BoardPlace.X, BoardPlace.Y), board);
+    painter.end();
+    if (!picture.save(QString::fromStdString(path), "PNG")) {
+        Fail("cannot write " + path);
+    }
+}
+
+// The words of the hint as the game shows them.
+std::string HintWords()
+{
+    std::string words = Escaped(HintText);
+    ReplaceAll(words, "a 8", "an 8");
+    while (!words.empty() && words.back() == '\r') {
+        words.pop_back();
+    }
+    ReplaceAll(words, "\r", "<br>");
+    return words;
+}
+
+void MakeTechniquePage(const std::string &page, const std::string &frame, const std::string &output,
+                       const std::string &picture)
+{
+    std::string text = ReadText(page);
+    ShowHintOn(text);
+    PaintPicture(picture);
+
+    std::string example = ReadText(frame);
+    const QFileInfo file(QString::fromStdString(picture));
+    Fill(example, "@PICTURE@", file.fileName().toStdString());
+    Fill(example, "@TITLE@", Escaped(HintTitle));
+    Fill(example, "@WORDS@", HintWords());
+    Fill(text, "@EXAMPLE@", example);
+    WriteText(output, text);
+}
+
+int Run(std::span<char *> arguments)
+{
+    SetDefaults();
+    const std::string_view kind = arguments.size() > 1 ? arguments[1] : "";
+    if (kind == "keyboard" && arguments.size() == 4) {
+        MakeKeyboardPage(arguments[2], arguments[3]);
+        return EXIT_SUCCESS;
+    }
+    if (kind == "technique" && arguments.size() == 6) {
+        MakeTechniquePage(arguments[2], arguments[3], arguments[4], arguments[5]);
+        return EXIT_SUCCESS;
+    }
+    Fail("keyboard PAGE OUTPUT, or technique PAGE FRAME OUTPUT PICTURE");
+}
+
+} // namespace
+
+} // namespace kelvarine
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    return kelvarine::Run({argv, static_cast<std::size_t>(argc)});
+}
