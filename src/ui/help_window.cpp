@@ -36,6 +36,7 @@ constexpr int SmallestZoom = -4;
 constexpr int LargestZoom = 12;
 constexpr double PictureStep = 0.1; // by which a step of zoom changes a picture
 constexpr int MostResults = 50;
+constexpr double PageMargin = 16;
 constexpr int MessageTime = 8000; // milliseconds
 
 QPointer<HelpWindow> helpWindow;
@@ -62,15 +63,13 @@ HelpBrowser::HelpBrowser(const QHelpEngineCore &helpEngine, QWidget *parent)
 {
     setOpenLinks(false);
     setAccessibleName(tr("Help page"));
+    document()->setDocumentMargin(PageMargin);
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &name)
 {
-    const QUrl page = source().resolved(name);
-    if (page.scheme() != QLatin1String("qthelp")) {
-        return {};
-    }
-    const QByteArray bytes = engine.fileData(page);
+    // All pages lie in one folder, and nothing but the help is ever read.
+    const QByteArray bytes = engine.fileData(PageOfContext(engine, 0).resolved(name));
     if (type == QTextDocument::ImageResource) {
         return Picture(bytes);
     }
@@ -187,7 +186,7 @@ QWidget *HelpWindow::BuildContents()
             [contents](const QModelIndex &index) { emit contents->activated(index); });
     connect(help->Engine->contentModel(), &QHelpContentModel::contentsCreated, contents, [=, this] {
         contents->expandToDepth(0);
-        PageChanged();
+        PageChanged(Browser->source());
     });
     return contents;
 }
@@ -253,11 +252,11 @@ void HelpWindow::CopyPosition()
     statusBar()->showMessage(tr("The position is copied. Press Ctrl+V on the board."), MessageTime);
 }
 
-void HelpWindow::PageChanged()
+void HelpWindow::PageChanged(const QUrl &page)
 {
     setWindowTitle(Browser->documentTitle() + QStringLiteral(" - Kelvarine Help"));
     QHelpContentWidget *contents = help->Engine->contentWidget();
-    const QModelIndex place = contents->indexOf(Browser->source());
+    const QModelIndex place = contents->indexOf(page);
     if (place.isValid()) {
         contents->setCurrentIndex(place);
         contents->scrollTo(place);
@@ -313,10 +312,10 @@ HelpWindow *OpenHelpWindow()
     return helpWindow;
 }
 
-void ShowHelpTopic(int context)
+void ShowHelpOf(const QString &folder, int context)
 {
     if (helpWindow == nullptr) {
-        std::unique_ptr<HelpCollection> help = OpenHelp(HelpFolder());
+        std::unique_ptr<HelpCollection> help = OpenHelp(folder);
         if (help == nullptr) {
             ShowMessage("The help can't be shown, because its files are missing or damaged.\r\r"
                         "Installing Kelvarine again brings them back.");
@@ -326,6 +325,11 @@ void ShowHelpTopic(int context)
         QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [] { delete helpWindow; });
     }
     helpWindow->ShowTopic(context);
+}
+
+void ShowHelpTopic(int context)
+{
+    ShowHelpOf(HelpFolder(), context);
 }
 
 } // namespace kelvarine

@@ -62,7 +62,7 @@ private:
     QWidget *BuildSearch();
     void OpenLink(const QUrl &link);
     void CopyPosition();
-    void PageChanged();
+    void PageChanged(const QUrl &page);
     void Search();
     void ShowSearchResults();
     void StandBesideModalWindow();
@@ -74,5 +74,9 @@ private:
 
 // The one help window, or null before it is first asked for.
 HelpWindow *OpenHelpWindow();
+
+// Shows the help that lies in a folder at the topic of a context number; a message when it is not
+// there.
+void ShowHelpOf(const QString &folder, int context);
 
 } // namespace kelvarine
