@@ -13,6 +13,7 @@
 #include "ui/presentation.h"
 
 #include <QFile>
+#include <QHelpLink>
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
@@ -137,11 +138,12 @@ TEST_F(HelpPages, ContentsAndIndexLeadToPagesAndNoPageIsForgotten)
     for (const QString &page : Captures(project, "ref=\"([^\"]*)\"")) {
         EXPECT_FALSE(Page(page).isEmpty()) << page.toStdString();
     }
-    const QStringList contents = Captures(project, "<section [^>]*ref=\"([^\"]*)\"");
+    QStringList contents = Captures(project, "<section [^>]*ref=\"([^\"]*)\"");
+    contents.removeDuplicates();
     for (const QString &file : Files()) {
         EXPECT_TRUE(contents.contains(file)) << file.toStdString() << " is not in the contents";
     }
-    EXPECT_EQ(Files().size(), 47);
+    EXPECT_EQ(Files().size(), contents.size());
 }
 
 TEST_F(HelpPages, EveryWordOfTheIndexLeadsToOnePage)

@@ -1,11 +1,8 @@
-#include "game/lifecycle.h"
 #include "support/widget_program.h"
-#include "ui/help_page.h"
 #include "ui/help_window.h"
 #include "ui/presentation.h"
 
 #include <QAccessible>
-#include <QClipboard>
 #include <QDialog>
 #include <QFile>
 #include <QHelpContentWidget>
@@ -16,6 +13,9 @@
 #include <QToolBar>
 #include <QtTest>
 #include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/resource.h>
 
 namespace kelvarine::testing {
 
@@ -34,12 +34,42 @@ struct HelpWindowTest : ::testing::Test {
     HelpWindowTest(const HelpWindowTest &) = delete;
     HelpWindowTest &operator=(const HelpWindowTest &) = delete;
 
+    // Asks for a topic as a screen does, and waits until the window has come to the front.
+    static HelpWindow *Show(int context)
+    {
+        ShowHelpTopic(context);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(OpenHelpWindow()));
+        return OpenHelpWindow();
+    }
+
     static std::string PageOnView()
     {
         return OpenHelpWindow()->Browser->source().fileName().toStdString();
     }
 
     Program Game;
+};
+
+// As long as this lives no file can grow, as on a disk without room.
+class FullDisk {
+public:
+    FullDisk() : handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit nothing{0, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &nothing);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &before);
+        std::signal(SIGXFSZ, handler);
+    }
+
+private:
+    rlimit before{};
+    void (*handler)(int);
 };
 
 QByteArray BytesOf(const QString &path)
@@ -77,8 +107,7 @@ TEST_F(HelpWindowTest, OpensAtTheTopicThatAScreenAsksFor)
 TEST_F(HelpWindowTest, WalksBackForwardAndHome)
 {
     ShowHelpTopic(202);
-    ShowHelpTopic(204);
-    HelpWindow *window = OpenHelpWindow();
+    HelpWindow *window = Show(204);
     QTest::keyClick(window, Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(PageOnView(), "settings-new-games.html");
     QTest::keyClick(window, Qt::Key_Right, Qt::AltModifier);
@@ -89,8 +118,7 @@ TEST_F(HelpWindowTest, WalksBackForwardAndHome)
 
 TEST_F(HelpWindowTest, EscapeClosesAndTheNextOpeningFindsTheSamePlaceAndSize)
 {
-    ShowHelpTopic(0);
-    HelpWindow *window = OpenHelpWindow();
+    HelpWindow *window = Show(0);
     window->resize(640, 480);
     window->move(30, 40);
     window->Tabs->setCurrentIndex(1);
@@ -119,8 +147,7 @@ TEST_F(HelpWindowTest, ContentsFollowThePageAndLeadToIt)
 
 TEST_F(HelpWindowTest, IndexNarrowsDownToTheTypedWord)
 {
-    ShowHelpTopic(0);
-    HelpWindow *window = OpenHelpWindow();
+    HelpWindow *window = Show(0);
     auto *index = window->findChild<QHelpIndexWidget *>();
     ASSERT_TRUE(QTest::qWaitFor([&] { return index->model()->rowCount() > 50; }, Patience));
     window->Tabs->setCurrentIndex(1);
@@ -133,8 +160,7 @@ TEST_F(HelpWindowTest, IndexNarrowsDownToTheTypedWord)
 
 TEST_F(HelpWindowTest, SearchFindsPagesByTheirWords)
 {
-    ShowHelpTopic(0);
-    HelpWindow *window = OpenHelpWindow();
+    HelpWindow *window = Show(0);
     QTest::keyClick(window, Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(window->Tabs->currentIndex(), 2);
     QTest::keyClicks(window->SearchText, QStringLiteral("hinge"));
@@ -153,8 +179,7 @@ TEST_F(HelpWindowTest, SearchFindsPagesByTheirWords)
 
 TEST_F(HelpWindowTest, SearchForAnUnknownWordSaysSo)
 {
-    ShowHelpTopic(0);
-    HelpWindow *window = OpenHelpWindow();
+    HelpWindow *window = Show(0);
     window->SearchText->setText(QStringLiteral("xylophone"));
     QTest::keyClick(window->SearchText, Qt::Key_Return);
     ASSERT_TRUE(QTest::qWaitFor([&] { return window->SearchResults->count() > 0; }, Patience));
@@ -200,13 +225,15 @@ TEST_F(HelpWindowTest, CanBeUsedBesideAModalWindow)
     QDialog dialog(Game.Main.get());
     dialog.setModal(true);
     dialog.show();
-    ShowHelpTopic(600);
-    HelpWindow *window = OpenHelpWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    HelpWindow *window = Show(600);
     // Through the window system, which holds back what goes to a blocked window.
     QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
     EXPECT_FALSE(window->isVisible());
     dialog.close();
-    ShowHelpTopic(202);
+    Game.Main->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Game.Main.get()));
+    Show(202);
     EXPECT_EQ(window->windowHandle()->transientParent(), nullptr);
     QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
     EXPECT_FALSE(window->isVisible());
@@ -271,13 +298,12 @@ TEST(HelpCollection, DamagedFileIsNoHelp)
     EXPECT_EQ(OpenHelp(folder.path() + u'/'), nullptr);
 }
 
-TEST(HelpCollection, WithoutRoomToWriteThereIsHelpButNoSearch)
+TEST(HelpCollection, FullDiskStillShowsHelpButHasNoSearch)
 {
-    const QByteArray before = qgetenv("TMPDIR");
     const QString collection = HelpFolder() + QStringLiteral("kelvarine.qhc");
     const QByteArray bytes = BytesOf(collection);
-    qputenv("TMPDIR", "/no/such/folder");
     {
+        const FullDisk disk;
         const std::unique_ptr<HelpCollection> help = OpenHelp(HelpFolder());
         ASSERT_NE(help, nullptr);
         EXPECT_FALSE(help->Searchable);
@@ -285,8 +311,9 @@ TEST(HelpCollection, WithoutRoomToWriteThereIsHelpButNoSearch)
         HelpWindow window(OpenHelp(HelpFolder()));
         EXPECT_FALSE(window.SearchText->isEnabled());
         EXPECT_EQ(window.SearchResults->count(), 1);
+        window.ShowTopic(208);
+        EXPECT_EQ(window.Browser->documentTitle(), QStringLiteral("Settings: Logic"));
     }
-    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
     EXPECT_EQ(BytesOf(collection), bytes) << "the installed collection is left alone";
 }
 
