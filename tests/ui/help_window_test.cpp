@@ -38,7 +38,8 @@ struct HelpWindowTest : ::testing::Test {
     static HelpWindow *Show(int context)
     {
         ShowHelpTopic(context);
-        EXPECT_TRUE(QTest::qWaitForWindowActive(OpenHelpWindow()));
+        EXPECT_TRUE(
+            QTest::qWaitFor([] { return QApplication::activeWindow() == OpenHelpWindow(); }));
         return OpenHelpWindow();
     }
 
