@@ -18,5 +18,5 @@ CHECK_PACKAGES=(
 # What looks at the package as the desktop and Debian do.
 DESKTOP_PACKAGES=(
     desktop-file-utils appstream shared-mime-info libxml2-utils
-    dpkg-dev lintian man-db
+    dpkg-dev lintian man-db libglib2.0-bin
 )

@@ -3,6 +3,7 @@
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "generator/random_source.h"
+#include "ui/help_key.h"
 #include "ui/main_window.h"
 #include "ui/presentation.h"
 #include "ui/session.h"
@@ -19,6 +20,7 @@ int RunProgram()
 
     MainWindow window;
     WatchForTheEnd();
+    WatchForHelpKey();
     StartGame(NewGame);
     GameModified = False;
     window.show();

@@ -1,6 +1,10 @@
+#include "grid/grid.h"
 #include "support/widget_program.h"
+#include "ui/board_widget.h"
+#include "ui/help_key.h"
 #include "ui/help_window.h"
 #include "ui/presentation.h"
+#include "ui/program_icon.h"
 
 #include <QAccessible>
 #include <QDialog>
@@ -276,6 +280,45 @@ TEST_F(HelpWindowTest, EveryControlHasANameAndARole)
             << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
     }
     EXPECT_GE(controls, 6);
+}
+
+TEST_F(HelpWindowTest, F1ShowsTheTopicOfTheWindowInFront)
+{
+    WatchForHelpKey();
+    QTest::keyClick(Game.Main->Client->Board, Qt::Key_F1);
+    ASSERT_NE(OpenHelpWindow(), nullptr);
+    EXPECT_EQ(PageOnView(), "index.html");
+    QWidget screen;
+    auto *control = new QLineEdit(&screen);
+    SetHelpContext(&screen, 214);
+    screen.show();
+    QTest::keyClick(control, Qt::Key_F1);
+    EXPECT_EQ(PageOnView(), "settings-colors.html");
+    SetHelpContext(&screen, 216);
+    QTest::keyClick(control, Qt::Key_F1);
+    EXPECT_EQ(PageOnView(), "settings-coordinates.html");
+    QTest::keyClick(control, Qt::Key_F1, Qt::ShiftModifier);
+    QTest::keyClick(control, Qt::Key_F2);
+    EXPECT_EQ(PageOnView(), "settings-coordinates.html");
+}
+
+TEST_F(HelpWindowTest, F1WaitsWhileASearchRuns)
+{
+    WatchForHelpKey();
+    SearchActive = True;
+    QTest::keyClick(Game.Main.get(), Qt::Key_F1);
+    SearchActive = False;
+    EXPECT_EQ(OpenHelpWindow(), nullptr);
+}
+
+TEST(ProgramIcon, HasEverySizeByItself)
+{
+    const QIcon icon = ProgramIcon();
+    for (const int size : {16, 32, 48, 64, 128, 256}) {
+        const QImage picture = icon.pixmap(size, size).toImage();
+        ASSERT_EQ(picture.size(), QSize(size, size));
+        EXPECT_EQ(picture.pixelColor(size / 2, size * 11 / 32), QColor(32, 96, 80)) << "a line";
+    }
 }
 
 TEST_F(HelpWindowTest, MissingHelpIsToldInPlainWords)
