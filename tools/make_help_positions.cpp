@@ -228,6 +228,7 @@ int Run(const char *path, int rounds, unsigned seed)
     source.seed(seed);
     const std::vector<GridTable> games = ReadGames(path);
     std::vector<GridTable> solutions;
+    solutions.reserve(games.size());
     for (const GridTable &game : games) {
         solutions.push_back(SolutionOf(game));
     }

@@ -41,7 +41,7 @@ QString HelpFolder()
     // Installed, beside the program in the build folder, beside the folder of a built test.
     constexpr std::array places{"/../share/kelvarine/help/", "/help/", "/../help/"};
     for (const char *place : places) {
-        const QString folder =
+        QString folder =
             QDir::cleanPath(QCoreApplication::applicationDirPath() + QString::fromLatin1(place)) +
             u'/';
         if (QFile::exists(folder + QLatin1String(CompiledHelp))) {

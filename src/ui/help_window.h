@@ -27,13 +27,13 @@ public:
     void ResetZoom();
 
     // The position that the page on view offers; empty when it offers none.
-    std::string Position() const;
+    [[nodiscard]] std::string Position() const;
 
 protected:
     QVariant loadResource(int type, const QUrl &name) override;
 
 private:
-    QVariant Picture(const QByteArray &bytes) const;
+    [[nodiscard]] QVariant Picture(const QByteArray &bytes) const;
 
     const QHelpEngineCore &engine;
     int zoom = 0;

@@ -26,17 +26,17 @@ namespace {
 struct HelpPages : ::testing::Test {
     std::unique_ptr<HelpCollection> Help = OpenHelp(HelpFolder());
 
-    QUrl UrlOf(const QString &file) const
+    [[nodiscard]] QUrl UrlOf(const QString &file) const
     {
         return PageOfContext(*Help->Engine, 0).resolved(QUrl(file));
     }
 
-    QString Page(const QString &file) const
+    [[nodiscard]] QString Page(const QString &file) const
     {
         return QString::fromUtf8(Help->Engine->fileData(UrlOf(file)));
     }
 
-    QStringList Files() const
+    [[nodiscard]] QStringList Files() const
     {
         QStringList names;
         for (const QUrl &url : Help->Engine->files(QStringLiteral("kelvarine"), QStringList(),
