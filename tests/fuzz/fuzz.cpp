@@ -1,0 +1,66 @@
+#include "fuzz/fuzz.h"
+
+#include "board/board_painter.h"
+#include "board/geometry.h"
+#include "grid/grid.h"
+#include "support/presentation_double.h"
+
+#include <QGuiApplication>
+
+#include <cstdlib>
+#include <iostream>
+
+namespace kelvarine {
+
+// The board is painted for nobody here.
+void ShowBoardPicture()
+{
+}
+
+namespace testing {
+
+namespace {
+
+// Some grids without a solution keep trial and error going for longer than a fuzzer can wait, so a
+// run of the driver is stopped where the count of passes comes round.
+void StopLongRuns()
+{
+    constexpr int patience = 2000; // passes
+    Seen.OnYield = [passes = 0]() mutable {
+        if (++passes % patience == 0) {
+            SearchActive = False;
+        }
+    };
+}
+
+} // namespace
+
+void RestartWithBoard()
+{
+    constexpr int width = 300;
+    constexpr int height = 340;
+    Restart();
+    StopLongRuns();
+    LayoutBoard(width, height, 0);
+    SetBoardPictureSize(BoardPlace.Width, BoardPlace.Height, 1);
+}
+
+void Require(bool kept, const char *promise)
+{
+    if (!kept) {
+        std::cerr << "broken: " << promise << std::endl;
+        std::abort();
+    }
+}
+
+} // namespace testing
+
+} // namespace kelvarine
+
+int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Stands until the end of the process, as fonts do.
+    [[maybe_unused]] static const auto *application = new QGuiApplication(*argc, *argv);
+    return 0;
+}
