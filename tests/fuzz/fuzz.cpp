@@ -1,5 +1,6 @@
 #include "fuzz/fuzz.h"
 
+#include "board/board.h"
 #include "board/board_painter.h"
 #include "board/geometry.h"
 #include "grid/grid.h"
@@ -25,7 +26,7 @@ namespace {
 // run of the driver is stopped where the count of passes comes round.
 void StopLongRuns()
 {
-    constexpr int patience = 2000; // passes
+    constexpr int patience = 10; // passes
     Seen.OnYield = [passes = 0]() mutable {
         if (++passes % patience == 0) {
             SearchActive = False;
@@ -42,7 +43,14 @@ void RestartWithBoard()
     Restart();
     StopLongRuns();
     LayoutBoard(width, height, 0);
+    SetBoardPictureSize(1, 1, 1);
+}
+
+void LookAtBoard()
+{
     SetBoardPictureSize(BoardPlace.Width, BoardPlace.Height, 1);
+    DrawBoard();
+    SetBoardPictureSize(1, 1, 1);
 }
 
 void Require(bool kept, const char *promise)

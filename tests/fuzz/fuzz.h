@@ -18,8 +18,12 @@ namespace kelvarine::testing {
 // Inputs worth starting from that are too long to be kept as files.
 std::vector<std::string> LongSeeds();
 
-// Puts the program to the state of a start, with a board to paint on.
+// Puts the program to the state of a start, with a board of a single pixel, so that the paintings
+// after every undo cost next to nothing.
 void RestartWithBoard();
+
+// Paints the board in its size.
+void LookAtBoard();
 
 // Ends the process when a promise is broken.
 void Require(bool kept, const char *promise);

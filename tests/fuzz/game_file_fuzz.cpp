@@ -1,6 +1,5 @@
 // Any bytes as a game file, and then what a player does with the game: undo, redo, snapshot, a look
 // at it, saving.
-#include "board/board.h"
 #include "files/game_file.h"
 #include "fuzz/fuzz.h"
 #include "game/clock.h"
@@ -37,18 +36,18 @@ void RequireSoundHistory()
 
 void WalkHistory()
 {
-    DrawBoard();
+    LookAtBoard();
     for (int step = 0; step <= OldestSlot; ++step) {
         Undo();
     }
     RequireSoundHistory();
     Require(HistoryPosition == HistoryCount, "undo comes to its end");
-    DrawBoard();
+    LookAtBoard();
     for (int step = 0; step <= OldestSlot; ++step) {
         Redo();
     }
     Require(HistoryPosition <= 1, "redo comes to its end");
-    DrawBoard();
+    LookAtBoard();
 }
 
 void PlayOn()
@@ -64,7 +63,7 @@ void PlayOn()
     RequireSoundHistory();
     ClockTick();
     mnuPauseTime();
-    DrawBoard();
+    LookAtBoard();
     mnuPauseTime();
     SelectGameNumber("");
 }

@@ -1,5 +1,4 @@
 // Any bytes as a text: through every reader, and what they read through every writer and back.
-#include "board/board.h"
 #include "files/game_file.h"
 #include "files/text_case.h"
 #include "files/text_format.h"
@@ -41,7 +40,7 @@ void OpenAndSave(std::string_view text)
         Require(Grid == before, "what is no game leaves the grid alone");
         return;
     }
-    DrawBoard();
+    LookAtBoard();
     NumberFilter = CandidateMask;
     WriteAndRead(TextFileText, ReadGame, "a text file comes back");
 }
