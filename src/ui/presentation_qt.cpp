@@ -59,16 +59,18 @@ void MoveBesideBoard(QMessageBox &box)
     }
 }
 
-QMessageBox::StandardButton RunBox(QMessageBox::Icon icon, std::string_view text,
+QMessageBox::StandardButton RunBox(QMessageBox::Icon icon, const QString &text,
                                    std::string_view title, QMessageBox::StandardButtons buttons,
                                    QMessageBox::StandardButton defaultButton)
 {
     QWidget *above = QApplication::activeModalWidget();
-    QMessageBox box(icon, Text(title.empty() ? ProgramName : title), Text(text), buttons,
+    QMessageBox box(icon, Text(title.empty() ? ProgramName : title), text, buttons,
                     above != nullptr ? above : Window());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(defaultButton);
-    MoveBesideBoard(box);
+    if (above == nullptr) {
+        MoveBesideBoard(box);
+    }
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
@@ -85,22 +87,20 @@ void SwitchTimer(QTimer &timer, bool on, int milliseconds)
 
 void ShowMessage(std::string_view text, std::string_view title)
 {
-    RunBox(QMessageBox::NoIcon, text, title, QMessageBox::Ok, QMessageBox::Ok);
+    RunBox(QMessageBox::NoIcon, Text(text), title, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool AskYesNo(std::string_view text, std::string_view title)
 {
     // Questions are worded for boxes that show a doubled "&" as one.
-    const std::string shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))
-                                  .replace(QStringLiteral("&&"), QStringLiteral("&"))
-                                  .toStdString();
+    const QString shown = Text(text).replace(QStringLiteral("&&"), QStringLiteral("&"));
     return RunBox(QMessageBox::Question, shown, title, QMessageBox::Yes | QMessageBox::No,
                   QMessageBox::No) == QMessageBox::Yes;
 }
 
 Answer AskYesNoCancel(std::string_view text)
 {
-    switch (RunBox(QMessageBox::Question, text, ProgramName,
+    switch (RunBox(QMessageBox::Question, Text(text), ProgramName,
                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes)) {
     case QMessageBox::Yes:
         return Answer::Yes;
