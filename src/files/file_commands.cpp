@@ -49,14 +49,19 @@ void mnuOpen()
     if (LastAnswer == AnsweredCancel) {
         return;
     }
+    OpenGameFile(ChosenFilePath);
+}
+
+void OpenGameFile(const std::string &path)
+{
     DrawBanner(" Standby ");
-    if (!ReadGameFile(ChosenFilePath)) {
+    if (!ReadGameFile(path)) {
         DrawBoard(); // takes the banner down
         ShowMessage("Unable to open file.\r\r"
                     "Selected file is either corrupted or is not a sudoku game file.");
         return;
     }
-    GameFilePath = ChosenFilePath;
+    GameFilePath = path;
     ShowFileInTitle();
     GameModified = False;
     DrawBoard();

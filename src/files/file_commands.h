@@ -13,6 +13,9 @@ std::string FileNameOf(std::string_view path);
 // no game is told, and the game in hand goes on.
 void mnuOpen();
 
+// Opens a game by its full path, without any question.
+void OpenGameFile(const std::string &path);
+
 // Save the game: under the name that it has, asking for one when it has none; and under a name that
 // the player chooses.
 void mnuSave();

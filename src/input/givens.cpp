@@ -2,6 +2,7 @@
 
 #include "game/history.h"
 #include "game/lifecycle.h"
+#include "game/solutions.h"
 #include "grid/grid.h"
 #include "logic/rating.h"
 #include "ui/presentation.h"
@@ -64,6 +65,7 @@ void HideSelected(const Hide &hide)
     CountGivens();
     if (changed) {
         PushUndoState();
+        RefreshSolutions();
         FinishChange();
     }
 }
@@ -135,6 +137,7 @@ void mnuMakeGiven()
         PushUndoState();
         RateGame();
         CountGivens();
+        RefreshSolutions();
         FinishChange();
     }
 }

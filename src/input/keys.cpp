@@ -1,15 +1,18 @@
 #include "input/keys.h"
 
+#include "files/file_commands.h"
 #include "files/text_commands.h"
 #include "game/assistance.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/new_games.h"
+#include "game/transforms.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
 #include "input/givens.h"
 #include "input/mouse.h"
 #include "input/number_keys.h"
+#include "input/screen_commands.h"
 #include "input/selection.h"
 #include "input/toolbar.h"
 #include "logic/driver.h"
@@ -96,34 +99,38 @@ constexpr std::array Rows{
     KeyRow{UpCode, AnyShift, Step<Arrow::Up>},
     KeyRow{RightCode, AnyShift, Step<Arrow::Right>},
     KeyRow{DownCode, AnyShift, Step<Arrow::Down>},
-    KeyRow{'A', CtrlKey, nullptr},
+    KeyRow{'A', CtrlKey, Plain<mnuSaveAs>},
     KeyRow{'A', AnyShift, Plain<mnuShowAlertReason>},
     KeyRow{'B', CtrlKey, Plain<mnuGameBlankGrid>},
     KeyRow{'B', AnyShift, Plain<mnuSelectBox>},
     KeyRow{'C', CtrlKey, Plain<mnuCopyGridFormat>},
     KeyRow{'C', AnyShift, Plain<mnuSelectColumn>},
     KeyRow{'D', AnyShift, Plain<mnuSelectDomain>},
+    KeyRow{'F', ShiftKey, Plain<mnuFlipGrid>},
     KeyRow{'G', CtrlKey, Plain<mnuMakeGiven>},
     KeyRow{'H', 0, Plain<mnuHint>},
     KeyRow{'H', ShiftKey, Plain<mnuHideSelectedCellsForce>},
     KeyRow{'H', CtrlKey, Plain<mnuHideSelectedCellsConditional>},
     KeyRow{'I', AnyShift, Plain<mnuSelectIntersection>},
-    KeyRow{'L', ShiftKey, nullptr},
+    KeyRow{'L', ShiftKey, Plain<mnuRotateGrid90Left>},
     KeyRow{'L', CtrlKey, Plain<mnuApplyLogic>},
     KeyRow{'L', AnyShift, Plain<mnuShowLogicNeeded>},
+    KeyRow{'M', ShiftKey, Plain<mnuMirrorGrid>},
     KeyRow{'N', CtrlKey, Plain<mnuGameRandom>},
-    KeyRow{'P', CtrlKey, nullptr},
+    KeyRow{'O', CtrlKey, Plain<mnuOpen>},
+    KeyRow{'P', CtrlKey, Plain<mnuPrint>},
     KeyRow{'P', AnyShift, Plain<mnuSelectPeers>},
-    KeyRow{'R', ShiftKey, nullptr},
+    KeyRow{'R', ShiftKey, Plain<mnuRotateGrid90Right>},
     KeyRow{'R', CtrlKey, Plain<mnuRestartSameGame>},
     KeyRow{'R', AnyShift, Plain<mnuSelectRow>},
-    KeyRow{'S', CtrlKey, nullptr},
+    KeyRow{'S', CtrlKey, Plain<mnuSave>},
     KeyRow{'S', ShiftKey | CtrlKey, nullptr},
     KeyRow{'S', AnyShift, Plain<mnuTakeSnapshot>},
     KeyRow{'T', CtrlKey, Plain<mnuGameTextString>},
     KeyRow{'U', AnyShift, Plain<UseSnapshot>},
     KeyRow{'V', CtrlKey, Plain<mnuGameClipboard>},
     KeyRow{'W', AnyShift, Plain<mnuSelectWholeGrid>},
+    KeyRow{'X', CtrlKey, Plain<mnuExposeSelectedCells>},
     KeyRow{'Y', CtrlKey, Plain<Redo>},
     KeyRow{'Z', ShiftKey, Plain<mnuSolveGame>},
     KeyRow{'Z', CtrlKey, Plain<Undo>},

@@ -2,17 +2,23 @@
 
 #include "board/board.h"
 #include "board/look.h"
+#include "files/file_commands.h"
 #include "files/text_commands.h"
 #include "game/assistance.h"
 #include "game/clock.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/new_games.h"
+#include "game/screens.h"
+#include "game/solutions.h"
+#include "game/statistics.h"
+#include "game/transforms.h"
 #include "grid/grid.h"
 #include "input/givens.h"
 #include "input/keys.h"
 #include "input/mouse.h"
 #include "input/number_keys.h"
+#include "input/screen_commands.h"
 #include "input/selection.h"
 #include "input/toolbar.h"
 #include "logic/rating.h"
@@ -79,6 +85,10 @@ void ToggleCoordinates()
     constexpr std::int32_t roomForText = 28;
     CoordinatesVisible = Flipped(CoordinatesVisible);
     if (CoordinatesVisible != False && MarginThickness < roomForText) {
+        if (ConfigureOpen != False) {
+            MoveMarginBar(roomForText); // its change does the rest
+            return;
+        }
         MarginThickness = roomForText;
     }
     ResizeWindow();
@@ -133,10 +143,16 @@ constexpr std::array Rows{
     MenuRow{3, "mnuGameTextString", "From &text string", "Ctrl+T", Plain<mnuGameTextString>},
     MenuRow{3, "mnuGameBlankGrid", "&Blank grid", "Ctrl+B", Plain<mnuGameBlankGrid>},
     MenuRow{2, "mnuRestartSameGame", "&Restart", "Ctrl+R", Plain<mnuRestartSameGame>},
+    MenuRow{2, "mnuOpen", "&Open", "Ctrl+O", Plain<mnuOpen>},
+    MenuRow{2, "mnuSave", "&Save", "Ctrl+S", Plain<mnuSave>},
+    MenuRow{2, "mnuSaveAs", "Save &As", "Ctrl+A", Plain<mnuSaveAs>},
     MenuRow{2, "mnuCopy2Clipboard", "Copy to clip&board", ""},
     MenuRow{3, "mnuCopyGridFormat", "&Grid format", "Ctrl+C", Plain<mnuCopyGridFormat>},
     MenuRow{3, "mnuCopySingleLineFormat", "&Single-line format", "Ctrl+ -",
             Plain<mnuCopySingleLineFormat>},
+    MenuRow{2, "mnuPrint", "&Print", "Ctrl+P", Plain<mnuPrint>},
+    MenuRow{2, "mnuBreak1", SeparatorCaption, ""},
+    MenuRow{2, "mnuConfigure", "&Configure ...", "", Plain<mnuConfigure>},
     MenuRow{1, "mnuAction", "&Action", ""},
     MenuRow{2, "mnuUndo", "&UnDo (Page Up)", "Ctrl+Z", PressKey<PageUpCode, 0>, 0, 0, CanUndo},
     MenuRow{2, "mnuReDo", "R&eDo (Page Dn)", "Ctrl+Y", PressKey<PageDownCode, 0>, 0, 0, CanRedo},
@@ -160,12 +176,19 @@ constexpr std::array Rows{
     MenuRow{2, "mnuSelectPeers", "Select &peers", "P", Plain<mnuSelectPeers>},
     MenuRow{2, "mnuSelectIntersection", "Select &intersection", "I", Plain<mnuSelectIntersection>},
     MenuRow{2, "mnuSelectWholeGrid", "Select &whole grid", "W", Plain<mnuSelectWholeGrid>},
+    MenuRow{2, "mnuBreak5", SeparatorCaption, ""},
+    MenuRow{2, "mnuGridOrientation", "Grid &orientation", ""},
+    MenuRow{3, "mnuRotateGrid90Left", "Rotate 90` &left", "Shift+L", Plain<mnuRotateGrid90Left>},
+    MenuRow{3, "mnuRotateGrid90Right", "Rotate 90` &right", "Shift+R", Plain<mnuRotateGrid90Right>},
+    MenuRow{3, "mnuMirrorGrid", "&Mirror (horizontal)", "Shift+M", Plain<mnuMirrorGrid>},
+    MenuRow{3, "mnuFlipGrid", "&Flip (vertical)", "Shift+F", Plain<mnuFlipGrid>},
     MenuRow{1, "mnuView", "&View", ""},
     MenuRow{2, "mnuViewToolBar", "&Toolbar", "", Plain<ToggleToolbar>, 0, 0, nullptr, ShowsToolbar},
     MenuRow{2, "mnuViewToolTips", "T&oolbar tips", "", Plain<ToggleToolTips>, 0, 0, ShowsToolbar,
             ShowsToolTips},
     MenuRow{2, "mnuViewCoordinates", "&Coordinates", "", Plain<ToggleCoordinates>, 0, 0, nullptr,
             ShowsCoordinates},
+    MenuRow{2, "mnuAlerts", "&Alerts ...", "", Plain<mnuAlerts>},
     MenuRow{2, "mnuStrong", "&Strong links", ""},
     MenuRow{3, "mnuStrongLinks", "&Never", "", SetStrongLinks, 0, 0, nullptr, LinksAsSet},
     MenuRow{3, "mnuStrongLinks", "&Only in isolated views", "", SetStrongLinks, 1, 1, nullptr,
@@ -174,19 +197,26 @@ constexpr std::array Rows{
     MenuRow{2, "mnuIsolatedNumbers", "&Isolated numbers", ""},
     MenuRow{3, "mnuGridView", "&All", "Ctrl+Shift+#", ViewNumber, 0, 0, nullptr, IsInView},
     MenuRow{3, "mnuGridView", "&#'s", "Ctrl+Shift+#", ViewNumber, 1, 9, nullptr, IsInView},
+    MenuRow{1, "mnuStatistics", "&Statistics", "", Plain<mnuStatistics>},
     MenuRow{1, "mnuHelp", "&Help", ""},
+    MenuRow{2, "mnuHelpContents", "&Contents ...", "", Plain<mnuHelpContents>},
+    MenuRow{2, "mnuBreak6", SeparatorCaption, ""},
     MenuRow{2, "mnuHint", "&Hint", "H", Plain<mnuHint>},
     MenuRow{2, "mnuShowAlertReason", "Show reason for &alert in selected cell", "A",
             Plain<mnuShowAlertReason>},
     MenuRow{2, "mnuShowLogicNeeded", "Show &logic needed to solve", "L", Plain<mnuShowLogicNeeded>},
     MenuRow{2, "mnuApplyLogic", "Apply selected solve l&ogic", "Ctrl+L", Plain<mnuApplyLogic>},
+    MenuRow{2, "mnuShowSolution", "Show &solution(s)", "", Plain<mnuShowSolution>},
     MenuRow{2, "mnuSolveGame", "Solve this ga&me", "Shift+Z", Plain<mnuSolveGame>},
     MenuRow{2, "mnuBreak7", SeparatorCaption, ""},
     MenuRow{2, "mnuHideSelectedCellsConditional", "Hide selected cells (co&nditional)", "Ctrl+H",
             PressKey<'H', CtrlKey>},
     MenuRow{2, "mnuHideSelectedCellsForce", "Hide selected cells (a&bsolute)", "Shift+H",
             PressKey<'H', ShiftKey>},
+    MenuRow{2, "mnuExposeSelectedCells", "E&xpose selected cells", "Ctrl+X",
+            Plain<mnuExposeSelectedCells>},
     MenuRow{2, "mnuMakeGiven", "Make selected cells &given", "Ctrl+G", PressKey<'G', CtrlKey>},
+    MenuRow{2, "mnuAbout", "Abo&ut Kelvarine ...", "", Plain<mnuAbout>},
     MenuRow{1, "mnuTime", "&Time", ""},
     MenuRow{2, "mnuPauseTime", "&Pause", "F12", Plain<mnuPauseTime>},
     MenuRow{2, "mnuResetTime", "&Reset", "", Plain<mnuResetTime>},

@@ -15,7 +15,7 @@ struct MenuRow {
     std::string_view Name;
     std::string_view Caption;  // & before the access letter; # stands for the number
     std::string_view Shortcut; // the same; empty for none
-    void (*Run)(std::int32_t number) = nullptr; // null for a menu of further entries
+    void (*Run)(std::int32_t number) = nullptr; // null for a menu of further entries or a line
     std::int32_t First = 0; // the row stands for one entry for each number of this range
     std::int32_t Last = 0;
     bool (*Enabled)(std::int32_t number) = nullptr; // null: always

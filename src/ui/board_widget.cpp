@@ -10,8 +10,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include <algorithm>
-#include <array>
 #include <utility>
 
 namespace kelvarine {
@@ -22,15 +20,6 @@ namespace {
 bool IsSignKey(std::int32_t code)
 {
     return code == ShiftCode || code == CtrlCode;
-}
-
-// Modifiers that serve the menus and the window manager mean nothing by themselves: the question
-// of a search must not get in the way of closing the window by Alt and F4.
-bool IsDesktopKey(int key)
-{
-    constexpr std::array keys{Qt::Key_Alt,     Qt::Key_AltGr,   Qt::Key_Meta,
-                              Qt::Key_Super_L, Qt::Key_Super_R, Qt::Key_Menu};
-    return std::ranges::find(keys, key) != keys.end();
 }
 
 } // namespace

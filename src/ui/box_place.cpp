@@ -16,7 +16,7 @@ int Centred(int middle, int length, int first, int last)
 
 } // namespace
 
-std::optional<QPoint> PlaceBeside(const QRect &area, const QSize &box, const QRect &screen)
+std::optional<QPoint> BoxBeside(const QRect &area, const QSize &box, const QRect &screen)
 {
     const int y = Centred(area.center().y(), box.height(), screen.top(), screen.bottom());
     if (const int x = area.right() + 1 + Gap; x + box.width() - 1 <= screen.right()) {

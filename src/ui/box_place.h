@@ -11,6 +11,6 @@ namespace kelvarine {
 
 // Top left corner for a box of a size, its frame included, on a screen: to the right of an area
 // where there is room, else to its left, else below it. Nothing where there is room nowhere.
-std::optional<QPoint> PlaceBeside(const QRect &area, const QSize &box, const QRect &screen);
+std::optional<QPoint> BoxBeside(const QRect &area, const QSize &box, const QRect &screen);
 
 } // namespace kelvarine

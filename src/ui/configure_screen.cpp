@@ -1,17 +1,19 @@
 #include "ui/configure_screen.h"
 
-#include "configure/window_places.h"
 #include "game/screens.h"
 #include "grid/grid.h"
 #include "ui/colours_tab.h"
 #include "ui/configure_controls.h"
 #include "ui/coordinates_tab.h"
 #include "ui/grid_tab.h"
+#include "ui/help_key.h"
 #include "ui/logic_tab.h"
 #include "ui/main_window.h"
 #include "ui/new_games_tab.h"
+#include "ui/placing.h"
 #include "ui/presentation.h"
 #include "ui/preset_tab.h"
+#include "ui/print_tab.h"
 #include "ui/sound_tab.h"
 #include "ui/tab_strip.h"
 
@@ -41,15 +43,10 @@ struct TabRow {
     QWidget *(*Make)(QWidget *parent);
 };
 
-QWidget *MakeEmptyPanel(QWidget *parent)
-{
-    return new QWidget(parent);
-}
-
 constexpr std::array<TabRow, TabCount> TabRows{{
     {"New Games", "picTabNewGame", 'N', 202, MakeNewGamesTab},
     {"Sound", "picTabSound", 'S', 204, MakeSoundTab},
-    {"Print", "picTabPrint", 'P', 206, MakeEmptyPanel},
+    {"Print", "picTabPrint", 'P', 206, MakePrintTab},
     {"Logic", "picTabLogic", 'L', 208, MakeLogicTab},
     {"Preset Grids", "picTabPresetGrids", 'E', 210, MakePresetTab},
     {"Grid", "picTabGrid", 'G', 212, MakeGridTab},
@@ -68,25 +65,6 @@ std::array<QString, TabCount> TabTexts()
     std::ranges::transform(TabRows, texts.begin(),
                            [](const TabRow &row) { return TextOf(row.Text); });
     return texts;
-}
-
-WindowPlace PlaceOf(const QRect &rectangle)
-{
-    return {rectangle.x(), rectangle.y(), rectangle.width(), rectangle.height()};
-}
-
-// Where the screen opens: where it was, brought back into reach, or beside the board.
-WindowPlace OpeningPlace(const QSize &size)
-{
-    if (ConfigurePlace.Width > 0) {
-        const QPoint middle(ConfigurePlace.Left + ConfigurePlace.Width / 2,
-                            ConfigurePlace.Top + ConfigurePlace.Height / 2);
-        const QScreen *screen = QGuiApplication::screenAt(middle);
-        screen = screen != nullptr ? screen : Window()->screen();
-        return BroughtOnScreen(ConfigurePlace, PlaceOf(screen->availableGeometry()));
-    }
-    return PlaceBeside(PlaceOf(Window()->frameGeometry()), size.width(), size.height(),
-                       PlaceOf(Window()->screen()->availableGeometry()));
 }
 
 // Events by which the player would change something.
@@ -195,6 +173,7 @@ void ConfigureScreen::ShowTab()
         const bool shown = panels[tab] == CurrentPanel();
         if (shown) {
             helpContext = TabRows[tab].HelpContext;
+            SetHelpContext(this, helpContext);
         }
         panels[tab]->setVisible(shown);
     }
@@ -227,27 +206,20 @@ void ConfigureScreen::ArrangePanels()
     }
 }
 
-void ConfigureScreen::KeepPlace()
-{
-    if (isVisible() && !isMinimized()) {
-        ConfigurePlace = {x(), y(), width(), height()};
-    }
-}
-
 void ConfigureScreen::resizeEvent(QResizeEvent * /*event*/)
 {
     ArrangePanels();
-    KeepPlace();
+    KeepPlace(*this, ConfigurePlace);
 }
 
 void ConfigureScreen::moveEvent(QMoveEvent * /*event*/)
 {
-    KeepPlace();
+    KeepPlace(*this, ConfigurePlace);
 }
 
 void ConfigureScreen::closeEvent(QCloseEvent * /*event*/)
 {
-    KeepPlace();
+    KeepPlace(*this, ConfigurePlace);
     ConfigureOpen = False;
     // The window goes when events run next; until then another one may open.
     openScreen = nullptr;
@@ -259,9 +231,6 @@ void ConfigureScreen::keyPressEvent(QKeyEvent *event)
     switch (event->key()) {
     case Qt::Key_Escape:
         close();
-        break;
-    case Qt::Key_F1:
-        ShowHelpTopic(helpContext);
         break;
     default:
         event->ignore();
@@ -293,7 +262,8 @@ bool ConfigureScreen::eventFilter(QObject *watched, QEvent *event)
         return false;
     }
     const auto *widget = qobject_cast<const QWidget *>(watched);
-    return widget != nullptr && widget->window() == this;
+    // The button of a batch asks whether to stop it.
+    return widget != nullptr && widget->window() == this && widget->objectName() != "cmdPrint";
 }
 
 void ShowConfigureScreen()
@@ -301,17 +271,10 @@ void ShowConfigureScreen()
     if (openScreen == nullptr) {
         ConfigureOpen = True;
         auto *screen = new ConfigureScreen(Window());
-        const WindowPlace place = OpeningPlace(screen->size());
-        screen->resize(place.Width, place.Height);
-        screen->move(place.Left, place.Top);
+        OpenAt(*screen, ConfigurePlace);
     }
     openScreen->ShowTab();
-    if (openScreen->isMinimized()) {
-        openScreen->showNormal();
-    }
-    openScreen->show();
-    openScreen->raise();
-    openScreen->activateWindow();
+    BringToFront(*openScreen);
 }
 
 void MoveMarginBar(std::int32_t thickness)

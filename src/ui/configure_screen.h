@@ -43,7 +43,6 @@ protected:
 private:
     void AddAccessKeys();
     void ArrangePanels();
-    void KeepPlace();
 
     std::array<QWidget *, TabCount> panels{};
     TabStrip *strip;

@@ -3,8 +3,8 @@
 #include "files/file_dialog.h"
 #include "game/screens.h"
 #include "ui/main_window.h"
+#include "ui/placing.h"
 #include "ui/presentation.h"
-#include "ui/window_place.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -78,7 +78,9 @@ FileDialog::FileDialog(QWidget *parent, std::size_t fileType)
     setLayout(Arrange());
     setMinimumSize(SmallestSize);
     resize(StartSize);
-    RestorePlace(*this, FileDialogPlace);
+    if (FileDialogPlace.Width > 0) {
+        OpenAt(*this, FileDialogPlace);
+    }
     ShowFolder();
     ListFiles();
     Connect();
@@ -269,7 +271,7 @@ void FileDialog::PressHelp()
 
 void FileDialog::done(int result)
 {
-    FileDialogPlace = PlaceOf(*this);
+    KeepPlace(*this, FileDialogPlace);
     DialogName = EncodedPath(txtFileName->text());
     QDialog::done(result);
 }

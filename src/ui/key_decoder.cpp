@@ -3,6 +3,7 @@
 #include "input/keys.h"
 #include "input/mouse.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -94,6 +95,13 @@ std::int32_t ModifiersOf(Qt::KeyboardModifiers modifiers)
     sum += modifiers.testFlag(Qt::ControlModifier) ? CtrlKey : 0;
     sum += modifiers.testFlag(Qt::AltModifier) ? AltKey : 0;
     return sum;
+}
+
+bool IsDesktopKey(int key)
+{
+    constexpr std::array keys{Qt::Key_Alt,     Qt::Key_AltGr,   Qt::Key_Meta,
+                              Qt::Key_Super_L, Qt::Key_Super_R, Qt::Key_Menu};
+    return std::ranges::find(keys, key) != keys.end();
 }
 
 } // namespace kelvarine

@@ -19,4 +19,8 @@ std::int32_t KeyCodeOf(const QKeyEvent &event);
 // Modifier sum of an event: 1 Shift, 2 Ctrl, 4 Alt.
 std::int32_t ModifiersOf(Qt::KeyboardModifiers modifiers);
 
+// Modifiers that serve the menus and the window manager mean nothing by themselves: the question
+// of a search must not get in the way of closing the window by Alt and F4.
+bool IsDesktopKey(int key);
+
 } // namespace kelvarine

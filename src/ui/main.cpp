@@ -3,6 +3,8 @@
 #include "ui/program_icon.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QFileInfo>
 
 int main(int argc, char **argv)
 {
@@ -12,5 +14,8 @@ int main(int argc, char **argv)
     QApplication::setDesktopFileName(QStringLiteral("kelvarine"));
     QApplication::setWindowIcon(kelvarine::ProgramIcon());
     kelvarine::SetDefaults();
-    return kelvarine::RunProgram();
+    const QStringList arguments = QApplication::arguments();
+    const QString file =
+        arguments.size() > 1 ? QFileInfo(arguments[1]).absoluteFilePath() : QString();
+    return kelvarine::RunProgram(QFile::encodeName(file).toStdString());
 }

@@ -5,8 +5,10 @@
 #include "board/geometry.h"
 #include "board/look.h"
 #include "board/margin_painter.h"
+#include "configure/configuration.h"
 #include "game/clock.h"
 #include "game/lifecycle.h"
+#include "game/screens.h"
 #include "game/win_display.h"
 #include "input/keys.h"
 #include "input/mouse.h"
@@ -15,6 +17,7 @@
 #include "ui/board_widget.h"
 #include "ui/key_decoder.h"
 #include "ui/menus.h"
+#include "ui/placing.h"
 #include "ui/presentation.h"
 #include "ui/toolbar_widget.h"
 
@@ -120,15 +123,66 @@ void MainWindow::closeEvent(QCloseEvent *event)
     QuerySaveGame();
     if (LastAnswer != AnsweredCancel) {
         StopSound();
+        // Before the other screens go, so that those open now count as open.
+        WriteConfiguration();
         event->accept();
+    }
+}
+
+void MainWindow::ShowAtItsPlace()
+{
+    if (MainPlace.Width > 0 && MainPlace.Height > 0) {
+        const QSize screens = screen()->virtualSize();
+        const WindowPlace place =
+            MainMaximised != False ? MainPlace
+                                   : ReachablePlace(MainPlace, screens.width(), screens.height());
+        resize(QSize(place.Width, place.Height).boundedTo(screens));
+        move(place.Left, place.Top);
+    }
+    if (MainMaximised != False) {
+        showMaximized();
+    } else {
+        show();
+    }
+}
+
+void MainWindow::KeepPlace()
+{
+    if (!isVisible() || isMinimized()) {
+        return;
+    }
+    MainMaximised = isMaximized() ? True : False;
+    if (!isMaximized() && !isFullScreen()) {
+        kelvarine::KeepPlace(*this, MainPlace);
+    }
+}
+
+void MainWindow::moveEvent(QMoveEvent * /*event*/)
+{
+    KeepPlace();
+}
+
+void MainWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    KeepPlace();
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        KeepPlace();
     }
 }
 
 void MainWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (const std::int32_t code = KeyCodeOf(*event); code != 0) {
-        KeyDown(code, ModifiersOf(event->modifiers()));
+    if (IsDesktopKey(event->key())) {
+        event->ignore();
+        return;
     }
+    KeyDown(KeyCodeOf(*event), ModifiersOf(event->modifiers()));
 }
 
 void MainWindow::keyReleaseEvent(QKeyEvent *event)

@@ -43,13 +43,20 @@ public:
     QTimer ClockTimer; // tmrSolveTime
     QTimer WinTimer;   // tmrGameWon
 
+    // Puts the window where it last stood, in reach of the screens that are there, and shows it.
+    void ShowAtItsPlace();
+
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
     void BuildMenus();
+    void KeepPlace();
 
     QMenuBar *timeBar; // the clock, at the far right end of the menu bar
 };

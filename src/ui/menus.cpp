@@ -2,6 +2,7 @@
 
 #include "input/keys.h"
 #include "input/menu_table.h"
+#include "ui/text.h"
 
 #include <QMenu>
 #include <QVariant>
@@ -9,11 +10,6 @@
 namespace kelvarine {
 
 namespace {
-
-QString Text(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 // One entry as the toolkit knows it: the row and the number that it stands for.
 struct Entry {
@@ -77,6 +73,16 @@ void OpenMenu(QMenu *menu)
     UpdateStates(*menu);
 }
 
+// Lets an action run a command when the player may give one.
+void LetRun(QAction *action, const MenuRow &row, std::int32_t number)
+{
+    QObject::connect(action, &QAction::triggered, action, [run = row.Run, number] {
+        if (ReadyForCommand()) {
+            run(number);
+        }
+    });
+}
+
 void AddEntry(QMenu *menu, std::size_t rowIndex, std::int32_t number)
 {
     const MenuRow &row = MenuTable[rowIndex];
@@ -93,11 +99,15 @@ void AddEntry(QMenu *menu, std::size_t rowIndex, std::int32_t number)
         action->setShortcut(QKeySequence(Text(row.Shortcut)));
         action->setShortcutContext(Qt::ApplicationShortcut);
     }
-    QObject::connect(action, &QAction::triggered, menu, [run = row.Run, number] {
-        if (ReadyForCommand()) {
-            run(number);
-        }
-    });
+    LetRun(action, row, number);
+}
+
+// An entry of the bar itself, which acts at once.
+void AddBarEntry(QMenuBar *bar, const MenuRow &row)
+{
+    QAction *action = bar->addAction(Text(row.Caption));
+    action->setObjectName(Text(row.Name));
+    LetRun(action, row, 0);
 }
 
 QMenu *AddMenu(QMenuBar *bar, std::string_view name, const QString &caption)
@@ -118,7 +128,11 @@ void BuildMenus(QMenuBar *mainBar, QMenuBar *timeBar)
         const MenuRow &row = MenuTable[k];
         if (row.Level == 1) {
             QMenuBar *bar = row.Name == "mnuTime" ? timeBar : mainBar;
-            top = AddMenu(bar, row.Name, Text(row.Caption));
+            if (row.Run != nullptr) {
+                AddBarEntry(bar, row);
+            } else {
+                top = AddMenu(bar, row.Name, Text(row.Caption));
+            }
         } else if (row.Run == nullptr && row.Caption != SeparatorCaption) {
             sub = top->addMenu(Text(row.Caption));
             sub->setObjectName(Text(row.Name));

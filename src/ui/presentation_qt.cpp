@@ -52,7 +52,7 @@ void MoveBesideBoard(QMessageBox &box)
     const QRect screen = Window()->screen()->availableGeometry();
     const QSize size = SizeOnView(box);
     for (const QRect &area : {Window()->frameGeometry(), cells}) {
-        if (const std::optional<QPoint> corner = PlaceBeside(area, size, screen)) {
+        if (const std::optional<QPoint> corner = BoxBeside(area, size, screen)) {
             box.move(*corner);
             return;
         }

@@ -1,8 +1,14 @@
 #include "ui/program.h"
 
+#include "configure/configuration.h"
+#include "files/file_commands.h"
+#include "files/sound_files.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
+#include "game/screens.h"
+#include "game/statistics.h"
 #include "generator/random_source.h"
+#include "input/toolbar.h"
 #include "ui/help_key.h"
 #include "ui/main_window.h"
 #include "ui/presentation.h"
@@ -13,17 +19,42 @@
 
 namespace kelvarine {
 
-int RunProgram()
+namespace {
+
+// The screens that were open when the program ended last. The solutions screen is none of them:
+// there is no search to show.
+void OpenFormerScreens()
+{
+    if (StatisticsOpen != False) {
+        mnuStatistics();
+    }
+    if (ConfigureOpen != False) {
+        ShowConfigureScreen();
+    }
+}
+
+} // namespace
+
+int RunProgram(const std::string &gameFile)
 {
     const QDate today = QDate::currentDate();
     init_genrand(StartSeed(today.year(), today.month(), today.day(), SecondsSinceMidnight()));
+
+    FindSoundFiles();
+    ReadConfiguration();
+    SolutionsOpen = False;
+    UpdateToolTips();
 
     MainWindow window;
     WatchForTheEnd();
     WatchForHelpKey();
     StartGame(NewGame);
     GameModified = False;
-    window.show();
+    window.ShowAtItsPlace();
+    OpenFormerScreens();
+    if (!gameFile.empty()) {
+        OpenGameFile(gameFile);
+    }
     return QApplication::exec();
 }
 

@@ -1,10 +1,13 @@
 // The program from its first window to its end.
 #pragma once
 
+#include <string>
+
 namespace kelvarine {
 
-// Opens the main window on an empty grid and runs until it is closed. The application object must
-// stand and all state must have its defaults or the player's settings. Returns the exit code.
-int RunProgram();
+// Reads the player's settings, opens the main window on an empty grid or on a game file given by
+// its full path, and runs until the window is closed. The application object must stand and all
+// state must have its defaults. Returns the exit code.
+int RunProgram(const std::string &gameFile = {});
 
 } // namespace kelvarine

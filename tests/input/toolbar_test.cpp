@@ -78,7 +78,8 @@ std::vector<Colour> Backgrounds(std::size_t first, std::size_t last)
 
 std::vector<Colour> Ten(Colour colour)
 {
-    return std::vector<Colour>(10, colour);
+    std::vector<Colour> colours(10, colour);
+    return colours;
 }
 
 void SelectAll()

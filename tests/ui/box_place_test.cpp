@@ -15,31 +15,31 @@ constexpr QRect Screen{0, 30, 1000, 800}; // under a panel of 30 pixels
 
 TEST(BoxPlace, IsToTheRightWhereThereIsRoom)
 {
-    EXPECT_EQ(PlaceBeside({100, 130, 500, 500}, {392, 100}, Screen), QPoint(608, 329));
+    EXPECT_EQ(BoxBeside({100, 130, 500, 500}, {392, 100}, Screen), QPoint(608, 329));
 }
 
 TEST(BoxPlace, IsToTheLeftWhenTheRightIsOnePixelShort)
 {
-    EXPECT_EQ(PlaceBeside({450, 130, 150, 500}, {393, 100}, Screen), QPoint(49, 329));
+    EXPECT_EQ(BoxBeside({450, 130, 150, 500}, {393, 100}, Screen), QPoint(49, 329));
 }
 
 TEST(BoxPlace, IsBelowWhenNeitherSideHasRoom)
 {
-    EXPECT_EQ(PlaceBeside({300, 130, 400, 500}, {393, 192}, Screen), QPoint(303, 638));
+    EXPECT_EQ(BoxBeside({300, 130, 400, 500}, {393, 192}, Screen), QPoint(303, 638));
 }
 
 TEST(BoxPlace, IsNowhereWhenThereIsNoRoom)
 {
-    EXPECT_EQ(PlaceBeside({300, 130, 400, 500}, {393, 193}, Screen), std::nullopt);
-    EXPECT_EQ(PlaceBeside({0, 30, 1000, 800}, {1, 1}, Screen), std::nullopt);
+    EXPECT_EQ(BoxBeside({300, 130, 400, 500}, {393, 193}, Screen), std::nullopt);
+    EXPECT_EQ(BoxBeside({0, 30, 1000, 800}, {1, 1}, Screen), std::nullopt);
 }
 
 TEST(BoxPlace, StaysOnTheScreen)
 {
-    EXPECT_EQ(PlaceBeside({0, 30, 100, 100}, {200, 400}, Screen), QPoint(108, 30));
-    EXPECT_EQ(PlaceBeside({0, 700, 100, 100}, {200, 400}, Screen), QPoint(108, 430));
-    EXPECT_EQ(PlaceBeside({-50, 30, 900, 300}, {900, 400}, Screen), QPoint(0, 338));
-    EXPECT_EQ(PlaceBeside({0, 30, 100, 100}, {200, 900}, Screen), QPoint(108, 30))
+    EXPECT_EQ(BoxBeside({0, 30, 100, 100}, {200, 400}, Screen), QPoint(108, 30));
+    EXPECT_EQ(BoxBeside({0, 700, 100, 100}, {200, 400}, Screen), QPoint(108, 430));
+    EXPECT_EQ(BoxBeside({-50, 30, 900, 300}, {900, 400}, Screen), QPoint(0, 338));
+    EXPECT_EQ(BoxBeside({0, 30, 100, 100}, {200, 900}, Screen), QPoint(108, 30))
         << "a box that is too tall starts at the top";
 }
 

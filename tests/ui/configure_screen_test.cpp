@@ -1,7 +1,7 @@
-#include "configure/configure_commands.h"
 #include "game/screens.h"
 #include "grid/grid.h"
 #include "grid/names.h"
+#include "input/screen_commands.h"
 #include "support/widget_configure.h"
 #include "ui/presentation.h"
 #include "ui/tab_strip.h"

@@ -108,6 +108,16 @@ TEST_F(ToolbarOnView, PressLeavesTheFocusWithTheBoard)
     }
 }
 
+TEST_F(ToolbarOnView, PressThatMovesNoFocusLeavesItWithTheBoardToo)
+{
+    for (const int mode : {11, 1}) { // nothing happens, and the freeze
+        ToolMode = mode;
+        Board()->setFocus();
+        QTest::mouseClick(Button(11), Qt::LeftButton);
+        EXPECT_EQ(QApplication::focusWidget(), Board()) << mode;
+    }
+}
+
 TEST_F(ToolbarOnView, AnyKeyOnAFocusedButtonActsAndTheFocusGoesBack)
 {
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_X, Qt::Key_F5, Qt::Key_Up,

@@ -1,5 +1,5 @@
-#include "configure/configure_commands.h"
 #include "game/screens.h"
+#include "input/screen_commands.h"
 #include "support/play.h"
 #include "support/presentation_double.h"
 

@@ -1,0 +1,36 @@
+#include "input/screen_commands.h"
+
+#include "game/screens.h"
+#include "ui/presentation.h"
+
+namespace kelvarine {
+
+void mnuConfigure()
+{
+    ShowConfigureScreen();
+}
+
+void mnuAlerts()
+{
+    CurrentTab = LogicTab;
+    ShowConfigureScreen();
+}
+
+void mnuPrint()
+{
+    CurrentTab = PrintTab;
+    ShowConfigureScreen();
+}
+
+void mnuHelpContents()
+{
+    constexpr int defaultTopic = 0;
+    ShowHelpTopic(defaultTopic);
+}
+
+void mnuAbout()
+{
+    ShowAboutScreen();
+}
+
+} // namespace kelvarine
