@@ -2,6 +2,7 @@
 
 #include "files/file_dialog.h"
 #include "game/screens.h"
+#include "ui/help_key.h"
 #include "ui/main_window.h"
 #include "ui/placing.h"
 #include "ui/presentation.h"
@@ -72,6 +73,7 @@ FileDialog::FileDialog(QWidget *parent, std::size_t fileType)
       cmdHelp(Named("cmdHelp", new QPushButton(tr("&Help"), this)))
 {
     setObjectName(QStringLiteral("frmFile"));
+    SetHelpContext(this, FileDialogTopic);
     setWindowTitle(Shown(DialogCaption));
     BuildControls(fileType);
     BuildFolders();

@@ -7,6 +7,7 @@
 #include "ui/presentation.h"
 #include "ui/print_preview.h"
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
@@ -310,6 +311,14 @@ void ConnectOthers(const Controls &on, PrintPanel *panel)
     });
 }
 
+// A button is called as its caption says.
+void NameButtons(const QWidget &panel)
+{
+    for (QAbstractButton *button : panel.findChildren<QAbstractButton *>()) {
+        button->setAccessibleName(button->text().remove(u'&').trimmed());
+    }
+}
+
 } // namespace
 
 PrintPanel::PrintPanel(QWidget *parent) : QWidget(parent), on(MakeControls(this))
@@ -318,6 +327,7 @@ PrintPanel::PrintPanel(QWidget *parent) : QWidget(parent), on(MakeControls(this)
     setFixedSize(PanelSize);
     Arrange(on, this);
     OrderTabs(on);
+    NameButtons(*this);
     ShowCheck(on.Grey, PrintGreyScale);
     Refresh();
     ConnectChecks(on, this);

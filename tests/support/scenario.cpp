@@ -30,6 +30,7 @@ void SetScenario(CellWord filter)
     CursorRow = 1;
     NumberFilter = filter;
     GameModified = False;
+    GameFilePath = "/no such folder/game.sdk"; // saving under this name fails and leaves no file
     ForgetRecord();
 }
 

@@ -6,6 +6,7 @@
 #include "game/screens.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
+#include "input/toolbar.h"
 #include "support/widget_configure.h"
 #include "ui/board_widget.h"
 #include "ui/colours_tab.h"
@@ -210,7 +211,8 @@ TEST_F(ColoursTabTest, WhiteMarginMakesTheTextBlackAtOnce)
     EXPECT_EQ(ColourTable[11], 0xFFFFFFU);
     EXPECT_EQ(CoordinateTextColour, 0U);
     const QImage window = Running->Main->Client->grab().toImage();
-    EXPECT_EQ(window.pixel(3, 3) & 0xFFFFFF, 0xFFFFFFU) << "the window's background";
+    EXPECT_EQ(window.pixel(3, ToolbarHeight + 3) & 0xFFFFFF, 0xFFFFFFU)
+        << "the window's background";
     Drag("hsbColor0", 0);
     Drag("hsbColor1", 0);
     Drag("hsbColor2", 0);
@@ -338,7 +340,7 @@ TEST_F(GridTabTest, MarginBelowTwentyEightHasNoTexts)
     const auto lettersOnMargin = [this] {
         const QImage window = Running->Main->Client->grab().toImage();
         for (int x = 4; x < window.width() - 4; ++x) {
-            for (int y = 4; y < BoardPlace.Y; ++y) {
+            for (int y = ToolbarHeight; y < BoardPlace.Y; ++y) {
                 if ((window.pixel(x, y) & 0xFFFFFF) != 0) {
                     return true;
                 }
@@ -439,7 +441,7 @@ TEST_F(PresetTabTest, EachPressSetsItsLookOnTheBoard)
             EXPECT_EQ(PaintedIn(Given), colours[GivenCellColour]) << number;
         }
         const QImage window = Running->Main->Client->grab().toImage();
-        EXPECT_EQ(window.pixel(3, 3) & 0xFFFFFF, colours[MarginColour]) << number;
+        EXPECT_EQ(window.pixel(3, ToolbarHeight + 3) & 0xFFFFFF, colours[MarginColour]) << number;
     }
 }
 

@@ -26,6 +26,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <sstream>
 
 namespace kelvarine::testing {
@@ -242,10 +243,14 @@ std::string StateNow()
          << (SolveSeconds >= 60) << "\nmodified " << GameModified << " snapshot "
          << SnapshotAvailable << " number " << GameNumber << " win " << WinDisplayRunning
          << "\nclipboard " << QGuiApplication::clipboard()->text().toStdString();
+    std::set<std::string> titles; // the toolkit lists the windows in no order
     for (const QWidget *window : QApplication::topLevelWidgets()) {
         if (window->isVisible()) {
-            text << "\nwindow " << window->windowTitle().toStdString();
+            titles.insert(window->windowTitle().toStdString());
         }
+    }
+    for (const std::string &title : titles) {
+        text << "\nwindow " << title;
     }
     text << '\n';
     for (const Cell cell : Cells) {
