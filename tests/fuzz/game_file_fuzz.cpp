@@ -17,6 +17,8 @@ namespace {
 
 constexpr std::size_t CountersPlace = std::size_t{13} * 40; // of the record of the history
 
+constexpr std::int32_t ShortChains = 6; // links
+
 // The first bytes of a game file mean nothing, so they choose the settings that matter here.
 void ChooseSettings(std::string_view file)
 {
@@ -25,6 +27,10 @@ void ChooseSettings(std::string_view file)
         choice = choice << 8 | static_cast<std::uint8_t>(file[place]);
     }
     AlertMask = choice & 0x7FFFE;
+    // Cells full of equal pairs have more chains than a scan without limits can walk.
+    MaxSinglesLinks = ShortChains;
+    MaxRPLinks = ShortChains;
+    MaxXYLinks = ShortChains;
     IncludeSingles = (choice & 0x80000) != 0 ? True : False;
 }
 
