@@ -11,6 +11,7 @@
 #include "ui/presentation.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstddef>
 
@@ -40,9 +41,10 @@ struct WordField {
     std::int32_t *Value;
 };
 
-constexpr WordField WordFields[]{
-    {2, 0, &GameNumber},       {2, 1, &StatsCounted},       {14, 1, &HistoryCount},
-    {14, 2, &HistoryPosition}, {14, 3, &SnapshotAvailable},
+constexpr std::array WordFields{
+    WordField{2, 0, &GameNumber},         WordField{2, 1, &StatsCounted},
+    WordField{14, 1, &HistoryCount},      WordField{14, 2, &HistoryPosition},
+    WordField{14, 3, &SnapshotAvailable},
 };
 
 constexpr std::size_t HeaderStart = 8; // within its record

@@ -18,8 +18,9 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QShortcut>
-#include <QTimer>
 #include <QTreeView>
+
+#include <array>
 
 namespace kelvarine {
 
@@ -140,8 +141,9 @@ QLayout *FileDialog::Arrange()
     grid->setRowStretch(2, 1);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
-    QWidget *order[]{dirDirectory, filFiles, txtFileName, cmbFileTypes, cmdOK, cmdCancel, cmdHelp};
-    for (std::size_t place = 1; place < std::size(order); ++place) {
+    const std::array<QWidget *, 7> order{dirDirectory, filFiles,  txtFileName, cmbFileTypes,
+                                         cmdOK,        cmdCancel, cmdHelp};
+    for (std::size_t place = 1; place < order.size(); ++place) {
         setTabOrder(order[place - 1], order[place]);
     }
     return grid;
@@ -178,6 +180,10 @@ void FileDialog::ShowFolder()
     const QModelIndex index = folders.index(DecodedPath(DialogFolder));
     dirDirectory->setCurrentIndex(index);
     dirDirectory->expand(index);
+    nextTurn.setSingleShot(true);
+    connect(&nextTurn, &QTimer::timeout, dirDirectory, [this] {
+        dirDirectory->scrollTo(dirDirectory->currentIndex(), QTreeView::PositionAtCenter);
+    });
     loading =
         connect(&folders, &QFileSystemModel::directoryLoaded, this, &FileDialog::FollowLoading);
 }
@@ -186,9 +192,7 @@ void FileDialog::ShowFolder()
 // the event loop, and the one in hand comes last.
 void FileDialog::FollowLoading(const QString &loaded)
 {
-    QTimer::singleShot(0, dirDirectory, [this] {
-        dirDirectory->scrollTo(dirDirectory->currentIndex(), QTreeView::PositionAtCenter);
-    });
+    nextTurn.start();
     if (loaded == folders.filePath(dirDirectory->currentIndex())) {
         disconnect(loading);
     }
@@ -239,6 +243,7 @@ void FileDialog::SearchTyped(const QString &typed)
         return;
     }
     std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(filFiles->count()));
     for (int row = 0; row < filFiles->count(); ++row) {
         names.push_back(EncodedPath(filFiles->item(row)->text()));
     }

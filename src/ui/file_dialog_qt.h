@@ -4,6 +4,7 @@
 
 #include <QDialog>
 #include <QFileSystemModel>
+#include <QTimer>
 
 class QComboBox;
 class QLabel;
@@ -47,6 +48,7 @@ private:
     void PressHelp();
 
     QFileSystemModel folders;
+    QTimer nextTurn;                 // of the event loop
     QMetaObject::Connection loading; // keeps the folder in sight while the tree fills up
     QLabel *lblFolder;
     QTreeView *dirDirectory;

@@ -6,6 +6,7 @@
 #include "fuzz/fuzz.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
@@ -48,9 +49,9 @@ void PutWord(std::string &input, std::size_t place, std::uint32_t word)
 
 void MutateOnce(std::string &input, const std::vector<std::string> &inputs, Random &random)
 {
-    constexpr std::uint32_t words[]{0,          1,          2,          100,
-                                    101,        0x3FE,      0x7FFFFFFF, 0x80000000,
-                                    0xFFFFFFFF, 0xFFFFFF9C, 0xFFFFF,    0x0F000400};
+    constexpr std::array<std::uint32_t, 12> words{0,          1,          2,          100,
+                                                  101,        0x3FE,      0x7FFFFFFF, 0x80000000,
+                                                  0xFFFFFFFF, 0xFFFFFF9C, 0xFFFFF,    0x0F000400};
     constexpr std::string_view marks = "0123456789. |\r\n";
     const std::size_t place = Below(random, input.size() + 1);
     switch (Below(random, 7)) {
@@ -58,7 +59,7 @@ void MutateOnce(std::string &input, const std::vector<std::string> &inputs, Rand
         PutWord(input, place, static_cast<std::uint32_t>(random()));
         break;
     case 1:
-        PutWord(input, place / 4 * 4, words[Below(random, std::size(words))]);
+        PutWord(input, place / 4 * 4, words[Below(random, words.size())]);
         break;
     case 2:
         PutWord(input, place / 4 * 4, std::uint32_t{1} << Below(random, 32));
