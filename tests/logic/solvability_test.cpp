@@ -27,8 +27,10 @@ protected:
 };
 
 // Its contradiction lies too deep for a walk that takes the cells in the order of the scan.
-constexpr std::string_view Bitter =
-    ".....5.8....6.1.43..........1.5........1.6...3.......553.....61........4.........";
+constexpr std::array Bitter{
+    ".....5.8....6.1.43..........1.5........1.6...3.......553.....61........4.........",
+    "...7.............6.8...6......8.3......2...6.6.............8...3..17...2....6....",
+};
 
 double SecondsOf(const std::function<void()> &work)
 {
@@ -85,11 +87,13 @@ TEST_F(Solvability, AgreesWithPlainBacktrackingOnRandomFields)
 
 TEST_F(Solvability, BitterTextIsRatedImpossibleInAMoment)
 {
-    SetGivens(Bitter);
-    const double seconds = SecondsOf([] { RateGame(); });
-    EXPECT_EQ(GameRating, 7);
-    EXPECT_EQ(SolutionCount, 0);
-    EXPECT_LT(seconds, 30.0); // minutes without the proof
+    for (const char *text : Bitter) {
+        SetGivens(text);
+        const double seconds = SecondsOf([] { RateGame(); });
+        EXPECT_EQ(GameRating, 7);
+        EXPECT_EQ(SolutionCount, 0);
+        EXPECT_LT(seconds, 30.0); // minutes without the proof
+    }
 }
 
 TEST_F(Solvability, ChainsOfContradictoryPairsComeToAnEnd)

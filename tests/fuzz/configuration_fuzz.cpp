@@ -1,10 +1,10 @@
-// Any bytes as the configuration file, followed by a start of the engine: nothing may read or
-// write outside a table, and no start may hang.
-#include "board/board.h"
+// Any bytes as the configuration file, followed by a start of the engine and a painted board:
+// nothing may read or write outside a table, and no start may hang.
 #include "board/geometry.h"
 #include "board/look.h"
 #include "board/margin.h"
 #include "configure/configuration.h"
+#include "fuzz/fuzz.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "generator/generator.h"
@@ -14,13 +14,13 @@
 #include "logic/alerts.h"
 #include "logic/event_sound.h"
 #include "logic/rating.h"
-#include "support/presentation_double.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -69,9 +69,15 @@ void UseSettings(std::uint8_t column, std::uint8_t row)
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+// The kept inputs are short enough.
+std::vector<std::string> kelvarine::testing::LongSeeds()
 {
-    testing::Restart();
+    return {};
+}
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    testing::RestartWithBoard();
     AlertFiles = {"", "a.alr", "b.alr"};
     const std::string bytes(reinterpret_cast<const char *>(data), size);
     TakeConfiguration(bytes);
@@ -88,7 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     for (const std::int32_t mode : {1, 2, 3, 4, 5}) {
         ScanAlerts(mode);
     }
-    DrawBoard();
+    testing::LookAtBoard();
     UseSettings(size > 0 ? data[0] : 0, size > 1 ? data[size - 1] : 0);
     return 0;
 }
