@@ -154,7 +154,7 @@ std::optional<std::size_t> EntryBeginning(const std::vector<std::string> &entrie
                                           std::string_view typed)
 {
     const std::string beginning = LowerCase(WithoutOuterBlanks(typed));
-    for (std::size_t entry = 0; !beginning.empty() && entry < entries.size(); ++entry) {
+    for (std::size_t entry = 0; entry < entries.size(); ++entry) {
         if (LowerCase(WithoutOuterBlanks(entries[entry])).starts_with(beginning)) {
             return entry;
         }

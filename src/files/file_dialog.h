@@ -59,7 +59,7 @@ void SelectFileType(std::size_t fileType);
 bool IsListed(std::string_view name);
 
 // The first entry that begins as the typed text does, both without outer blanks and in small
-// letters; none when the text or the list has nothing to go by.
+// letters, so that blanks alone are the beginning of all; none when no entry does.
 std::optional<std::size_t> EntryBeginning(const std::vector<std::string> &entries,
                                           std::string_view typed);
 

@@ -204,8 +204,9 @@ TEST_F(FileDialogRules, TypingGoesToTheFirstEntryThatBeginsSo)
     EXPECT_EQ(EntryBeginning(entries, "gap"), 4U);
     EXPECT_EQ(EntryBeginning(entries, "lpha"), std::nullopt);
     EXPECT_EQ(EntryBeginning(entries, "alpha.sdk.old"), std::nullopt);
-    EXPECT_EQ(EntryBeginning(entries, " "), std::nullopt);
+    EXPECT_EQ(EntryBeginning(entries, " "), 0U) << "all entries begin so";
     EXPECT_EQ(EntryBeginning({}, "a"), std::nullopt);
+    EXPECT_EQ(EntryBeginning({}, " "), std::nullopt);
 }
 
 TEST_F(FileDialogRules, DeletingAsksWithNoAsDefault)

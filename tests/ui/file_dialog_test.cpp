@@ -294,6 +294,10 @@ TEST_F(FileDialogWindow, TypingBringsTheFirstEntryThatBeginsSoIntoView)
     Name()->selectAll();
     QTest::keyClick(Name(), Qt::Key_Backspace);
     EXPECT_TRUE(InView(0));
+    Type("game 25");
+    ASSERT_FALSE(InView(0));
+    Type(" ");
+    EXPECT_TRUE(InView(0)) << "all entries begin with blanks that do not count";
 }
 
 TEST_F(FileDialogWindow, DeleteKeyInTheListAsksAndDeletes)
