@@ -1,6 +1,5 @@
 #include "print/page_layout.h"
 
-#include "board/geometry.h"
 #include "board/look.h"
 #include "grid/rounding.h"
 #include "print/print_settings.h"
@@ -52,8 +51,10 @@ std::size_t LayoutIndex()
     return index < GamesPerPage.size() ? index : 0;
 }
 
+// The picture on a full page stands in its middle.
 void FitToPage()
 {
+    PrintCentre = True;
     PrintWidth = PrintableWidth;
     PrintHeight = PrintableHeight;
     if (PrintAspect == False) {
@@ -65,6 +66,14 @@ void FitToPage()
         PrintHeight = PrintableHeight;
         PrintWidth = PrintHeight / proportion;
     }
+}
+
+// Side that border and lines leave to a cell of the picture; below 1 when they leave none.
+int RoomForCell()
+{
+    constexpr int halfSide = 250;
+    const double room = (halfSide - BorderThickness) * 2 - LinesAcross();
+    return static_cast<int>(RoundHalfEven(room / 9));
 }
 
 // A number as text with so many decimals. The program's own digits and sign, whatever the
@@ -145,9 +154,6 @@ void SetPrintHeight(double inches)
 void SetPrintFullPage(Flag on)
 {
     PrintFullPage = on;
-    if (on != False) {
-        PrintCentre = True;
-    }
     ArrangePicture();
 }
 
@@ -222,9 +228,13 @@ PagePlace PlaceOf(const PageLayout &layout, int index)
 
 int PrintCellSide()
 {
-    constexpr int halfSide = 250;
-    const double room = (halfSide - BorderThickness) * 2 - LinesAcross();
-    return std::max(1, static_cast<int>(RoundHalfEven(room / 9)));
+    return std::max(1, RoomForCell());
+}
+
+CellSizes PrintCellSizes()
+{
+    // Cells that have no room at all, though they are one pixel, get the smallest of fonts.
+    return SizesOfCells(PrintCellSide(), PrintCellSide(), RoomForCell());
 }
 
 int PrintGridSide()

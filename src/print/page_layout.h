@@ -3,6 +3,7 @@
 // something is drawn. Also the size of the picture of a game, and measures as texts.
 #pragma once
 
+#include "board/geometry.h"
 #include "ui/presentation.h"
 
 #include <array>
@@ -82,6 +83,9 @@ PagePlace PlaceOf(const PageLayout &layout, int index);
 // the size of the board is. At least 1 for a cell.
 int PrintCellSide();
 int PrintGridSide();
+
+// Sizes that its cells and numbers are drawn with.
+CellSizes PrintCellSizes();
 
 // ---- Texts ---------------------------------------------------------------------------------
 

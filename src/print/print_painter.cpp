@@ -43,7 +43,7 @@ void PaintGridOn(const Canvas &canvas, bool withNumbers)
 {
     const PaintedState before;
     ClearCellBits(ScreenMarks);
-    UseSizes(SizesOfCells(PrintCellSide(), PrintCellSide(), PrintCellSide()));
+    UseSizes(PrintCellSizes());
     NumberFilter = CandidateMask;
     WinDisplayRunning = False;
     PaintCells(canvas);

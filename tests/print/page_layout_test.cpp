@@ -109,6 +109,17 @@ TEST_F(PagePlaces, FullPageTicksCentreAndShutsSizePlaceAndCentre)
     EXPECT_FALSE(IsPlaceFree()) << "the full page alone keeps them shut";
 }
 
+TEST_F(PagePlaces, FullPageOfAFileTicksCentreToo)
+{
+    PrintAspect = False;
+    PrintCentre = False;
+    PrintLeft = 3;
+    PrintFullPage = True; // as a file may hold them
+    ArrangePicture();
+    EXPECT_EQ(PrintCentre, True);
+    EXPECT_EQ(PrintLeft, 0);
+}
+
 TEST_F(PagePlaces, LeavingTheFullPageFreesTheSizeAndLeavesCentreTicked)
 {
     SetPrintFullPage(True);
@@ -309,6 +320,17 @@ TEST_F(PrintGridSizes, LinesThatLeaveNoRoomLeaveCellsOfAPixel)
     PrimaryThickness = 200;
     EXPECT_EQ(PrintCellSide(), 1);
     EXPECT_EQ(PrintGridSide(), 829);
+}
+
+TEST_F(PrintGridSizes, FontsComeFromTheSideOfACell)
+{
+    EXPECT_EQ(PrintCellSizes(), (CellSizes{50, 50, 50 / 1.5, 50 / 3.0, 50 / 4.0, 50 / 5.0}));
+}
+
+TEST_F(PrintGridSizes, CellsWithoutRoomHaveTheSmallestFonts)
+{
+    PrimaryThickness = 200;
+    EXPECT_EQ(PrintCellSizes(), (CellSizes{1, 1, 0.1, 0.1, 0.1, 0.1}));
 }
 
 // ---- Texts ---------------------------------------------------------------------------------
