@@ -113,7 +113,8 @@ std::string WriteDocument()
         const QByteArray path = QFile::encodeName(ChosenPrinter().outputFileName());
         const QByteArray &bytes = document->Bytes.data();
         ReplaceWholeFile(path.toStdString(),
-                         {bytes.constData(), static_cast<std::size_t>(bytes.size())}, failure);
+                         {bytes.constData(), static_cast<std::size_t>(bytes.size())}, failure,
+                         MissingFolders::Refused);
     }
     return failure;
 }

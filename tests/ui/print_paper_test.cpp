@@ -345,6 +345,15 @@ TEST_F(Paper, FileThatCannotBeWrittenIsToldInTheSystemsWords)
     EXPECT_EQ(EndDocument(), "") << "the document has gone with its failure";
 }
 
+TEST_F(Paper, FolderThatIsGoneIsToldAndNotMadeAnew)
+{
+    ChosenPrinter().setOutputFormat(QPrinter::PdfFormat);
+    ChosenPrinter().setOutputFileName(QString::fromStdString(Path("gone/page.pdf")));
+    EXPECT_TRUE(PrintText(0, 0, "words"));
+    EXPECT_EQ(EndDocument(), std::generic_category().message(ENOENT));
+    EXPECT_FALSE(FileExists(Path("gone")));
+}
+
 TEST_F(Paper, DocumentOnWhichNothingWasPrintedIsNone)
 {
     ChosenPrinter().setOutputFileName(QString::fromStdString(Path()));
