@@ -4,6 +4,7 @@
 #include "game/screens.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
+#include "logic/driver.h"
 #include "support/play.h"
 #include "support/positions.h"
 #include "support/presentation_double.h"
@@ -172,6 +173,29 @@ TEST_F(Expose, OpenSolutionsScreenListsAnew)
     Select({{4, 1}});
     ExposeSelected();
     EXPECT_EQ(std::ranges::count_if(Seen.Calls, isListing), 1);
+}
+
+TEST_F(Expose, GameIsRatedBeforeTheListingAndScannedBehindIt)
+{
+    SolutionsOpen = True;
+    AlertMask = 0xFFFFFFFF;
+    WordAt({3, 1}) = SelectedBit | SolutionBit(5); // a second 5 in the row
+    std::int32_t rating = 0;
+    std::int32_t levels = 0;
+    std::string alerts = "no listing";
+    Seen.YesNoAnswers = {true};
+    Seen.OnYield = [&] {
+        if (SearchKind == ListingSolutions) {
+            rating = GameRating;
+            levels = HistoryCount;
+            alerts = CellsWith(AlertBit);
+        }
+    };
+    mnuExposeSelectedCells();
+    EXPECT_EQ(rating, 7);
+    EXPECT_EQ(levels, 2);
+    EXPECT_EQ(alerts, "");
+    EXPECT_NE(CellsWith(AlertBit), "");
 }
 
 TEST_F(Expose, LastCellsExposedWinTheGame)

@@ -1,3 +1,4 @@
+#include "game/clock.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/transforms.h"
@@ -247,6 +248,23 @@ TEST_F(Transforms, EachIsOneUndoLevelAndAsksNothing)
         EXPECT_TRUE(SameCells(Level(StartSlot), before, LastingFields))
             << "a restart keeps its orientation";
         EXPECT_TRUE(SameCells(Level(SnapshotSlot), before));
+    }
+}
+
+TEST_F(Transforms, WorkWhileTheClockStandsAndLeaveItSo)
+{
+    for (const Command command : Commands) {
+        StartSavedGame(EasyGame);
+        SolveSeconds = 75;
+        mnuPauseTime();
+        const std::string caption = TimeCaption;
+        const GridTable before = Grid;
+        command();
+        EXPECT_FALSE(SameCells(Grid, before, LastingFields));
+        EXPECT_TRUE(IsPaused());
+        EXPECT_EQ(ClockRunning, False);
+        EXPECT_EQ(SolveSeconds, 75);
+        EXPECT_EQ(TimeCaption, caption);
     }
 }
 

@@ -27,5 +27,13 @@ TEST(ConfigureCommands, AlertsOpensTheLogicTab)
     EXPECT_EQ(Acts(), Texts{"configure: 3"});
 }
 
+TEST(ConfigureCommands, PrintOpensThePrintTab)
+{
+    Restart();
+    mnuPrint();
+    EXPECT_EQ(CurrentTab, 2);
+    EXPECT_EQ(Acts(), Texts{"configure: 2"});
+}
+
 } // namespace
 } // namespace kelvarine::testing

@@ -339,6 +339,22 @@ TEST_F(SolutionsScreens, PlaceAndSizeAreKept)
     EXPECT_EQ(Screen()->size(), QSize(410, 460));
 }
 
+TEST_F(SolutionsScreens, MinimisedScreenKeepsPlaceAndSizeOfBefore)
+{
+    List(PlainGame);
+    Screen()->move(60, 70);
+    Screen()->resize(400, 450);
+    QCoreApplication::processEvents();
+    Screen()->showMinimized();
+    Screen()->move(5, 6);
+    Screen()->resize(350, 300);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Box()->size(), QSize(365, 350));
+    Screen()->close();
+    EXPECT_EQ(SolutionsOpen, False);
+    EXPECT_EQ(SolutionsPlace, (WindowPlace{60, 70, 400, 450}));
+}
+
 TEST_F(SolutionsScreens, PlaceOffTheScreenIsMovedOnToIt)
 {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();

@@ -205,6 +205,20 @@ TEST_F(StatisticsScreens, ClosingByTheFrameDoesTheSame)
     EXPECT_EQ(StatisticsPlace.Top, 82);
 }
 
+TEST_F(StatisticsScreens, MinimisedScreenKeepsThePlaceOfBefore)
+{
+    mnuStatistics();
+    Screen()->move(70, 80);
+    QCoreApplication::processEvents();
+    Screen()->showMinimized();
+    Screen()->move(5, 6);
+    QCoreApplication::processEvents();
+    Screen()->close();
+    EXPECT_EQ(StatisticsOpen, False);
+    EXPECT_EQ(StatisticsPlace.Left, 70);
+    EXPECT_EQ(StatisticsPlace.Top, 80);
+}
+
 TEST_F(StatisticsScreens, NeverOpensOffTheScreen)
 {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
