@@ -75,7 +75,7 @@ void AddRow(QGridLayout *grid, int row, const SoundRow &sound, bool visible)
                  });
     auto *button = MakeButton(parent, TextOf(sound.Button), sound.Caption, sound.Test);
     auto *bar = MakeBar(parent, IndexedName("hsbVolume", static_cast<int>(sound.Volume)),
-                        spoken + " volume", VolumeSteps, VolumeBar(sound.Volume),
+                        spoken + " volume", VolumeSteps, 0,
                         [volume = sound.Volume](int value) { SetVolume(volume, value); });
     if (visible) {
         grid->addWidget(list, row, 0);
@@ -123,9 +123,7 @@ void ShowVolumes(const QWidget &panel, bool readable)
     for (int k = 0; k < Volumes; ++k) {
         auto *bar = panel.findChild<QScrollBar *>(IndexedName("hsbVolume", k));
         bar->setEnabled(readable);
-        if (readable) {
-            bar->setValue(VolumeBar(static_cast<std::size_t>(k)));
-        }
+        bar->setValue(readable ? VolumeBar(static_cast<std::size_t>(k)) : 0);
     }
 }
 

@@ -8,7 +8,8 @@ namespace kelvarine {
 // Makes the panel, filled from the state.
 QWidget *MakeSoundTab(QWidget *parent);
 
-// Lets the bars of the volumes show the state, or disables them when no volume can be read.
+// Lets the bars of the volumes show the state. When no volume can be read they are disabled and
+// stand at 0.
 void ShowVolumes(const QWidget &panel, bool readable);
 
 } // namespace kelvarine

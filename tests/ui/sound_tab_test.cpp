@@ -106,6 +106,7 @@ TEST_F(SoundTabTest, BarsAreDisabledWhenNoVolumeCanBeRead)
     for (int k = 0; k < 4; ++k) {
         const QByteArray name = QByteArray("hsbVolume") + QByteArray::number(k);
         EXPECT_FALSE(Find<QScrollBar>(name)->isEnabled());
+        EXPECT_EQ(Find<QScrollBar>(name)->value(), 0) << "takes no value";
     }
     QTest::keyClick(Find<QScrollBar>("hsbVolume2"), Qt::Key_Right);
     EXPECT_EQ(SoundVolumes[2], 32000);
