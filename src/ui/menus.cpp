@@ -95,6 +95,7 @@ void AddEntry(QMenu *menu, std::size_t rowIndex, std::int32_t number)
     action->setData(QList<QVariant>{QVariant::fromValue<qulonglong>(rowIndex), number});
     action->setCheckable(row.Checked != nullptr);
     SetCaption(*action);
+    UpdateState(*action);
     if (IsAccelerator(row.Shortcut)) {
         action->setShortcut(QKeySequence(Text(row.Shortcut)));
         action->setShortcutContext(Qt::ApplicationShortcut);

@@ -74,8 +74,8 @@ void SetClipboardText(std::string_view text);
 
 void SetWindowTitle(std::string_view title);
 
-// Brings the captions of the clock's menu and its entries, and the enabled state of the snapshot
-// entry, up to date.
+// Brings the captions of the clock's menu and its entries up to date. All other entries follow the
+// state whenever their menu opens.
 void UpdateCaptions();
 
 // Repaints the margin with its texts.
