@@ -303,6 +303,18 @@ TEST_F(Keys, HintKeyWithCtrlShiftDoesNothing)
     EXPECT_EQ(Seen.Calls, Texts{});
 }
 
+TEST_F(Keys, CtrlDActsAsD)
+{
+    SetScenario(AllInView);
+    const std::string before = ProgramState();
+    KeyDown('D', 0);
+    const std::string domain = ProgramState();
+    EXPECT_NE(domain, before);
+    SetScenario(AllInView);
+    KeyDown('D', 2);
+    EXPECT_EQ(ProgramState(), domain);
+}
+
 TEST_F(Keys, KeypadMinusCopiesTheLineAsTheMainMinusDoes)
 {
     for (const std::int32_t code : {109, 189}) {

@@ -257,6 +257,20 @@ TEST_F(ColoursTabTest, DraggingRepaintsABoardFullOfPencilmarksSixtyTimesASecond)
 
 class GridTabTest : public ConfigureTest {};
 
+// True when some pixel of the painted board has a colour.
+bool IsPainted(Colour colour)
+{
+    const QImage board = PaintedNow();
+    for (int y = 0; y < board.height(); ++y) {
+        for (int x = 0; x < board.width(); ++x) {
+            if ((board.pixel(x, y) & RGB_MASK) == colour) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 struct BarRow {
     const char *Bar;
     const char *Label;
@@ -331,6 +345,25 @@ TEST_F(GridTabTest, ThicknessNullLetsTheCellsOfNeighbouringBoxesTouch)
     Drag("hsbPrimGridThick", 0);
     EXPECT_EQ(PrimaryThickness, 0);
     EXPECT_EQ(CellX(4), CellX(3) + CellWidth);
+}
+
+TEST_F(GridTabTest, ThicknessNullDrawsNoLines)
+{
+    ColourTable.fill(0x808080);
+    ColourTable[PrimaryLineColour] = 0xFF00FF;
+    ColourTable[SecondaryLineColour] = 0x00FF00;
+    ColourTable[AlertColour] = 0x808080;
+    BorderThickness = 0;
+    SecondaryThickness = 3;
+    Open(GridTab);
+    Drag("hsbSecGridThick", 2);
+    EXPECT_TRUE(IsPainted(0xFF00FF));
+    EXPECT_TRUE(IsPainted(0x00FF00));
+    Drag("hsbPrimGridThick", 0);
+    EXPECT_FALSE(IsPainted(0xFF00FF));
+    EXPECT_TRUE(IsPainted(0x00FF00));
+    Drag("hsbSecGridThick", 0);
+    EXPECT_FALSE(IsPainted(0x00FF00));
 }
 
 TEST_F(GridTabTest, MarginBelowTwentyEightHasNoTexts)
