@@ -123,6 +123,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     QuerySaveGame();
     if (LastAnswer != AnsweredCancel) {
         StopSound();
+        KeepPlace();
         // Before the other screens go, so that those open now count as open.
         WriteConfiguration();
         event->accept();

@@ -25,11 +25,11 @@ namespace {
 // there is no search to show.
 void OpenFormerScreens()
 {
-    if (StatisticsOpen != False) {
-        mnuStatistics();
-    }
     if (ConfigureOpen != False) {
         ShowConfigureScreen();
+    }
+    if (StatisticsOpen != False) {
+        mnuStatistics();
     }
 }
 
@@ -52,6 +52,7 @@ int RunProgram(const std::string &gameFile)
     GameModified = False;
     window.ShowAtItsPlace();
     OpenFormerScreens();
+    window.activateWindow(); // the first keys are for the board, not for a screen that came back
     if (!gameFile.empty()) {
         OpenGameFile(gameFile);
     }
