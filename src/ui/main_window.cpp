@@ -10,6 +10,7 @@
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "game/win_display.h"
+#include "grid/grid.h"
 #include "input/keys.h"
 #include "input/mouse.h"
 #include "input/toolbar.h"
@@ -99,6 +100,12 @@ MainWindow::MainWindow() : Client(new ClientArea(this)), timeBar(new QMenuBar(th
     Client->Board->setFocus();
 }
 
+MainWindow::~MainWindow()
+{
+    hide(); // while all that follows the focus still stands
+    mainWindow = nullptr;
+}
+
 void MainWindow::BuildMenus()
 {
     timeBar->setNativeMenuBar(false);
@@ -117,7 +124,8 @@ void MainWindow::UpdateMenuCaptions()
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     event->ignore();
-    if (!ReadyForCommand()) {
+    if (SearchActive != False) {
+        ReadyForCommand(); // asks whether to stop it
         return;
     }
     QuerySaveGame();

@@ -35,6 +35,9 @@ class MainWindow : public QMainWindow {
 
 public:
     MainWindow();
+    MainWindow(const MainWindow &) = delete;
+    MainWindow &operator=(const MainWindow &) = delete;
+    ~MainWindow() override;
 
     // Brings the captions of the clock's menu up to date.
     void UpdateMenuCaptions();

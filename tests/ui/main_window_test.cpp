@@ -1,5 +1,8 @@
+#include "game/history.h"
+#include "game/win_display.h"
 #include "grid/grid.h"
 #include "input/keys.h"
+#include "logic/driver.h"
 #include "support/widget_program.h"
 #include "ui/board_widget.h"
 
@@ -35,6 +38,43 @@ TEST(MainWindow, UnsavedGameHoldsTheClosing)
     const BoxRecord boxes = AnswerBoxes([&] { program.Main->close(); }, {QMessageBox::Cancel});
     EXPECT_EQ(boxes.Texts.size(), 1U);
     EXPECT_TRUE(program.Main->isVisible());
+}
+
+TEST(MainWindow, IsNoneBeforeItStandsAndAfterItHasGone)
+{
+    EXPECT_EQ(Window(), nullptr);
+    {
+        const Program program;
+        EXPECT_EQ(Window(), program.Main.get());
+    }
+    EXPECT_EQ(Window(), nullptr);
+}
+
+TEST(MainWindow, CancelledClosingLeavesTheWinDisplayOn)
+{
+    const Program program;
+    StartWinDisplay();
+    GameModified = True;
+    AnswerBoxes([&] { program.Main->close(); }, {QMessageBox::Cancel});
+    EXPECT_EQ(WinDisplayRunning, True);
+    EXPECT_TRUE(program.Main->WinTimer.isActive());
+    StopWinDisplay();
+}
+
+TEST(MainWindow, ClosingDuringASearchOnlyAsksAboutAGameSearch)
+{
+    const Program program;
+    SearchActive = True;
+    for (const std::int32_t kind : {0, 1, 4}) {
+        SearchKind = kind;
+        const BoxRecord boxes = AnswerBoxes([&] { program.Main->close(); });
+        EXPECT_EQ(boxes.Texts, kind == 1
+                                   ? std::vector<std::string>{"Would you like to stop searching?"}
+                                   : std::vector<std::string>{});
+        EXPECT_TRUE(program.Main->isVisible());
+    }
+    SearchActive = False;
+    SearchKind = 0;
 }
 
 } // namespace kelvarine::testing
