@@ -392,6 +392,16 @@ TEST_F(MenuBar, EntriesAreUpToDateWhenTheirMenuOpens)
     ExpectStatesAsTold(Main());
 }
 
+TEST_F(MenuBar, EntriesHaveTheirStateBeforeTheirMenuWasEverOpened)
+{
+    for (const char *name : {"mnuViewToolBar", "mnuViewToolTips", "mnuViewCoordinates"}) {
+        EXPECT_TRUE(EntryNamed(Main(), name).Action->isChecked()) << name;
+    }
+    EXPECT_FALSE(EntryNamed(Main(), "mnuUseSnapshot").Action->isEnabled());
+    EXPECT_FALSE(EntryNamed(Main(), "mnuUndo").Action->isEnabled());
+    EXPECT_TRUE(EntryNamed(Main(), "mnuStrongLinks", 1).Action->isChecked());
+}
+
 TEST_F(MenuBar, UndoAndRedoFollowTheHistory)
 {
     const auto states = [&] {
