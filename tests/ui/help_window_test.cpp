@@ -1,6 +1,8 @@
+#include "files/file_dialog.h"
 #include "grid/grid.h"
 #include "support/widget_program.h"
 #include "ui/board_widget.h"
+#include "ui/file_dialog_qt.h"
 #include "ui/help_key.h"
 #include "ui/help_window.h"
 #include "ui/presentation.h"
@@ -107,6 +109,20 @@ TEST_F(HelpWindowTest, OpensAtTheTopicThatAScreenAsksFor)
     EXPECT_EQ(PageOnView(), "files.html");
     ShowHelpTopic(0);
     EXPECT_EQ(PageOnView(), "index.html");
+}
+
+TEST_F(HelpWindowTest, FileDialogAsksForItsOwnTopicByKeyAndByButton)
+{
+    FileDialog dialog(Game.Main.get(), SudokuFiles);
+    dialog.open();
+    QCoreApplication::processEvents();
+    for (const auto &[name, key] :
+         {std::pair("txtFileName", Qt::Key_F1), std::pair("cmdHelp", Qt::Key_Space)}) {
+        ShowHelpTopic(0);
+        ASSERT_EQ(PageOnView(), "index.html");
+        QTest::keyClick(dialog.findChild<QWidget *>(name), key);
+        EXPECT_EQ(PageOnView(), "files.html") << name;
+    }
 }
 
 TEST_F(HelpWindowTest, WalksBackForwardAndHome)
