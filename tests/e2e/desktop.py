@@ -8,6 +8,7 @@ import io
 import os
 import pathlib
 import shutil
+import struct
 import subprocess
 import tempfile
 import time
@@ -19,6 +20,22 @@ PRIMARY, SECONDARY, BORDER, MARGIN = 8, 0, 10, 30  # the default thicknesses in 
 GIVEN_FILL = (32, 96, 80)
 UNKNOWN_FILL = (66, 120, 107)
 SELECTED_FILL = (54, 162, 253)
+
+RECORD_SIZE = 40  # of the settings and of game files
+
+pictures = os.environ.get("KELVARINE_PICTURES")
+
+
+def expect(condition, what):
+    if not condition:
+        raise AssertionError(what)
+    print("ok:", what, flush=True)
+
+
+def save_picture(picture, name):
+    """Keeps a picture to be looked at, where a folder for pictures is named."""
+    if pictures:
+        picture.save(f"{pictures}/{name}.png")
 
 
 def wait_for(condition, what, seconds=10.0):
@@ -59,6 +76,26 @@ class Desktop:
         time.sleep(0.5)
         return self
 
+    @property
+    def settings_file(self):
+        return self.home / ".config/kelvarine/config.sdu"
+
+    @property
+    def statistics_file(self):
+        return self.home / ".local/share/kelvarine/stats.sdu"
+
+    def setting(self, record, element):
+        """One word of the settings file."""
+        start = (record - 1) * RECORD_SIZE + 4 * element
+        return struct.unpack_from("<i", self.settings_file.read_bytes(), start)[0]
+
+    def files(self):
+        """Everything in the home that is a file, by its path from there; what the desktop keeps
+        there for itself apart."""
+        found = (path.relative_to(self.home) for path in self.home.rglob("*") if path.is_file())
+        return sorted(str(path) for path in found
+                      if "kelvarine" in str(path) or not str(path).startswith("."))
+
     def __exit__(self, *_):
         for process in reversed(self.processes):
             if process.poll() is None:
@@ -81,6 +118,9 @@ class Desktop:
 
     def key(self, *keys):
         self.xdotool("key", "--delay", "15", *keys)
+
+    def type(self, text):
+        self.xdotool("type", "--delay", "15", text)
 
     def set_clipboard(self, text):
         # The helper stays behind to serve the selection; a later one takes over from it.
@@ -114,13 +154,35 @@ class Desktop:
     def gone(self, window):
         wait_for(lambda: window not in self.windows(".*"), "a window to close")
 
+    def answer(self, *keys, title="^Kelvarine$", other_than=()):
+        """Waits for a box, answers it by keys and sees it go; a picture of it is the result."""
+        box = self.dialog(title, other_than)
+        picture = self.picture_of(box)
+        self.key(*keys)
+        self.gone(box)
+        return picture
+
+    def picture_of(self, window):
+        png = self.run("import", "-window", window, "png:-")
+        return Image.open(io.BytesIO(png)).convert("RGB")
+
+    def name_file(self, title, path):
+        """Types a path into the file dialog and presses OK; whether the dialog goes or asks, the
+        caller has to see to."""
+        box = self.dialog(title)
+        self.key("alt+n", "ctrl+a")
+        self.type(str(path))
+        self.key("Return")
+        return box
+
 
 class Game:
     """The program in its window."""
 
-    def __init__(self, desktop, program):
+    def __init__(self, desktop, program, arguments=(), before=()):
+        """Starts the program; the words of a command that is to start it may come before."""
         self.desktop = desktop
-        self.process = desktop.start([program])
+        self.process = desktop.start([*before, program, *arguments])
         self.window = wait_for(lambda: next(iter(desktop.windows("^Kelvarine")), None),
                                "the main window")
         self.focus()
@@ -134,8 +196,35 @@ class Game:
         time.sleep(0.5)
 
     def picture(self):
-        png = self.desktop.run("import", "-window", self.window, "png:-")
-        return Image.open(io.BytesIO(png)).convert("RGB")
+        return self.desktop.picture_of(self.window)
+
+    def menu(self, *keys):
+        """Opens a menu and goes through it by the keys of its entries."""
+        self.focus()
+        self.desktop.key(keys[0])
+        time.sleep(0.3)
+        self.desktop.key(*keys[1:])
+
+    def paste(self, text, save_first=None):
+        """A new game from the clipboard; the key answers the question whether to save first."""
+        self.desktop.set_clipboard(text)
+        self.desktop.key("ctrl+v")
+        if save_first:
+            self.desktop.answer(save_first, other_than=[self.window])
+            self.focus()
+        time.sleep(0.3)
+
+    def title(self):
+        return self.desktop.xdotool("getwindowname", self.window).strip()
+
+    def end(self, save_first=None):
+        """Closes the window as a player does, and gives the program's result."""
+        self.focus()
+        self.desktop.key("alt+F4")
+        if save_first:
+            self.desktop.answer(save_first, other_than=[self.window])
+        wait_for(lambda: self.process.poll() is not None, "the program to end")
+        return self.process.returncode
 
     def board(self):
         return Board(self.picture())
