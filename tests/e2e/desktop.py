@@ -15,7 +15,8 @@ import time
 
 from PIL import Image
 
-PRIMARY, SECONDARY, BORDER, MARGIN = 8, 0, 10, 30  # the default thicknesses in pixels
+MARGIN = 30  # thickness in pixels
+DEFAULT_LINES = 8, 0, 10  # of the primary and the secondary lines and the border
 
 GIVEN_FILL = (32, 96, 80)
 UNKNOWN_FILL = (66, 120, 107)
@@ -38,7 +39,7 @@ def save_picture(picture, name):
         picture.save(f"{pictures}/{name}.png")
 
 
-def wait_for(condition, what, seconds=10.0):
+def wait_for(condition, what, seconds=30.0):
     """Waits until condition() is true, and fails with what it waited for."""
     end = time.monotonic() + seconds
     while time.monotonic() < end:
@@ -182,6 +183,7 @@ class Game:
     def __init__(self, desktop, program, arguments=(), before=()):
         """Starts the program; the words of a command that is to start it may come before."""
         self.desktop = desktop
+        self.lines = DEFAULT_LINES
         self.process = desktop.start([*before, program, *arguments])
         self.window = wait_for(lambda: next(iter(desktop.windows("^Kelvarine")), None),
                                "the main window")
@@ -227,7 +229,7 @@ class Game:
         return self.process.returncode
 
     def board(self):
-        return Board(self.picture())
+        return Board(self.picture(), self.lines)
 
     def click(self, column, row, modifiers=(), button=1):
         x, y = self.board().centre(column, row)
@@ -260,8 +262,9 @@ class Game:
 class Board:
     """The board in a picture of the window: where the cells are and what is painted there."""
 
-    def __init__(self, picture):
+    def __init__(self, picture, thicknesses=DEFAULT_LINES):
         self.picture = picture
+        self.primary, self.secondary, self.border = thicknesses
         width, height = picture.size
         # The room of the board ends with the window and begins under the toolbar: going up through
         # the black of the left margin, the toolbar is the first thing that is not black.
@@ -270,19 +273,20 @@ class Board:
             top -= 1
         self.top = top
         client_height = height - top
-        lines = 4 * PRIMARY + 6 * SECONDARY
-        edges = 2 * (MARGIN + BORDER)
+        lines = 4 * self.primary + 6 * self.secondary
+        edges = 2 * (MARGIN + self.border)
         self.cell_width = (width - lines - edges) // 9
         self.cell_height = (client_height - lines - edges) // 9
-        board_width = 9 * self.cell_width + lines + 2 * BORDER
-        board_height = 9 * self.cell_height + lines + 2 * BORDER
+        board_width = 9 * self.cell_width + lines + 2 * self.border
+        board_height = 9 * self.cell_height + lines + 2 * self.border
         self.left = (width - board_width) // 2
         self.board_top = top + (client_height - board_height) // 2
 
     def origin(self, column, row):
         def offset(line, size):
             boxes = (line + 2) // 3
-            return BORDER + (line - 1) * size + boxes * PRIMARY + (line - boxes) * SECONDARY
+            return (self.border + (line - 1) * size + boxes * self.primary
+                    + (line - boxes) * self.secondary)
         return (self.left + offset(column, self.cell_width),
                 self.board_top + offset(row, self.cell_height))
 
@@ -294,6 +298,18 @@ class Board:
         """Colour of a cell, taken inside its frame and beside its numbers."""
         x, y = self.origin(column, row)
         return self.picture.getpixel((x + 3, y + 3))
+
+    def share(self, colour, column, row):
+        """Share of a cell's pixels that have this very colour."""
+        x, y = self.origin(column, row)
+        box = (x, y, x + self.cell_width, y + self.cell_height)
+        pixels = list(self.picture.crop(box).getdata())
+        return sum(1 for pixel in pixels if pixel == colour) / len(pixels)
+
+    def rating(self):
+        """The left end of the margin under the board, where the rating stands."""
+        width, height = self.picture.size
+        return self.picture.crop((0, height - MARGIN + 2, width // 3, height))
 
     def ink(self, column, row, place=None):
         """Share of white pixels in the middle of a cell, or in the ninth of a pencilmark."""
