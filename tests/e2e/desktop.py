@@ -203,18 +203,19 @@ class Game:
     def menu(self, *keys):
         """Opens a menu and goes through it by the keys of its entries."""
         self.focus()
-        self.desktop.key(keys[0])
-        time.sleep(0.3)
-        self.desktop.key(*keys[1:])
+        for key in keys:
+            self.desktop.key(key)
+            time.sleep(0.2)
 
     def paste(self, text, save_first=None):
-        """A new game from the clipboard; the key answers the question whether to save first."""
+        """A new game from the clipboard, waited for until it has been taken up; the key answers the
+        question whether to save first."""
         self.desktop.set_clipboard(text)
         self.desktop.key("ctrl+v")
         if save_first:
             self.desktop.answer(save_first, other_than=[self.window])
             self.focus()
-        time.sleep(0.3)
+        wait_for(lambda: self.copy_line() == text, "the pasted game")
 
     def title(self):
         return self.desktop.xdotool("getwindowname", self.window).strip()
@@ -255,8 +256,32 @@ class Game:
     def copy_line(self):
         """The position as the single line that the program puts on the clipboard."""
         self.desktop.set_clipboard("")
-        self.desktop.key("ctrl+minus")
-        return wait_for(lambda: self.desktop.clipboard(), "the clipboard to be filled").rstrip()
+        for _ in range(10):
+            # While the program rates a game it takes no keys.
+            self.desktop.key("ctrl+minus")
+            end = time.monotonic() + 3
+            while time.monotonic() < end:
+                if line := self.desktop.clipboard():
+                    return line.rstrip()
+                time.sleep(0.05)
+        raise AssertionError("the program puts nothing on the clipboard")
+
+
+class Configure:
+    """The configuration screen, worked by the keyboard. A tab's key puts the focus on the tabs,
+    from where Tab goes down the panel and Shift+Tab comes up from its end."""
+
+    def __init__(self, desktop):
+        self.desktop = desktop
+        self.window = desktop.dialog("^Configure$")
+
+    def press(self, tab, *steps):
+        self.desktop.xdotool("windowactivate", "--sync", self.window)
+        # Another tab first: the key of the tab on view does not bring the focus back.
+        self.desktop.key("alt+o", f"alt+{tab}", *steps)
+
+    def picture(self):
+        return self.desktop.picture_of(self.window)
 
 
 class Board:

@@ -5,7 +5,7 @@ found again when the program starts the next time."""
 import sys
 import time
 
-from desktop import Desktop, Game, GIVEN_FILL, expect, save_picture, wait_for
+from desktop import Configure, Desktop, Game, GIVEN_FILL, expect, save_picture, wait_for
 
 PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 
@@ -19,23 +19,6 @@ TECHNIQUES = 19
 COLOURS_TAB = 6
 SINGLES = 1 << 1 | 1 << 2
 HARD = 3
-
-
-class Configure:
-    """The configuration screen, worked by the keyboard. A tab's key puts the focus on the tabs,
-    from where Tab goes down the panel and Shift+Tab comes up from its end."""
-
-    def __init__(self, desktop):
-        self.desktop = desktop
-        self.window = desktop.dialog("^Configure$")
-
-    def press(self, tab, *steps):
-        self.desktop.xdotool("windowactivate", "--sync", self.window)
-        # Another tab first: the key of the tab on view does not bring the focus back.
-        self.desktop.key("alt+o", f"alt+{tab}", *steps)
-
-    def picture(self):
-        return self.desktop.picture_of(self.window)
 
 
 def makes_a_mistake(desktop, game):

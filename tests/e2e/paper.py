@@ -1,0 +1,150 @@
+#!/usr/bin/python3
+"""Printing to a PDF file through the print dialog: the game on the board, a batch of two pages of
+six games with its solutions, and a batch that cannot be met and is stopped."""
+
+import sys
+import time
+
+from desktop import Configure, Desktop, Game, expect, pictures, save_picture, wait_for
+
+PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
+
+SIX_GAMES = 4  # steps down the list of games per page
+PAGES, GAMES = 2, 12
+
+# From the tabs: past the mode, to the list, the pages, the solutions, the grey and the button.
+TO_BATCH = ["Tab", "Down"]
+TO_LIST = ["Tab"]
+TO_PAGES = ["Tab"]
+
+
+def print_to(desktop, path):
+    """Answers the print dialog with a file and waits until it is there."""
+    box = desktop.dialog("^Print$")
+    desktop.key("alt+f", "ctrl+a")
+    desktop.type(str(path))
+    save_picture(desktop.picture_of(box), "paper_dialog")
+    desktop.key("Return")
+    desktop.gone(box)
+
+
+def words_on(desktop, path, page):
+    return desktop.run("pdftotext", "-f", str(page), "-l", str(page), "-layout", str(path),
+                       "-").decode()
+
+
+def pages_of(desktop, path):
+    lines = desktop.run("pdfinfo", str(path)).decode().splitlines()
+    return next(int(line.split()[1]) for line in lines if line.startswith("Pages:"))
+
+
+def is_whole(path):
+    """The file comes into its place whole, when its document has ended."""
+    return path.exists() and path.read_bytes().rstrip().endswith(b"%%EOF")
+
+
+def keep_pages(desktop, path):
+    if pictures:
+        desktop.run("pdftoppm", "-r", "60", "-png", str(path), f"{pictures}/paper_{path.stem}")
+
+
+def prints_the_game(desktop, game):
+    path = desktop.home / "game.pdf"
+    desktop.key("ctrl+p")
+    screen = Configure(desktop)
+    screen.press("p", "shift+Tab", "space")
+    print_to(desktop, path)
+    wait_for(lambda: is_whole(path), "the game on paper")
+    expect(pages_of(desktop, path) == 1, "the game takes one page")
+    words = words_on(desktop, path, 1)
+    expect("Easy" in words and "# given cells: 30" in words,
+           "with its rating and the number of its givens")
+    keep_pages(desktop, path)
+    return screen
+
+
+def cancels(desktop, screen):
+    before = desktop.files()
+    screen.press("p", "shift+Tab", "space")
+    box = desktop.dialog("^Print$")
+    desktop.key("Escape")
+    desktop.gone(box)
+    expect(desktop.files() == before, "Cancel in the dialog prints nothing")
+
+
+def ask_for_batch(screen):
+    screen.press("p", *TO_BATCH, *TO_LIST, "Home", *["Down"] * SIX_GAMES, *TO_PAGES, "2")
+    save_picture(screen.picture(), "paper_batch")
+    screen.press("p", "shift+Tab", "space")
+
+
+def prints_a_batch(desktop, game, screen):
+    path = desktop.home / "batch.pdf"
+    game.focus()
+    before = game.copy_line()
+    ask_for_batch(screen)
+    print_to(desktop, path)
+    wait_for(lambda: is_whole(path), "the batch on paper", seconds=90)
+    expect(pages_of(desktop, path) == PAGES + 1, "two pages of games and one of solutions")
+    for page, first in ((1, 1), (2, 7)):
+        words = words_on(desktop, path, page)
+        expect(all(f"Game #{number}" in words for number in range(first, first + 6))
+               and words.count("Game #") == 6 and words.count("Easy") == 6,
+               f"six easy games on page {page}")
+    words = words_on(desktop, path, PAGES + 1)
+    expect(words.count("Game #") == GAMES and "Easy" not in words, "twelve solutions on the last")
+    keep_pages(desktop, path)
+    game.focus()
+    expect(game.copy_line() == before, "the game in hand is back")
+
+
+def counts_on(screen):
+    """The count of games in the preview rises all the time; any other change is over soon."""
+    seen = set()
+    for _ in range(4):
+        seen.add(screen.picture().tobytes())
+        time.sleep(0.3)
+    return len(seen) == 4
+
+
+def stops_a_batch(desktop, program):
+    game = Game(desktop, program)
+    game.resize(900, 980)
+    game.paste(PUZZLE)
+    desktop.key("ctrl+p")
+    screen = Configure(desktop)
+    ask_for_batch(screen)
+    before = desktop.files()
+    print_to(desktop, desktop.home / "hopeless.pdf")
+    wait_for(lambda: counts_on(screen), "the search to be seen in the preview")
+    save_picture(desktop.screen(), "paper_search")
+
+    desktop.key("space")  # the button that began it has the focus
+    desktop.answer("Return", other_than=[game.window])  # No is the default
+    wait_for(lambda: counts_on(screen), "the search to go on after a No")
+    game.focus()
+    desktop.key("5")
+    picture = desktop.answer("alt+y", other_than=[game.window])
+    save_picture(picture, "paper_stop")
+    game.focus()
+    expect(game.copy_line() == PUZZLE, "stopped, the game in hand is back")
+    expect(desktop.files() == before, "and there is no file without a page")
+    expect(game.end(save_first="alt+n") == 0, "the program ends")
+
+
+def main():
+    with Desktop() as desktop:
+        game = Game(desktop, sys.argv[1])
+        game.resize(900, 980)
+        game.paste(PUZZLE)
+        screen = prints_the_game(desktop, game)
+        cancels(desktop, screen)
+        prints_a_batch(desktop, game, screen)
+        expect(game.end(save_first="alt+n") == 0, "the program ends")
+    with Desktop() as desktop:  # with a home of its own, where no settings undo the wishes
+        stops_a_batch(desktop, sys.argv[2])
+    print("paper: all as it should be")
+
+
+if __name__ == "__main__":
+    main()
