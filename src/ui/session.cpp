@@ -48,6 +48,15 @@ void WatchSignals()
     ::sigaction(SIGHUP, &action, nullptr);
 }
 
+// A file that grows beyond what the user is allowed ends a program by default. Without the signal
+// it is a failing write, which the player is told of.
+void LetLargeFilesFail()
+{
+    struct sigaction action {};
+    action.sa_handler = SIG_IGN;
+    ::sigaction(SIGXFSZ, &action, nullptr);
+}
+
 void WatchSession()
 {
     QObject::connect(
@@ -68,6 +77,7 @@ void WatchSession()
 void WatchForTheEnd()
 {
     WatchSignals();
+    LetLargeFilesFail();
     WatchSession();
 }
 
