@@ -6,7 +6,7 @@ import struct
 import sys
 import time
 
-from desktop import Desktop, Game, GIVEN_FILL, SELECTED_FILL, expect, save_picture, wait_for
+from desktop import Desktop, Game, SELECTED_FILL, expect, save_picture, wait_for
 
 SOLUTION = "534678912672195348198342567859761423426853791713924856961537284287419635345286179"
 

@@ -5,16 +5,11 @@ import signal
 import sys
 import time
 
-from desktop import (Desktop, Game, GIVEN_FILL, SELECTED_FILL, UNKNOWN_FILL, wait_for)
+from desktop import (Desktop, Game, GIVEN_FILL, SELECTED_FILL, UNKNOWN_FILL, expect, save_picture,
+                     wait_for)
 
 PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 SOLUTION = "534678912672195348198342567859761423426853791713924856961537284287419635345286179"
-
-
-def expect(condition, what):
-    if not condition:
-        raise AssertionError(what)
-    print("ok:", what, flush=True)
 
 
 def paste(desktop, game, text):
@@ -124,7 +119,7 @@ def bad_clipboards(desktop, game):
     expect(game.copy_line() == "." * 81, "ten megabytes of text are a game at once")
 
 
-def sizes(desktop, game, pictures):
+def sizes(desktop, game):
     paste_over(desktop, game, PUZZLE)
     game.click(3, 1)
     desktop.key("1", "ctrl+2", "ctrl+4")
@@ -132,8 +127,7 @@ def sizes(desktop, game, pictures):
         game.resize(width, height)
         picture = game.picture()
         expect(abs(picture.size[0] - width) < 3, f"the window takes {width} pixels")
-        if pictures:
-            picture.save(f"{pictures}/first_game_{width}.png")
+        save_picture(picture, f"first_game_{width}")
         if width >= 600:
             expect(game.board().fill(1, 1) == GIVEN_FILL, f"the board is whole at {width} pixels")
 
@@ -166,7 +160,6 @@ def answer_save_question_quietly(desktop, game, key):
 
 def main():
     program = sys.argv[1]
-    pictures = sys.argv[2] if len(sys.argv) > 2 else None
     with Desktop() as desktop:
         game = Game(desktop, program)
         game.resize(900, 980)
@@ -174,7 +167,7 @@ def main():
         play_by_mouse_and_keys(desktop, game)
         solve_and_win(desktop, game)
         bad_clipboards(desktop, game)
-        sizes(desktop, game, pictures)
+        sizes(desktop, game)
         end_by_signal(desktop, game)
     print("first game: all as it should be")
 

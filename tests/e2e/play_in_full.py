@@ -3,12 +3,12 @@
 on the board, an alert explained, pencilmarks struck out, the toolbar in every mode, the clock
 paused."""
 
-import os
 import pathlib
 import sys
 import time
 
-from desktop import Desktop, Game, GIVEN_FILL, SELECTED_FILL, UNKNOWN_FILL, wait_for
+from desktop import (Desktop, Game, GIVEN_FILL, SELECTED_FILL, UNKNOWN_FILL, expect,
+                     save_picture)
 
 EASY = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 
@@ -55,20 +55,6 @@ TOOLBAR_MODES = [
     ("view", [14], (255, 64, 65)),
 ]
 
-pictures = os.environ.get("KELVARINE_PICTURES")
-
-
-def expect(condition, what):
-    if not condition:
-        raise AssertionError(what)
-    print("ok:", what, flush=True)
-
-
-def save(picture, name):
-    if pictures:
-        picture.save(f"{pictures}/{name}.png")
-
-
 def paste(desktop, game, text):
     """A new game from the clipboard, the one in hand given up if it was changed."""
     desktop.set_clipboard(text)
@@ -80,13 +66,6 @@ def paste(desktop, game, text):
             desktop.key("alt+n")
             desktop.gone(window)
             game.focus()
-
-
-def red_share(board, column, row):
-    x, y = board.origin(column, row)
-    box = (x, y, x + board.cell_width, y + board.cell_height)
-    pixels = list(board.picture.crop(box).getdata())
-    return sum(1 for pixel in pixels if pixel == RED) / len(pixels)
 
 
 def place(desktop, window):
@@ -114,7 +93,7 @@ def gives_a_hint(desktop, game, hard):
     expect(game.copy_line() == givens, f"game {hard.line} is on the board")
     paste(desktop, game, hard.marks)
     before = game.board()
-    expect(all(red_share(before, *cell) == 0 for cell in hard.chain), "no chain is on the board")
+    expect(all(before.share(RED, *cell) == 0 for cell in hard.chain), "no chain is on the board")
 
     desktop.key("h")
     box = desktop.dialog("^Hint$")
@@ -127,7 +106,7 @@ def gives_a_hint(desktop, game, hard):
     box = desktop.dialog(f"^{hard.title}$")
     expect_beside_the_board(desktop, game, box)
     time.sleep(0.3)
-    save(desktop.screen(), f"hint_{hard.line}")
+    save_picture(desktop.screen(), f"hint_{hard.line}")
     board = game.board()
     desktop.key("Return")
     desktop.gone(box)
@@ -135,12 +114,12 @@ def gives_a_hint(desktop, game, hard):
 
     expect(board.fill(*hard.target) == SELECTED_FILL, "the cell in question is selected")
     least = 0.02 if hard.discs else 0.005
-    expect(all(red_share(board, *cell) > least for cell in hard.chain),
+    expect(all(board.share(RED, *cell) > least for cell in hard.chain),
            f"the chain runs through its cells: {hard.title}")
-    save(game.picture(), f"chain_{hard.line}")
+    save_picture(game.picture(), f"chain_{hard.line}")
     game.click(*hard.target)
     board = game.board()
-    expect(all(red_share(board, *cell) == 0 for cell in hard.chain), "a click takes it away")
+    expect(all(board.share(RED, *cell) == 0 for cell in hard.chain), "a click takes it away")
 
 
 def no_is_enough(desktop, game):
@@ -160,17 +139,17 @@ def explains_an_alert(desktop, program):
     game.resize(900, 980)
     paste(desktop, game, EASY)
     game.click(3, 1)
-    expect(red_share(game.board(), 3, 1) == 0, "an open cell carries no alert")
+    expect(game.board().share(RED, 3, 1) == 0, "an open cell carries no alert")
     desktop.key("5", "a")
     box = desktop.dialog("[Cc]onflict")
     expect_beside_the_board(desktop, game, box)
     time.sleep(0.3)
-    save(desktop.screen(), "alert")
+    save_picture(desktop.screen(), "alert")
     board = game.board()
     desktop.key("Return")
     desktop.gone(box)
     game.focus()
-    expect(red_share(board, 3, 1) > 0.01, "a wrong entry carries an alert")
+    expect(board.share(RED, 3, 1) > 0.01, "a wrong entry carries an alert")
     expect(any(board.fill(c, r) in (HINT_CELL, HINT_DOMAIN)
                for c in range(1, 10) for r in range(1, 10)), "the cells of the reason are marked")
     game.process.kill()
@@ -231,6 +210,11 @@ def press_tool(desktop, game, index):
     time.sleep(0.2)
 
 
+def toolbar(game):
+    board = game.board()
+    return board.picture.crop((0, 0, board.picture.size[0], board.top + 4))
+
+
 def shows_every_mode(desktop, game):
     paste(desktop, game, EASY)
     for name, presses, colour in TOOLBAR_MODES:
@@ -238,7 +222,7 @@ def shows_every_mode(desktop, game):
             press_tool(desktop, game, index)
         picture = game.picture()
         expect(picture.getpixel(tool_point(game, 1)) == colour, f"the toolbar in mode {name}")
-        save(picture.crop((0, 0, picture.size[0], game.board().top + 4)), f"toolbar_{name}")
+        save_picture(toolbar(game), f"toolbar_{name}")
     press_tool(desktop, game, 7)
     board = game.board()
     expect(board.ink(5, 1) > 0.05 and board.ink(1, 1) == 0, "the view shows the sevens alone")
@@ -262,9 +246,7 @@ def shows_signs(desktop, game):
         desktop.xdotool("keydown", modifier)
         time.sleep(0.3)
         faces[modifier] = face()
-        if pictures:
-            picture = game.picture()
-            save(picture.crop((0, 0, picture.size[0], game.board().top + 4)), f"sign_{modifier}")
+        save_picture(toolbar(game), f"sign_{modifier}")
         desktop.xdotool("keyup", modifier)
         time.sleep(0.3)
         expect(face() == plain, f"{modifier} let go shows plain numbers")
@@ -279,7 +261,7 @@ def pauses(desktop, game):
     desktop.key("F12")
     time.sleep(0.4)
     board = game.board()
-    save(board.picture, "paused")
+    save_picture(board.picture, "paused")
     expect(all(board.ink(c, r) == 0 for c in range(1, 10) for r in range(1, 10)),
            "a paused game hides its numbers")
     expect(board.fill(2, 2) == SELECTED_FILL and board.fill(1, 1) == GIVEN_FILL
@@ -292,7 +274,7 @@ def pauses(desktop, game):
 def narrow(desktop, game):
     for width, height in ((420, 520), (300, 400)):
         game.resize(width, height)
-        save(game.picture(), f"narrow_{width}")
+        save_picture(game.picture(), f"narrow_{width}")
     game.resize(900, 980)
 
 

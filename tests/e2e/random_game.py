@@ -5,13 +5,7 @@ finds the earlier game back."""
 import sys
 import time
 
-from desktop import Desktop, Game, GIVEN_FILL, wait_for
-
-
-def expect(condition, what):
-    if not condition:
-        raise AssertionError(what)
-    print("ok:", what, flush=True)
+from desktop import Desktop, Game, GIVEN_FILL, expect, save_picture, wait_for
 
 
 def answer(desktop, game, key):
@@ -48,7 +42,7 @@ def banner_moves(game):
     return game.picture().tobytes() != first.tobytes()
 
 
-def stops_a_search(desktop, program, pictures):
+def stops_a_search(desktop, program):
     game = Game(desktop, program)
     game.resize(900, 980)
     desktop.set_clipboard("5" + "." * 79 + "9")
@@ -68,8 +62,7 @@ def stops_a_search(desktop, program, pictures):
         answer(desktop, game, "alt+y")  # search all the same?
         wait_for(lambda: banner_is_up(game), "the banner")
         expect(banner_moves(game), "the count of games goes up")
-        if pictures:
-            game.picture().save(f"{pictures}/search.png")
+        save_picture(game.picture(), "search")
         start = time.monotonic()
         act()
         box = desktop.dialog(other_than=[game.window])
@@ -87,10 +80,9 @@ def stops_a_search(desktop, program, pictures):
 
 
 def main():
-    pictures = sys.argv[3] if len(sys.argv) > 3 else None
     with Desktop() as desktop:
         makes_a_game(desktop, sys.argv[1])
-        stops_a_search(desktop, sys.argv[2], pictures)
+        stops_a_search(desktop, sys.argv[2])
     print("random game: all as it should be")
 
 
