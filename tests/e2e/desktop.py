@@ -190,6 +190,8 @@ class Game:
         self.focus()
 
     def focus(self):
+        """Brings the window to the front; not while a box is about to stand above it, for then the
+        wait for the front is long and in vain."""
         self.desktop.xdotool("windowactivate", "--sync", self.window)
         time.sleep(0.2)
 

@@ -19,9 +19,7 @@ def paste(desktop, game, text):
 
 
 def answer_save_question(desktop, game, key):
-    box = desktop.dialog(other_than=[game.window])
-    desktop.key(key)
-    desktop.gone(box)
+    desktop.answer(key, other_than=[game.window])
     game.focus()
 
 
@@ -100,14 +98,12 @@ def bad_clipboards(desktop, game):
     for text in (b"", b"abcdefghi" * 9, b"\x00\xff\xfe" * 1000):
         desktop.set_clipboard(text)
         desktop.key("ctrl+v")
-        answer_save_question(desktop, game, "alt+n")
-        box = desktop.dialog(other_than=[game.window])
-        desktop.key("Return")
-        desktop.gone(box)
+        desktop.answer("alt+n", other_than=[game.window])
+        desktop.answer("Return", other_than=[game.window])
         game.focus()
     desktop.set_clipboard("5" + "." * 39)
     desktop.key("ctrl+v")
-    answer_save_question(desktop, game, "alt+n")
+    desktop.answer("alt+n", other_than=[game.window])
     box = desktop.dialog(other_than=[game.window])
     desktop.key("Return")  # No is the default
     desktop.gone(box)
@@ -142,7 +138,7 @@ def paste_over(desktop, game, text):
 def end_by_signal(desktop, game):
     game.resize(900, 980)
     game.process.send_signal(signal.SIGTERM)
-    answer_save_question_quietly(desktop, game, "Escape")
+    desktop.answer("Escape", other_than=[game.window])
     expect(game.process.poll() is None, "Cancel keeps the program alive")
     game.focus()
     game.process.send_signal(signal.SIGTERM)
@@ -150,12 +146,6 @@ def end_by_signal(desktop, game):
     desktop.key("alt+n")
     wait_for(lambda: game.process.poll() is not None, "the program to end")
     expect(game.process.returncode == 0, "the program ends as after closing the window")
-
-
-def answer_save_question_quietly(desktop, game, key):
-    box = desktop.dialog(other_than=[game.window])
-    desktop.key(key)
-    desktop.gone(box)
 
 
 def main():

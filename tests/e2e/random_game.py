@@ -58,8 +58,8 @@ def stops_a_search(desktop, program):
     }
     for way, act in ways.items():
         desktop.key("ctrl+n")
-        answer(desktop, game, "alt+n")  # save first?
-        answer(desktop, game, "alt+y")  # search all the same?
+        desktop.answer("alt+n", other_than=[game.window])  # save first?
+        desktop.answer("alt+y", other_than=[game.window])  # search all the same?
         wait_for(lambda: banner_is_up(game), "the banner")
         expect(banner_moves(game), "the count of games goes up")
         save_picture(game.picture(), "search")
