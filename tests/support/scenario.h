@@ -9,8 +9,8 @@
 
 namespace kelvarine::testing {
 
-// A saved game in its middle: two unknown cells and three givens selected, levels to undo and to redo, a snapshot taken,
-// no techniques selected, and the numbers of the filter in view.
+// A saved game in its middle: two unknown cells and three givens selected, levels to undo and to
+// redo, a snapshot taken, no techniques selected, and the numbers of the filter in view.
 void SetScenario(CellWord filter);
 
 // The state of the program after a command from that position.
