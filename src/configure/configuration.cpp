@@ -427,7 +427,7 @@ void WriteConfiguration()
 {
     std::string error;
     if (!ReplaceWholeFile(SettingsFolder() + std::string(FileName), ConfigurationBytes(), error)) {
-        ShowMessage(error);
+        ShowMessage("Unable to save settings.\r\r" + error);
     }
 }
 

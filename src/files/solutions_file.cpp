@@ -17,7 +17,7 @@ void cmdSaveAsTextFile()
     std::string error;
     if (!ReplaceWholeFile(ChosenFilePath, SolutionsOnView + "\r\n", error,
                           MissingFolders::Refused)) {
-        ShowMessage(error);
+        ShowMessage("Unable to save file.\r\r" + error);
     }
 }
 

@@ -67,7 +67,7 @@ void TellFailure(const std::string &words)
 {
     if (!failureTold) {
         failureTold = true;
-        ShowMessage(words);
+        ShowMessage("Unable to save statistics.\r\r" + words);
     }
 }
 

@@ -256,7 +256,8 @@ TEST_F(Configuration, WritingThatFailsIsToldInTheSystemsWords)
 {
     std::filesystem::create_directories(Folders.Settings() / "config.sdu");
     WriteConfiguration();
-    EXPECT_EQ(Seen.Messages, std::vector<std::string>{"Is a directory"});
+    EXPECT_EQ(Seen.Messages,
+              std::vector<std::string>{"Unable to save settings.\r\rIs a directory"});
     EXPECT_TRUE(std::filesystem::is_directory(Folders.Settings() / "config.sdu"));
 }
 
@@ -265,7 +266,8 @@ TEST_F(Configuration, FolderInNoFoldersPlaceIsToldInTheSystemsWords)
     std::filesystem::create_directories(Folders.Settings().parent_path());
     std::ofstream(Folders.Settings()) << "a file where the folder should be";
     WriteConfiguration();
-    EXPECT_EQ(Seen.Messages, std::vector<std::string>{"Not a directory"});
+    EXPECT_EQ(Seen.Messages,
+              std::vector<std::string>{"Unable to save settings.\r\rNot a directory"});
 }
 
 TEST_F(Configuration, FullDiskLeavesTheOldFileWhole)
@@ -281,7 +283,8 @@ TEST_F(Configuration, FullDiskLeavesTheOldFileWhole)
     WriteConfiguration();
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
     ::signal(SIGXFSZ, handler);
-    EXPECT_EQ(Seen.Messages, std::vector<std::string>{"File too large"});
+    EXPECT_EQ(Seen.Messages,
+              std::vector<std::string>{"Unable to save settings.\r\rFile too large"});
     EXPECT_EQ(Folders.ReadSetting("config.sdu"), DefaultsWith(1, 1, 20));
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Folders.Settings()), {}), 1);
 }

@@ -80,7 +80,7 @@ TEST_F(SolutionsFile, FailingWriteIsToldInTheSystemsWords)
 {
     Seen.FileNames = {"/proc/no folder/file.txt"};
     cmdSaveAsTextFile();
-    EXPECT_EQ(Seen.Messages, Texts{"No such file or directory"});
+    EXPECT_EQ(Seen.Messages, Texts{"Unable to save file.\r\rNo such file or directory"});
 }
 
 } // namespace

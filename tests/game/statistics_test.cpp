@@ -223,7 +223,7 @@ TEST_F(Statistics, FailingWriteIsToldOnceAndTheSessionCounts)
     std::filesystem::create_directories(folder.parent_path());
     std::ofstream(folder) << "in the way";
     Solve(1, 60);
-    EXPECT_EQ(Seen.Messages, Texts{"Not a directory"});
+    EXPECT_EQ(Seen.Messages, Texts{"Unable to save statistics.\r\rNot a directory"});
     Solve(1, 40);
     EXPECT_EQ(Seen.Messages.size(), 1U);
     EXPECT_EQ(SessionStats[0], (LevelRecord{0, 2, 40, 50}));
@@ -238,7 +238,7 @@ TEST_F(Statistics, FileThatCannotBeReadIsNotWrittenOver)
     std::filesystem::create_directories(StatisticsFilePath());
     Solve(1, 60);
     Solve(1, 60);
-    EXPECT_EQ(Seen.Messages, Texts{"Is a directory"});
+    EXPECT_EQ(Seen.Messages, Texts{"Unable to save statistics.\r\rIs a directory"});
     EXPECT_TRUE(std::filesystem::is_directory(StatisticsFilePath()));
     EXPECT_EQ(SessionStats[0].Solved, 2);
 }
