@@ -276,7 +276,7 @@ TEST_F(PrintedBatch, GamesHaveRatingAndNumberUnderTheirEdges)
     PrintGamesPerPage = 1;
     cmdPrint();
     EXPECT_EQ(Texts(), (std::vector<std::string>{"Easy", "Game #1", "Easy", "Game #2"}));
-    const PagePlace &place = Pictures()[1].Place;
+    const PagePlace place = Pictures()[1].Place;
     const double under = place.Top + place.Height;
     EXPECT_EQ(Seen.Printed[4].Place, (PagePlace{place.Left, under, 0, 0}));
     EXPECT_EQ(Seen.Printed[5].Place, (PagePlace{place.Left + place.Width - 140, under, 0, 0}));
