@@ -4,9 +4,9 @@ real program on it, and real key and mouse events.
 Everything that a test learns it learns as a player does, from the pixels of the window and from
 the clipboard."""
 
-import io
 import os
 import pathlib
+import select
 import shutil
 import struct
 import subprocess
@@ -14,6 +14,10 @@ import tempfile
 import time
 
 from PIL import Image
+from Xlib import X, display, error
+from Xlib.protocol.event import ClientMessage
+
+TOOLS = pathlib.Path(__file__).resolve().parents[2] / "tools"
 
 MARGIN = 30  # thickness in pixels
 DEFAULT_LINES = 8, 0, 10  # of the primary and the secondary lines and the border
@@ -23,6 +27,14 @@ UNKNOWN_FILL = (66, 120, 107)
 SELECTED_FILL = (54, 162, 253)
 
 RECORD_SIZE = 40  # of the settings and of game files
+
+# When a wait is given up, in seconds. It judges nothing: what comes late is as good as what comes
+# soon, and a machine that is busy with other things is given its time.
+PATIENCE = 150
+
+# How often the program has to come round in its event loop until a key is handled, its effect
+# painted and the picture on the screen: taken in, handled, painted, and one round to be sure.
+TURNS = 4
 
 pictures = os.environ.get("KELVARINE_PICTURES")
 
@@ -39,42 +51,53 @@ def save_picture(picture, name):
         picture.save(f"{pictures}/{name}.png")
 
 
-def wait_for(condition, what, seconds=30.0):
+def wait_for(condition, what, seconds=PATIENCE):
     """Waits until condition() is true, and fails with what it waited for."""
     end = time.monotonic() + seconds
     while time.monotonic() < end:
         value = condition()
         if value:
             return value
-        time.sleep(0.05)
+        time.sleep(0.02)
     raise AssertionError(f"waited {seconds} s in vain for {what}")
 
 
+def let_the_clock_tick(seconds):
+    """Until the world's clock shows so many seconds more: for what must not move meanwhile."""
+    shown = int(time.time()) + seconds
+    wait_for(lambda: int(time.time()) > shown, "the time to pass")
+
+
 class Desktop:
-    """A virtual display with a window manager; use it with `with`."""
+    """A virtual display with a window manager; use it with `with`. What a failed test leaves, the
+    screen and what the programs wrote, is kept in a folder that is named."""
 
     def __init__(self, width=1800, height=1400):
-        self.size = f"{width}x{height}x24"
+        self.size = f"{width}x{height}"
         self.processes = []
+        self.games = []
+        self.pings = 0
 
     def __enter__(self):
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="kelvarine-e2e-"))
-        read_end, write_end = os.pipe()
-        server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", self.size, "-nolisten", "tcp"],
-            pass_fds=[write_end], stderr=subprocess.DEVNULL)
-        os.close(write_end)
-        self.processes.append(server)
-        with os.fdopen(read_end) as numbers:
-            self.display = ":" + numbers.readline().strip()
+        self.evidence = pathlib.Path(tempfile.mkdtemp(prefix="kelvarine-run-"))
+        self.screen_process = subprocess.Popen(
+            [TOOLS / "virtual_display", self.size, "sh", "-c", "echo $DISPLAY; exec cat"],
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        self.display = self.screen_process.stdout.readline().decode().strip()
+        expect(self.display, "there is a virtual display")
         self.environment = dict(os.environ, DISPLAY=self.display, HOME=str(self.home),
                                 XDG_CONFIG_HOME=str(self.home / ".config"),
                                 XDG_DATA_HOME=str(self.home / ".local/share"),
                                 QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8",
+                                QT_QPA_UPDATE_IDLE_TIME="0",
                                 XDG_RUNTIME_DIR=str(self.home))
         self.environment.pop("WAYLAND_DISPLAY", None)
-        self.start(["openbox"], stderr=subprocess.DEVNULL)
-        time.sleep(0.5)
+        self.server = display.Display(self.display)
+        self.root = self.server.screen().root
+        self.root.change_attributes(
+            event_mask=X.StructureNotifyMask | X.SubstructureNotifyMask)  # brings answers to pings
+        self.server.sync()
         return self
 
     @property
@@ -97,12 +120,26 @@ class Desktop:
         return sorted(str(path) for path in found
                       if "kelvarine" in str(path) or not str(path).startswith("."))
 
-    def __exit__(self, *_):
+    def __exit__(self, failure, *_):
+        if failure:
+            self.name_evidence()
         for process in reversed(self.processes):
             if process.poll() is None:
                 process.kill()
             process.wait()
+        self.server.close()
+        self.screen_process.stdin.close()
+        self.screen_process.wait()
         shutil.rmtree(self.home, ignore_errors=True)
+        if not failure:
+            shutil.rmtree(self.evidence)
+
+    def name_evidence(self):
+        try:
+            self.screen().save(self.evidence / "screen.png")
+        except (OSError, error.XError) as reason:
+            print(f"no picture of the screen: {reason}")
+        print("what the failed run left:", *sorted(map(str, self.evidence.iterdir())), flush=True)
 
     def start(self, command, **options):
         process = subprocess.Popen(command, env=self.environment, **options)
@@ -111,11 +148,53 @@ class Desktop:
 
     def run(self, *command, data=None, check=True):
         done = subprocess.run(command, env=self.environment, input=data, check=check,
-                              stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=60)
+                              stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=PATIENCE)
         return done.stdout
 
+    # ---- Events ----------------------------------------------------------------------------------
+
     def xdotool(self, *words):
-        return self.run("xdotool", *[str(word) for word in words]).decode()
+        """Does something with windows, mouse or keys, and returns when the programs have dealt with
+        it."""
+        told = self.run("xdotool", *[str(word) for word in words]).decode()
+        self.settle()
+        return told
+
+    def settle(self):
+        """Waits until every program has handled and painted all that was sent to it."""
+        for game in self.games:
+            for _ in range(TURNS):
+                self.ping(game)
+
+    def ping(self, game):
+        """Asks the program's window whether it is alive, as a window manager does, and waits for the
+        answer, which comes from the program's event loop and in its turn; or for the window's end."""
+        window = self.server.create_resource_object("window", int(game.window))
+        self.pings += 1
+        mark = self.pings
+        question = ClientMessage(window=window, client_type=self.server.get_atom("WM_PROTOCOLS"),
+                                 data=(32, [self.server.get_atom("_NET_WM_PING"), mark,
+                                            int(game.window), 0, 0]))
+        window.send_event(question, event_mask=0, onerror=error.CatchError(error.BadWindow))
+        self.server.sync()
+        wait_for(lambda: self.answered(mark) or game.process.poll() is not None
+                 or not self.exists(window), "the program to answer")
+
+    def answered(self, mark):
+        select.select([self.server.fileno()], [], [], 0.05)
+        answer = False
+        while self.server.pending_events():
+            event = self.server.next_event()
+            sent = event.type & 0x7F  # the highest bit tells events that programs send
+            answer |= sent == X.ClientMessage and event.data[1][1] == mark
+        return answer
+
+    def exists(self, window):
+        try:
+            window.get_attributes()
+            return True
+        except (error.BadWindow, error.BadDrawable):
+            return False
 
     def key(self, *keys):
         self.xdotool("key", "--delay", "15", *keys)
@@ -123,12 +202,30 @@ class Desktop:
     def type(self, text):
         self.xdotool("type", "--delay", "15", text)
 
+    def focus(self, window):
+        """Brings a window to the front and waits until it has the keyboard."""
+        def has_focus():
+            if self.focused() == window:
+                return True
+            self.run("xdotool", "windowactivate", window, check=False)
+            return False
+        wait_for(has_focus, "a window to get the focus")
+        self.settle()
+
+    def focused(self):
+        """The window that has the keyboard, in the form in which windows are told here."""
+        window = self.server.get_input_focus().focus
+        return str(getattr(window, "id", window))
+
+    # ---- What is there ---------------------------------------------------------------------------
+
     def set_clipboard(self, text):
         # The helper stays behind to serve the selection; a later one takes over from it.
         process = subprocess.Popen(["xclip", "-selection", "clipboard", "-in"],
                                    env=self.environment, stdin=subprocess.PIPE,
                                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         process.communicate(text if isinstance(text, bytes) else text.encode())
+        self.settle()
 
     def clipboard(self):
         return self.run("xclip", "-selection", "clipboard", "-out", check=False).decode()
@@ -137,10 +234,14 @@ class Desktop:
         found = self.run("xdotool", "search", "--onlyvisible", "--name", name, check=False)
         return found.decode().split()
 
+    def managed_window(self):
+        """A window that the window manager holds, whatever its name; none as long as there is none."""
+        held = self.root.get_full_property(self.server.get_atom("_NET_CLIENT_LIST"), X.AnyPropertyType)
+        return str(held.value[0]) if held and len(held.value) else None
+
     def screen(self):
         """A picture of everything on view."""
-        png = self.run("import", "-window", "root", "png:-")
-        return Image.open(io.BytesIO(png)).convert("RGB")
+        return self.pixels_of(self.root)
 
     def dialog(self, title="^Kelvarine$", other_than=()):
         """Waits for a window of this title that is none of the others, and gives it the focus."""
@@ -148,12 +249,12 @@ class Desktop:
             new = [w for w in self.windows(title) if w not in other_than]
             return new[0] if new else None
         window = wait_for(fresh, f"a window called {title}")
-        self.xdotool("windowfocus", "--sync", window)
-        time.sleep(0.1)
+        self.focus(window)
         return window
 
     def gone(self, window):
         wait_for(lambda: window not in self.windows(".*"), "a window to close")
+        self.settle()
 
     def answer(self, *keys, title="^Kelvarine$", other_than=()):
         """Waits for a box, answers it by keys and sees it go; a picture of it is the result."""
@@ -164,8 +265,14 @@ class Desktop:
         return picture
 
     def picture_of(self, window):
-        png = self.run("import", "-window", window, "png:-")
-        return Image.open(io.BytesIO(png)).convert("RGB")
+        return self.pixels_of(self.server.create_resource_object("window", int(window)))
+
+    @staticmethod
+    def pixels_of(drawable):
+        geometry = drawable.get_geometry()
+        size = geometry.width, geometry.height
+        image = drawable.get_image(0, 0, *size, X.ZPixmap, 0xFFFFFFFF)
+        return Image.frombytes("RGB", size, image.data, "raw", "BGRX")
 
     def name_file(self, title, path):
         """Types a path into the file dialog and presses OK; whether the dialog goes or asks, the
@@ -184,20 +291,33 @@ class Game:
         """Starts the program; the words of a command that is to start it may come before."""
         self.desktop = desktop
         self.lines = DEFAULT_LINES
-        self.process = desktop.start([*before, program, *arguments])
-        self.window = wait_for(lambda: next(iter(desktop.windows("^Kelvarine")), None),
-                               "the main window")
+        self.clicks = 0
+        with open(desktop.evidence / f"program-{len(desktop.processes)}.log", "wb") as log:
+            self.process = desktop.start([*before, program, *arguments], stderr=log)
+        self.window = wait_for(self.main_window, "the main window")
+        desktop.games.append(self)
         self.focus()
+
+    def main_window(self):
+        expect_alive(self.process)
+        return next(iter(self.desktop.windows("^Kelvarine")), None)
 
     def focus(self):
         """Brings the window to the front; not while a box is about to stand above it, for then the
         wait for the front is long and in vain."""
-        self.desktop.xdotool("windowactivate", "--sync", self.window)
-        time.sleep(0.2)
+        self.desktop.focus(self.window)
 
     def resize(self, width, height):
-        self.desktop.xdotool("windowsize", "--sync", self.window, width, height)
-        time.sleep(0.5)
+        before = self.size()
+        self.desktop.xdotool("windowsize", self.window, width, height)
+        wait_for(lambda: self.size() == (width, height) or self.size() != before,
+                 "the window to change its size")
+        self.desktop.settle()
+
+    def size(self):
+        geometry = self.desktop.server.create_resource_object(
+            "window", int(self.window)).get_geometry()
+        return geometry.width, geometry.height
 
     def picture(self):
         return self.desktop.picture_of(self.window)
@@ -207,7 +327,6 @@ class Game:
         self.focus()
         for key in keys:
             self.desktop.key(key)
-            time.sleep(0.2)
 
     def paste(self, text, save_first=None):
         """A new game from the clipboard, waited for until it has been taken up; the key answers the
@@ -236,6 +355,9 @@ class Game:
 
     def click(self, column, row, modifiers=(), button=1):
         x, y = self.board().centre(column, row)
+        # Two clicks in quick succession at one place would be a double click.
+        self.clicks += 1
+        x += 9 * (self.clicks % 2)
         desktop = self.desktop
         desktop.xdotool("mousemove", "--window", self.window, x, y)
         for modifier in modifiers:
@@ -243,8 +365,6 @@ class Game:
         desktop.xdotool("click", button)
         for modifier in modifiers:
             desktop.xdotool("keyup", modifier)
-        # Two clicks in quick succession would be a double click.
-        time.sleep(0.5)
 
     def drag(self, start, end):
         board = self.board()
@@ -253,20 +373,21 @@ class Game:
         self.desktop.xdotool("mousemove", "--window", self.window, x1, y1, "mousedown", 1,
                              "mousemove", "--window", self.window, (x1 + x2) // 2, (y1 + y2) // 2,
                              "mousemove", "--window", self.window, x2, y2, "mouseup", 1)
-        time.sleep(0.3)
 
     def copy_line(self):
         """The position as the single line that the program puts on the clipboard."""
         self.desktop.set_clipboard("")
-        for _ in range(10):
+
+        def taken():
             # While the program rates a game it takes no keys.
             self.desktop.key("ctrl+minus")
-            end = time.monotonic() + 3
-            while time.monotonic() < end:
-                if line := self.desktop.clipboard():
-                    return line.rstrip()
-                time.sleep(0.05)
-        raise AssertionError("the program puts nothing on the clipboard")
+            return self.desktop.clipboard()
+        return wait_for(taken, "a line on the clipboard").rstrip()
+
+
+def expect_alive(process):
+    if process.poll() is not None:
+        raise AssertionError(f"the program ended with {process.returncode}")
 
 
 class Configure:
@@ -278,7 +399,7 @@ class Configure:
         self.window = desktop.dialog("^Configure$")
 
     def press(self, tab, *steps):
-        self.desktop.xdotool("windowactivate", "--sync", self.window)
+        self.desktop.focus(self.window)
         # Another tab first: the key of the tab on view does not bring the focus back.
         self.desktop.key("alt+o", f"alt+{tab}", *steps)
 

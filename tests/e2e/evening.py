@@ -4,9 +4,9 @@ a game won and counted, the solutions of another one listed and saved."""
 
 import struct
 import sys
-import time
 
-from desktop import Desktop, Game, SELECTED_FILL, expect, save_picture, wait_for
+from desktop import (Desktop, Game, SELECTED_FILL, expect, let_the_clock_tick, save_picture,
+                     wait_for)
 
 SOLUTION = "534678912672195348198342567859761423426853791713924856961537284287419635345286179"
 
@@ -66,7 +66,6 @@ def takes_a_hint(desktop, game):
     for _ in range(2):
         desktop.answer("alt+y", title="^Hint$")
     box = desktop.dialog("^[A-Z].* ", other_than=others)  # its title names the technique
-    time.sleep(0.3)
     save_picture(desktop.screen(), "evening_hint")
     desktop.key("Return")
     desktop.gone(box)
@@ -88,13 +87,12 @@ def pauses(desktop, game):
     desktop.key("F12")
     board = game.board()
     wait_for(lambda: all(game.board().ink(k, k) == 0 for k in range(1, 10)), "the pause")
-    time.sleep(0.3)
     board = game.board()
     expect(all(board.ink(column, row) == 0 for column in range(1, 10) for row in range(1, 10)),
            "a paused game hides its numbers")
     save_picture(game.picture(), "evening_paused")
     stopped = clock(game)
-    time.sleep(2.5)
+    let_the_clock_tick(2)
     expect(clock(game) == stopped, "and its clock stands still")
     desktop.key("F12")
     wait_for(lambda: clock(game) != stopped, "the clock to go on")
@@ -103,9 +101,8 @@ def pauses(desktop, game):
 def opens_the_help(desktop, game):
     desktop.key("F1")
     box = desktop.dialog("Kelvarine Help$")
-    time.sleep(0.5)
     save_picture(desktop.picture_of(box), "evening_help")
-    desktop.xdotool("windowactivate", "--sync", box)
+    desktop.focus(box)
     desktop.key("Escape")
     desktop.gone(box)
     game.focus()
@@ -119,6 +116,7 @@ def wins(desktop, game):
     game.paste(without(cells), save_first="alt+n")
     expect(game.copy_line() == without(cells), "an easy game is almost done")
     expect(not desktop.statistics_file.exists(), "nothing is counted so far")
+    let_the_clock_tick(2)
     for column, row in cells:
         game.click(column, row)
         desktop.key(solution_at(column, row))
@@ -132,11 +130,10 @@ def wins(desktop, game):
 def counts(desktop, game):
     game.menu("alt+s")
     box = desktop.dialog("^Statistics$")
-    time.sleep(0.3)
     save_picture(desktop.picture_of(box), "evening_statistics")
     words = struct.unpack("<20i", desktop.statistics_file.read_bytes())
     _, solved, best, average = words[4 * (EASY - 1):4 * EASY]
-    expect(solved == 1 and 0 < best == average < 60, "one easy game is counted, with its time")
+    expect(solved == 1 and 0 < best == average, "one easy game is counted, with its time")
     expect(not any(words[4 * EASY:]), "and none of any other level")
     desktop.key("Escape")
     desktop.gone(box)
@@ -151,7 +148,6 @@ def lists_solutions(desktop, game):
     game.paste(open_line, save_first="alt+n")
     game.menu("alt+h", "s")
     box = desktop.dialog("^Solutions$")
-    time.sleep(0.5)
     save_picture(desktop.picture_of(box), "evening_solutions")
     desktop.key("Tab", "Tab", "space")
     saved = desktop.home / "both.txt"
@@ -164,7 +160,7 @@ def lists_solutions(desktop, game):
     text = saved.read_bytes().decode().removesuffix("\r\n")
     half = len(text) // 2
     expect({text[:half], text[half:]} == both, "both solutions are saved, framed")
-    desktop.xdotool("windowfocus", "--sync", box)
+    desktop.focus(box)
     desktop.key("Escape")
     desktop.gone(box)
     game.focus()

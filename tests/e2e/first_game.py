@@ -3,7 +3,6 @@
 
 import signal
 import sys
-import time
 
 from desktop import (Desktop, Game, GIVEN_FILL, SELECTED_FILL, UNKNOWN_FILL, expect, save_picture,
                      wait_for)
@@ -15,7 +14,6 @@ SOLUTION = "53467891267219534819834256785976142342685379171392485696153728428741
 def paste(desktop, game, text):
     desktop.set_clipboard(text)
     desktop.key("ctrl+v")
-    time.sleep(0.5)
 
 
 def answer_save_question(desktop, game, key):
@@ -42,7 +40,6 @@ def play_by_mouse_and_keys(desktop, game):
     marks = [n for n in range(1, 10) if board.has_pencilmark(3, 1, n)]
     expect(marks == [1, 2, 4], "digits with Ctrl add pencilmarks at their places")
     desktop.key("shift+1")
-    time.sleep(0.3)
     board = game.board()
     expect([n for n in range(1, 10) if board.has_pencilmark(3, 1, n)] == [2, 4],
            "a digit with Shift takes one away")
@@ -77,20 +74,18 @@ def play_by_mouse_and_keys(desktop, game):
 
 def solve_and_win(desktop, game):
     desktop.key("shift+z")
-    line = wait_for(lambda: game.board().ink(3, 1) >= 0 and not win_is_still(game),
-                    "the win display to move")
-    expect(line, "the win display runs")
+    wait_for(lambda: not at_rest(game), "the win display to run")
     desktop.key("Down")
-    time.sleep(0.3)
-    expect(win_is_still(game), "a key stops the win display")
+    expect(at_rest(game), "a key stops the win display")
     expect(game.copy_line() == SOLUTION, "the engine found the solution")
 
 
-def win_is_still(game):
-    first = game.board()
-    time.sleep(0.35)
-    second = game.board()
-    return all(first.fill(c, r) == second.fill(c, r) for c in range(1, 10) for r in range(1, 10))
+def at_rest(game):
+    """Whether every cell has a colour of the board at rest; the win display paints all of them in
+    colours of its own."""
+    board = game.board()
+    return all(board.fill(c, r) in (GIVEN_FILL, UNKNOWN_FILL, SELECTED_FILL)
+               for c in range(1, 10) for r in range(1, 10))
 
 
 def bad_clipboards(desktop, game):

@@ -2,10 +2,8 @@
 """Games on the disk: saved and opened again with their undo states, written over only on a Yes,
 unharmed by a broken file, and whole even when the program is killed while it saves."""
 
-import os
 import struct
 import sys
-import time
 
 from desktop import Desktop, Game, RECORD_SIZE, expect, save_picture, wait_for
 
@@ -13,8 +11,6 @@ PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419.
 
 GAME_SIZE = 1034 * RECORD_SIZE
 HEADER = b"Kelvarine game file v1.0".ljust(32)
-
-KILLS = 4
 
 
 # ---- What a game file holds --------------------------------------------------------------------
@@ -97,7 +93,7 @@ def overwrites_when_told(desktop, game, path):
     desktop.gone(question)
     expect(box in desktop.windows("^Save Game As$"), "on No the dialog stays")
     expect(path.read_bytes() == before, "and the file is untouched")
-    desktop.xdotool("windowfocus", "--sync", box)
+    desktop.focus(box)
     save_picture(desktop.picture_of(box), "games_file_dialog")
     desktop.key("Return")
     desktop.answer("alt+y", title="^Overwrite\\?$")
@@ -138,7 +134,7 @@ def open_missing(desktop, game, folder):
     box = desktop.name_file("^Open Game$", folder / "nowhere")
     desktop.answer("Return", other_than=[game.window])
     expect(box in desktop.windows("^Open Game$"), "a missing file leaves the dialog open")
-    desktop.xdotool("windowfocus", "--sync", box)
+    desktop.focus(box)
     desktop.key("Escape")
     desktop.gone(box)
     game.focus()
@@ -146,44 +142,43 @@ def open_missing(desktop, game, folder):
 
 # ---- Killed while saving -----------------------------------------------------------------------
 
-def half_written(folder):
-    return {entry.name for entry in os.scandir(folder) if entry.name.startswith(".kelvarine-")}
+# The calls of the system at which the program is killed, which time it comes to them, and whether the
+# new file has taken its place by then.
+KILLS = [
+    ("before the new file is on the disk", "fsync", 1, False),
+    ("before it takes its place", "rename,renameat,renameat2", 1, False),
+    ("before its folder is on the disk", "fsync", 2, True),
+]
 
 
-def kill_in_a_save(desktop, game, folder):
-    """Saves again and again, each time another position, and kills the program as soon as a new
-    file begins to grow beside the old one; whether one was left half written."""
-    known = half_written(folder)
-    keys = desktop.start(["xdotool", "key", "--delay", "5", *["Prior", "ctrl+s", "Next", "ctrl+s"]
-                          * 100])
-    end = time.monotonic() + 8
-    while time.monotonic() < end and half_written(folder) <= known:
-        pass
-    game.process.kill()
-    game.process.wait()
-    keys.kill()
-    keys.wait()
-    desktop.xdotool("keyup", "ctrl+s", "Prior", "Next")  # one of them may have been down
-    return bool(half_written(folder) - known)
+def killed_at(calls, time):
+    """The words that start a program and kill it when it enters one of these calls."""
+    return ["strace", "-f", "-qq", "-o", "/dev/null", "-e", f"trace={calls}",
+            "-e", f"inject={calls}:signal=SIGKILL:when={time}"]
 
 
 def stays_whole_when_killed(desktop, game, program, path):
     new = game.copy_line()
     old = new[:8] + "." + new[9:]
-    in_the_middle = 0
-    for _ in range(KILLS):
-        in_the_middle += kill_in_a_save(desktop, game, path.parent)
-        contents = path.read_bytes()
-        expect(is_whole(contents) and numbers_on(records(contents, 4, 13)) in (old, new),
-               "killed while it saves, the program leaves the old file or the new one")
-        game = Game(desktop, program, arguments=[path])
+    expect(numbers_on(records(path.read_bytes(), 4, 13)) == new, "the file holds the position")
+    expect(game.end() == 0, "the program ends")
+    for moment, calls, time, replaced in KILLS:
+        whole = path.read_bytes()
+        game = Game(desktop, program, arguments=[path], before=killed_at(calls, time))
         game.resize(900, 980)
-        if game.copy_line() == old:
-            desktop.key("Next")
-        opened = game.copy_line()
-        expect(opened == new, f"which opens, undo states and all: {opened}")
-    print(f"{in_the_middle} of {KILLS} kills struck in the middle of a save", flush=True)
-    expect(in_the_middle > 0, "at least one kill struck in the middle")
+        expect(game.copy_line() == new, "the game is opened")
+        desktop.key("Prior", "ctrl+s")
+        wait_for(lambda: game.process.poll() is not None, "the program to be killed")
+        contents = path.read_bytes()
+        expect(is_whole(contents), f"killed {moment}, the program leaves a whole file")
+        expect(numbers_on(records(contents, 4, 13)) == (old if replaced else new),
+               f"it is the {'new' if replaced else 'old'} one")
+        expect((contents == whole) != replaced, "to the byte")
+    game = Game(desktop, program, arguments=[path])
+    game.resize(900, 980)
+    expect(game.copy_line() == old, "which opens")
+    desktop.key("Next")
+    expect(game.copy_line() == new, "undo states and all")
     return game
 
 
@@ -196,6 +191,7 @@ def main():
         overwrites_when_told(desktop, game, path)
         survives_broken_files(desktop, game, desktop.home)
         game = stays_whole_when_killed(desktop, game, sys.argv[1], path)
+        desktop.key("ctrl+s")
         expect(game.end() == 0, "a game that is saved is closed without a question")
     print("games kept: all as it should be")
 

@@ -4,7 +4,6 @@ and off and with every modifier sum that means something, and looks at what arri
 
 import subprocess
 import sys
-import time
 
 from desktop import Desktop, wait_for
 
@@ -47,15 +46,13 @@ def main():
     with Desktop(400, 300) as desktop:
         probe = desktop.start([sys.argv[1]], stdout=subprocess.PIPE, text=True)
         window = wait_for(lambda: next(iter(desktop.windows("^Key probe")), None), "the probe")
-        desktop.xdotool("windowactivate", "--sync", window)
-        time.sleep(0.3)
+        desktop.focus(window)
         for layout in LAYOUTS:
             desktop.run("setxkbmap", layout)
             for num_lock in (False, True):
                 if num_lock_is_on(desktop) != num_lock:
                     desktop.xdotool("key", NUM_LOCK)
                 wait_for(lambda: num_lock_is_on(desktop) == num_lock, "NumLock to change")
-                time.sleep(0.2)
                 for modifier_sum in SUMS:
                     press_all(desktop, list(keys), modifier_sum)
                     expected = [(code, modifier_sum) for code in keys.values()]

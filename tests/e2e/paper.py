@@ -3,7 +3,6 @@
 six games with its solutions, and a batch that cannot be met and is stopped."""
 
 import sys
-import time
 
 from desktop import Configure, Desktop, Game, expect, pictures, save_picture, wait_for
 
@@ -100,11 +99,10 @@ def prints_a_batch(desktop, game, screen):
 
 def counts_on(screen):
     """The count of games in the preview rises all the time; any other change is over soon."""
-    seen = set()
     for _ in range(4):
-        seen.add(screen.picture().tobytes())
-        time.sleep(0.3)
-    return len(seen) == 4
+        before = screen.picture().tobytes()
+        wait_for(lambda: screen.picture().tobytes() != before, "the count of games to rise")
+    return True
 
 
 def stops_a_batch(desktop, program):
@@ -116,12 +114,12 @@ def stops_a_batch(desktop, program):
     ask_for_batch(screen)
     before = desktop.files()
     print_to(desktop, desktop.home / "hopeless.pdf")
-    wait_for(lambda: counts_on(screen), "the search to be seen in the preview")
+    expect(counts_on(screen), "the search is seen in the preview")
     save_picture(desktop.screen(), "paper_search")
 
     desktop.key("space")  # the button that began it has the focus
     desktop.answer("Return", other_than=[game.window])  # No is the default
-    wait_for(lambda: counts_on(screen), "the search to go on after a No")
+    expect(counts_on(screen), "the search goes on after a No")
     game.focus()
     desktop.key("5")
     picture = desktop.answer("alt+y", other_than=[game.window])

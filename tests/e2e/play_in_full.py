@@ -5,7 +5,6 @@ paused."""
 
 import pathlib
 import sys
-import time
 
 from desktop import (Desktop, Game, GIVEN_FILL, SELECTED_FILL, UNKNOWN_FILL, expect,
                      save_picture)
@@ -59,10 +58,9 @@ def paste(desktop, game, text):
     """A new game from the clipboard, the one in hand given up if it was changed."""
     desktop.set_clipboard(text)
     desktop.key("ctrl+v")
-    time.sleep(0.4)
     for window in desktop.windows("^Kelvarine$"):
         if window != game.window:
-            desktop.xdotool("windowfocus", "--sync", window)
+            desktop.focus(window)
             desktop.key("alt+n")
             desktop.gone(window)
             game.focus()
@@ -105,7 +103,6 @@ def gives_a_hint(desktop, game, hard):
     desktop.gone(box)
     box = desktop.dialog(f"^{hard.title}$")
     expect_beside_the_board(desktop, game, box)
-    time.sleep(0.3)
     save_picture(desktop.screen(), f"hint_{hard.line}")
     board = game.board()
     desktop.key("Return")
@@ -127,7 +124,6 @@ def no_is_enough(desktop, game):
     box = desktop.dialog("^Hint$")
     desktop.key("Return")  # No is the default
     desktop.gone(box)
-    time.sleep(0.3)
     expect(not desktop.windows("^Hint$"), "No ends the hint")
     game.focus()
 
@@ -143,7 +139,6 @@ def explains_an_alert(desktop, program):
     desktop.key("5", "a")
     box = desktop.dialog("[Cc]onflict")
     expect_beside_the_board(desktop, game, box)
-    time.sleep(0.3)
     save_picture(desktop.screen(), "alert")
     board = game.board()
     desktop.key("Return")
@@ -162,7 +157,6 @@ def right_click(desktop, game, column, row, number):
     x += board.cell_width * (2 * ((number - 1) % 3) + 1) // 6
     y += board.cell_height * (2 * ((number - 1) // 3) + 1) // 6
     desktop.xdotool("mousemove", "--window", game.window, x, y, "click", 3)
-    time.sleep(0.4)
 
 
 def strikes_pencilmarks_out(desktop, game):
@@ -181,7 +175,6 @@ def strikes_pencilmarks_out(desktop, game):
     x, y = board.centre(9, 1)
     desktop.xdotool("mousemove", "--window", game.window, x, y, "click", "--repeat", 2, "--delay",
                     60, 1)
-    time.sleep(0.4)
     board = game.board()
     expect(board.ink(9, 1) > 0.05 and not any(board.has_pencilmark(9, 1, n) for n in (1, 3, 7, 9)),
            "a double click keeps one pencilmark alone")
@@ -205,9 +198,7 @@ def tool_point(game, index):
 def press_tool(desktop, game, index):
     x, y = tool_point(game, index)
     desktop.xdotool("mousemove", "--window", game.window, x, y, "click", 1)
-    time.sleep(0.4)
     desktop.xdotool("mousemove", "--window", game.window, 450, 600)
-    time.sleep(0.2)
 
 
 def toolbar(game):
@@ -244,11 +235,9 @@ def shows_signs(desktop, game):
     faces = {}
     for modifier in ("Shift_L", "Control_L"):
         desktop.xdotool("keydown", modifier)
-        time.sleep(0.3)
         faces[modifier] = face()
         save_picture(toolbar(game), f"sign_{modifier}")
         desktop.xdotool("keyup", modifier)
-        time.sleep(0.3)
         expect(face() == plain, f"{modifier} let go shows plain numbers")
     expect(len({plain, *faces.values()}) == 3, "Shift and Ctrl show signs of their own while held")
 
@@ -259,7 +248,6 @@ def pauses(desktop, game):
     paste(desktop, game, EASY)
     game.click(2, 2)
     desktop.key("F12")
-    time.sleep(0.4)
     board = game.board()
     save_picture(board.picture, "paused")
     expect(all(board.ink(c, r) == 0 for c in range(1, 10) for r in range(1, 10)),
@@ -267,7 +255,6 @@ def pauses(desktop, game):
     expect(board.fill(2, 2) == SELECTED_FILL and board.fill(1, 1) == GIVEN_FILL
            and board.fill(3, 1) == UNKNOWN_FILL, "and shows its cells")
     desktop.key("F12")
-    time.sleep(0.4)
     expect(game.board().ink(1, 1) > 0.05, "resumed, it shows them again")
 
 

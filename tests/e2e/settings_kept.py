@@ -3,7 +3,6 @@
 found again when the program starts the next time."""
 
 import sys
-import time
 
 from desktop import Configure, Desktop, Game, GIVEN_FILL, expect, save_picture, wait_for
 
@@ -43,7 +42,6 @@ def moves_techniques(desktop, game, screen):
     for row in (1, 2):
         expect(game.board().rating().tobytes() == easy, "as long as one is easy, the game is")
         screen.press("l", *["Tab"] * 3 * row, "Menu")
-        time.sleep(0.3)
         desktop.key(*["Down"] * HARD, "Return")
     wait_for(lambda: game.board().rating().tobytes() != easy, "the rating in the margin to change")
     save_picture(screen.picture(), "settings_level")
