@@ -1,25 +1,21 @@
 #include "logic/chain_search.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace kelvarine {
 
-namespace {
+std::int64_t ChainStepsLeft = std::numeric_limits<std::int64_t>::max();
 
-constexpr std::int64_t Unlimited = std::numeric_limits<std::int64_t>::max();
-constexpr std::int64_t StepsOfARun = 50'000'000; // no sound position comes near it
-
-} // namespace
-
-std::int64_t ChainStepsLeft = Unlimited;
-ChainBudget::ChainBudget()
+ChainBudget::ChainBudget(std::int64_t steps)
+    : kept_(std::max<std::int64_t>(0, ChainStepsLeft - steps))
 {
-    ChainStepsLeft = StepsOfARun;
+    ChainStepsLeft -= kept_;
 }
 
 ChainBudget::~ChainBudget()
 {
-    ChainStepsLeft = Unlimited;
+    ChainStepsLeft += kept_;
 }
 
 namespace {

@@ -54,16 +54,25 @@ struct Chain {
     }
 };
 
+// Steps that the chain walks of one run of the logic may take; no sound position comes near it.
+inline constexpr std::int64_t ChainStepsOfARun = 50'000'000;
+
 // Some contradictory grids have more chains than anyone could wait for. While a budget stands, all
-// chain walks together take at most a few seconds; from then on they find nothing more.
+// chain walks together take at most so many steps, a few seconds' work; from then on they find
+// nothing more. A budget within another is part of it.
 class ChainBudget {
 public:
-    ChainBudget();
+    explicit ChainBudget(std::int64_t steps = ChainStepsOfARun);
     ChainBudget(const ChainBudget &) = delete;
     ChainBudget &operator=(const ChainBudget &) = delete;
     ~ChainBudget();
+
+private:
+    std::int64_t kept_; // steps of the budget around it that stay out of reach
 };
 
+// What is left of the budget in force; practically without end where none stands. Below 0 once it
+// is used up: every walk that began after that took one off.
 extern std::int64_t ChainStepsLeft;
 
 // Takes a step of a walk off the budget. False when none is left.
