@@ -13,6 +13,8 @@
 
 namespace kelvarine {
 
+std::int64_t BoardsPainted;
+
 namespace {
 
 QImage picBoardBuild; // keeps its pixels between paintings
@@ -97,6 +99,7 @@ void DrawBoard()
     picBoard = QImage();
     PaintBoard(picBoardBuild);
     picBoard = picBoardBuild;
+    ++BoardsPainted;
     ShowBoardPicture();
 }
 

@@ -6,6 +6,8 @@
 
 #include <QImage>
 
+#include <cstdint>
+
 namespace kelvarine {
 
 // Gives the off-screen picture and the visible one a size in logical pixels, at least 1 by 1, and
@@ -18,6 +20,9 @@ const QImage &BoardPicture();
 
 // The same picture, for a banner to be drawn on.
 QImage &VisibleBoardPicture();
+
+// Number of boards that DrawBoard has painted since the start of the program: what a change costs.
+extern std::int64_t BoardsPainted;
 
 // Paints Grid in the current look and layout into a picture of format RGB32, whose device pixel
 // ratio it heeds. What no rule paints keeps what the picture held. Any other format stays as it

@@ -27,12 +27,15 @@ protected:
     }
 };
 
-QImage WindowPicture(int width = Width, int height = Height)
+// The window as it is painted with a pen and a font of its own.
+QImage WindowPicture(int width = Width, int height = Height, Colour pen = 0xFF8000,
+                     const QFont &font = {})
 {
     QImage picture(width, height, QImage::Format_RGB32);
     picture.fill(Untouched);
     QPainter painter(&picture);
-    painter.setPen(QColor::fromRgb(0xFF8000));
+    painter.setPen(QColor::fromRgb(pen));
+    painter.setFont(font);
     PaintWindowTexts(painter, width, height);
     return picture;
 }
@@ -59,6 +62,17 @@ Rectangle BelowBoard()
 {
     const int bottom = BoardPlace.Y + BoardPlace.Height;
     return {1, bottom, Width - 2, Height - bottom - 1};
+}
+
+// Writes what stands below the board: the rating from its left end on, the count up to its right.
+void WriteRatingAndCount(QImage &picture, const Face &face, Colour pen)
+{
+    QPainter painter(&picture);
+    const std::string count = "# given cells: 30";
+    const int y = BoardPlace.Y + BoardPlace.Height + 4;
+    WriteText(painter, face, {BoardPlace.X, y}, "Easy", pen);
+    const int x = BoardPlace.X + BoardPlace.Width - TextWidth(face, count);
+    WriteText(painter, face, {x, y}, count, pen);
 }
 
 TEST_F(MarginTexts, BackgroundFillsTheClientAreaInTheMarginColour)
@@ -169,10 +183,21 @@ TEST_F(MarginTexts, LongRatingOnANarrowBoardDropsTheGivenCount)
 TEST_F(MarginTexts, HiddenCoordinatesLeaveRatingAndCountInTheWindowsOwnPen)
 {
     CoordinatesVisible = False;
-    const QImage picture = WindowPicture();
-    EXPECT_EQ(TextIn(picture, AboveBoard()), Rectangle());
-    EXPECT_EQ(TextIn(picture, LeftOfBoard()), Rectangle());
-    EXPECT_GT(CountOf(picture, BelowBoard(), 0xFF8000), 10);
+    // The font may be any that the machine has; what it writes is the same here and there.
+    for (const int pixels : {10, 20}) {
+        for (const Colour pen : {0xFF8000U, 0x000000U}) {
+            QFont font;
+            font.setPixelSize(pixels);
+            // In the colour of the margin no text is to be seen.
+            QImage expected = WindowPicture(Width, Height, Background, font);
+            EXPECT_EQ(TextIn(expected, AboveBoard()), Rectangle());
+            EXPECT_EQ(TextIn(expected, LeftOfBoard()), Rectangle());
+            EXPECT_EQ(TextIn(expected, BelowBoard()), Rectangle());
+            WriteRatingAndCount(expected, FaceOf(font), pen);
+            EXPECT_NE(TextIn(expected, BelowBoard()), Rectangle()) << "the machine has a font";
+            EXPECT_EQ(WindowPicture(Width, Height, pen, font), expected);
+        }
+    }
 }
 
 TEST_F(MarginTexts, AnyWindowPaints)

@@ -3,6 +3,7 @@
 #include "board/look.h"
 #include "print/page_layout.h"
 #include "print/print_painter.h"
+#include "support/widget_program.h"
 #include "ui/printer_qt.h"
 
 #include <QApplication>
@@ -128,7 +129,7 @@ std::vector<QImage> PagesOf(const std::string &path)
     QProcess program;
     program.start("pdftoppm", {"-r", QString::number(PixelsPerInch), "-png",
                                QString::fromStdString(path), folder.filePath("page")});
-    EXPECT_TRUE(program.waitForFinished());
+    EXPECT_TRUE(program.waitForFinished(Patience));
     EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
     std::vector<QImage> pages;
     const QDir files(folder.path());

@@ -13,6 +13,10 @@
 
 namespace kelvarine::testing {
 
+// Milliseconds after which a wait for something that is bound to happen gives up. No test passes or
+// fails by it on a machine that gets there at all.
+inline constexpr int Patience = 60'000;
+
 // A fresh program: every default, a main window of 760 by 830 on view, a blank game that is not
 // modified. The settings, data and home folders are empty ones of its own.
 class Program {

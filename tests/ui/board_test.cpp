@@ -25,7 +25,7 @@ protected:
     void SetUp() override
     {
         program.Main->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(program.Main.get()));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(program.Main.get(), Patience));
         SetGame(EasyGame);
         StartGame(NewGame);
         GameModified = False;

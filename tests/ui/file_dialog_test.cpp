@@ -360,9 +360,12 @@ TEST_F(FileDialogWindow, TreeShowsTheFolderInHand)
     DialogFolder = Folder.Path("190/");
     Show(OpenGameCaption);
     const auto *tree = Find<QTreeView>("dirDirectory");
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-        return tree->viewport()->rect().contains(tree->visualRect(tree->currentIndex()).center());
-    }));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            return tree->viewport()->rect().contains(
+                tree->visualRect(tree->currentIndex()).center());
+        },
+        Patience));
     EXPECT_EQ(tree->currentIndex().data().toString().toStdString(), "190");
 }
 
@@ -373,8 +376,8 @@ TEST_F(FileDialogWindow, ArrowsWalkTheTree)
     Show(OpenGameCaption);
     auto *tree = Find<QTreeView>("dirDirectory");
     tree->setFocus();
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return tree->model()->rowCount(tree->currentIndex()) == 1; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tree->model()->rowCount(tree->currentIndex()) == 1; },
+                                Patience));
     QTest::keyClick(tree, Qt::Key_Down);
     EXPECT_EQ(DialogFolder, Folder.Path("inner/"));
     QTest::keyClick(tree, Qt::Key_Left);

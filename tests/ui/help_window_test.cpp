@@ -27,8 +27,6 @@ namespace kelvarine::testing {
 
 namespace {
 
-constexpr int Patience = 10000; // milliseconds
-
 // The program with no help window from an earlier case, and none left behind.
 struct HelpWindowTest : ::testing::Test {
     ~HelpWindowTest() override
@@ -44,8 +42,8 @@ struct HelpWindowTest : ::testing::Test {
     static HelpWindow *Show(int context)
     {
         ShowHelpTopic(context);
-        EXPECT_TRUE(
-            QTest::qWaitFor([] { return QApplication::activeWindow() == OpenHelpWindow(); }));
+        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeWindow() == OpenHelpWindow(); },
+                                    Patience));
         return OpenHelpWindow();
     }
 
@@ -246,14 +244,14 @@ TEST_F(HelpWindowTest, CanBeUsedBesideAModalWindow)
     QDialog dialog(Game.Main.get());
     dialog.setModal(true);
     dialog.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog, Patience));
     HelpWindow *window = Show(600);
     // Through the window system, which holds back what goes to a blocked window.
     QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
     EXPECT_FALSE(window->isVisible());
     dialog.close();
     Game.Main->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Game.Main.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Game.Main.get(), Patience));
     Show(202);
     EXPECT_EQ(window->windowHandle()->transientParent(), nullptr);
     QTest::keyClick(window->windowHandle(), Qt::Key_Escape);

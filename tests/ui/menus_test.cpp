@@ -138,7 +138,7 @@ protected:
     void Activate()
     {
         program->Main->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(program->Main.get()));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(program->Main.get(), Patience));
     }
 
     MainWindow &Main() const

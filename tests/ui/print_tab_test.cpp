@@ -378,7 +378,7 @@ TEST_F(PrintTabs, ButtonOfARunningBatchAsksAndThePreviewShowsItsProgress)
             EXPECT_EQ(boxes.Texts, std::vector<std::string>{"Would you like to stop searching?"});
         }
     });
-    click.start(1);
+    click.start(0);
     PrintTo(folder.filePath("page.pdf").toStdString(),
             [&] { Find<QPushButton>("cmdPrint")->click(); });
     EXPECT_FALSE(during.isNull());
@@ -400,7 +400,7 @@ TEST_F(PrintTabs, TabThatIsClosedDuringABatchDoesNoHarm)
             panel.reset();
         }
     });
-    close.start(1);
+    close.start(0);
     PrintTo(folder.filePath("page.pdf").toStdString(), [&] {
         auto *button = Find<QPushButton>("cmdPrint");
         button->click();

@@ -33,14 +33,12 @@
 #include <QtTest>
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <csignal>
 
 namespace kelvarine::testing {
 namespace {
 
 constexpr const char *FileName = "config.sdu";
-constexpr std::chrono::seconds LongestRun{20};
 
 // A word of a file, in its record 1..11 and element 0..9.
 std::int32_t WordOfFile(const std::string &bytes, std::size_t record, std::size_t element)
@@ -92,7 +90,7 @@ protected:
             ADD_FAILURE() << "the program does not end";
             QApplication::exit(1);
         });
-        watchdog.start(LongestRun);
+        watchdog.start(Patience);
         // The start yields to events as well; the player waits for the program's own loop.
         QTimer player;
         QObject::connect(&player, &QTimer::timeout, [&] {
@@ -152,7 +150,7 @@ void ShowTabByKey(Qt::Key letter)
 {
     // Without a window manager a menu that closes leaves no window active.
     OpenConfigureScreen()->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(OpenConfigureScreen()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(OpenConfigureScreen(), Patience));
     QTest::keyClick(OpenConfigureScreen(), letter, Qt::AltModifier);
 }
 

@@ -73,14 +73,19 @@ protected:
                                 std::vector<QMessageBox::StandardButton> answers)
     {
         SetGame(LongSearch);
+        bool acted = false;
         QTimer start;
-        start.setSingleShot(true);
         QObject::connect(&start, &QTimer::timeout, &start, [&] {
-            EXPECT_NE(SearchActive, False) << "the search has ended already";
-            action();
+            if (SearchActive != False) {
+                start.stop();
+                acted = true;
+                action();
+            }
         });
-        start.start(30);
-        return AnswerBoxes(mnuShowSolution, std::move(answers));
+        start.start(0);
+        BoxRecord boxes = AnswerBoxes(mnuShowSolution, std::move(answers));
+        EXPECT_TRUE(acted);
+        return boxes;
     }
 
     Program program;
@@ -139,7 +144,8 @@ TEST_F(SolutionsScreens, ClickOnTheFormatChangesIt)
 TEST_F(SolutionsScreens, ArrowKeyChangesTheFormatToo)
 {
     List(PlainGame);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == Screen(); }));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return QApplication::activeWindow() == Screen(); }, Patience));
     Format(1)->setFocus();
     ASSERT_TRUE(Format(1)->hasFocus());
     QTest::keyClick(Format(1), Qt::Key_Left);
@@ -380,7 +386,8 @@ TEST_F(SolutionsScreens, EveryControlHasAName)
 TEST_F(SolutionsScreens, TabGoesFromTheTextToTheOthersAndBack)
 {
     List(PlainGame);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == Screen(); }));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return QApplication::activeWindow() == Screen(); }, Patience));
     EXPECT_EQ(Screen()->focusWidget(), Box()) << "where it starts";
     QTest::keyClick(Box(), Qt::Key_Tab);
     EXPECT_EQ(Screen()->focusWidget(), Format(1)) << "the format that is selected";

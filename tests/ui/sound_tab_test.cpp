@@ -130,7 +130,7 @@ TEST_F(SoundTabTest, TestButtonsOfMissingFilesAreSilence)
     const BoxRecord boxes = AnswerBoxes([this] {
         Click("cmdTestAlert");
         Click("cmdTestWin");
-        QTest::qWait(20);
+        QCoreApplication::processEvents();
     });
     EXPECT_TRUE(boxes.Texts.empty()) << "a missing file is no error";
 }

@@ -168,7 +168,8 @@ TEST_F(StatisticsScreens, ClearButtonEmptiesTheTablesOnYes)
 TEST_F(StatisticsScreens, ClearIsReachedByKeyAndEnterAloneDoesNothing)
 {
     mnuStatistics();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == Screen(); }));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return QApplication::activeWindow() == Screen(); }, Patience));
     const BoxRecord none = AnswerBoxes([&] { QTest::keyClick(Screen(), Qt::Key_Return); });
     EXPECT_TRUE(none.Texts.empty());
     auto *clear = Screen()->findChild<QPushButton *>("cmdClearStats");
