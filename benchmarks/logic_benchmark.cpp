@@ -25,18 +25,11 @@ namespace {
 
 using Sample = std::vector<GridTable>;
 
-// Lines of a file, each ending in 81 marks, with all pencilmarks filled in. Lines with a number in
-// front are taken only from that level on.
-Sample ReadGames(const char *path, int fromLevel)
+// Games of 81 marks with all pencilmarks filled in.
+Sample GamesOf(const std::vector<std::string> &texts)
 {
-    std::ifstream file(path);
     Sample games;
-    std::string line;
-    while (std::getline(file, line)) {
-        if (line.size() < 81 || (line[1] == ' ' && line[0] - '0' < fromLevel)) {
-            continue;
-        }
-        const std::string marks = line.substr(line.size() - 81);
+    for (const std::string &marks : texts) {
         Grid = {};
         for (std::size_t place = 0; place < 81; ++place) {
             if (marks[place] != '.') {
@@ -48,6 +41,21 @@ Sample ReadGames(const char *path, int fromLevel)
         games.push_back(Grid);
     }
     return games;
+}
+
+// Lines of a file, each ending in 81 marks. Lines with a number in front are taken only from that
+// level on.
+Sample ReadGames(const char *path, int fromLevel)
+{
+    std::ifstream file(path);
+    std::vector<std::string> texts;
+    std::string line;
+    while (std::getline(file, line)) {
+        if (line.size() >= 81 && (line[1] != ' ' || line[0] - '0' >= fromLevel)) {
+            texts.push_back(line.substr(line.size() - 81));
+        }
+    }
+    return GamesOf(texts);
 }
 
 // Sets games back to a position of play by running some techniques on them.
@@ -118,6 +126,28 @@ void Register(const std::string &name, const Sample &sample, const std::function
     })->Unit(benchmark::kMillisecond);
 }
 
+// Contradictory grids: texts on which only the proof ends the walk through all trials, and pairs
+// with more chains than anyone could walk along.
+void RegisterHopeless()
+{
+    const Sample bitter = GamesOf({
+        ".....5.8....6.1.43..........1.5........1.6...3.......553.....61........4.........",
+        "...7.............6.8...6......8.3......2...6.6.............8...3..17...2....6....",
+    });
+    Register("rate, impossible texts", bitter, RateGame);
+    init_genrand(3);
+    Sample pairs(1);
+    for (const Cell cell : Cells) {
+        const auto one = static_cast<std::size_t>(genrand_real2() * 4) + 1;
+        const auto other = (one + static_cast<std::size_t>(genrand_real2() * 3)) % 4 + 1;
+        pairs[0][cell.Column][cell.Row] = BitTable[one] | BitTable[other];
+    }
+    Register("XY-chains, contradictory pairs", pairs, [] {
+        SolveMask = BitTable[15];
+        ApplyLogic(SolveAsPlayer);
+    });
+}
+
 void RegisterTechniques(const Sample &sample)
 {
     for (const TechniqueRow &row : Techniques) {
@@ -158,6 +188,7 @@ void RegisterAll()
     Register("alert scan, mid-game", middle, [] { ScanAlerts(ModeAlert); });
     Register("alert scan, stuck", stuck, [] { ScanAlerts(ModeAlert); });
     Register("first hint stage, stuck", stuck, [] { ScanAlerts(ModeTeaser); });
+    RegisterHopeless();
     RegisterTechniques(AfterTechniques(all, 0x6));
 }
 

@@ -1,0 +1,139 @@
+// What the player waits for in the windows: the opening of the configuration screen on each tab, a
+// step of dragging a colour, all alerts at a click, a page of games on paper, and the start of a
+// sound. Every iteration ends with the event loop at rest.
+#include "configure/defaults.h"
+#include "files/folders.h"
+#include "game/history.h"
+#include "game/lifecycle.h"
+#include "game/screens.h"
+#include "grid/grid.h"
+#include "input/screen_commands.h"
+#include "ui/configure_screen.h"
+#include "ui/main_window.h"
+#include "ui/presentation.h"
+#include "ui/printer_qt.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+
+namespace kelvarine {
+namespace {
+
+// The program on view with an empty game, and the configuration screen on a tab.
+class Session {
+public:
+    explicit Session(std::int32_t tab)
+    {
+        SetDefaults();
+        StartGame(NewGame);
+        GameModified = False;
+        window_.resize(760, 830);
+        window_.show();
+        CurrentTab = tab;
+        mnuConfigure();
+        QCoreApplication::processEvents();
+    }
+
+    template <typename Control>
+    static Control *Find(const char *name)
+    {
+        return OpenConfigureScreen()->findChild<Control *>(QString::fromLatin1(name));
+    }
+
+private:
+    MainWindow window_;
+};
+
+void OpenSettings(benchmark::State &state)
+{
+    const Session session(static_cast<std::int32_t>(state.range(0)));
+    for ([[maybe_unused]] auto _ : state) {
+        state.PauseTiming();
+        delete OpenConfigureScreen();
+        state.ResumeTiming();
+        mnuConfigure();
+        QCoreApplication::processEvents();
+    }
+}
+
+void DragColour(benchmark::State &state)
+{
+    const Session session(ColoursTab);
+    FillPencilmarks();
+    auto *bar = Session::Find<QScrollBar>("hsbColor1");
+    for ([[maybe_unused]] auto _ : state) {
+        bar->setValue((bar->value() + 1) % 256);
+        QCoreApplication::processEvents();
+    }
+}
+
+void SelectAndDeselectAllAlerts(benchmark::State &state)
+{
+    const Session session(LogicTab);
+    auto *select = Session::Find<QAbstractButton>("cmdSelectAllAlerts");
+    auto *deselect = Session::Find<QAbstractButton>("cmdDeselectAllAlerts");
+    for ([[maybe_unused]] auto _ : state) {
+        select->click();
+        QCoreApplication::processEvents();
+        deselect->click();
+        QCoreApplication::processEvents();
+    }
+}
+
+void PrintTwentyFourGrids(benchmark::State &state)
+{
+    constexpr double side = 1000; // of the printer's pixels
+    const Session session(PrintTab);
+    const QTemporaryDir folder;
+    ChosenPrinter().setOutputFormat(QPrinter::PdfFormat);
+    ChosenPrinter().setOutputFileName(folder.filePath("page.pdf"));
+    for ([[maybe_unused]] auto _ : state) {
+        for (int grid = 0; grid < 24; ++grid) {
+            PrintPicture(PrintedPicture::Game,
+                         {side * (grid % 4), side * static_cast<int>(grid / 4), side, side});
+        }
+        if (!EndDocument().empty()) {
+            state.SkipWithError("the document cannot be written");
+        }
+    }
+}
+
+void StartAndStopSound(benchmark::State &state)
+{
+    const Session session(SoundTab);
+    for ([[maybe_unused]] auto _ : state) {
+        PlaySound("music box.win", true);
+        QCoreApplication::processEvents();
+        StopSound();
+    }
+}
+
+BENCHMARK(OpenSettings)->DenseRange(0, TabCount - 1)->Unit(benchmark::kMillisecond);
+BENCHMARK(DragColour)->Unit(benchmark::kMillisecond);
+BENCHMARK(SelectAndDeselectAllAlerts)->Unit(benchmark::kMillisecond);
+BENCHMARK(PrintTwentyFourGrids)->Unit(benchmark::kMillisecond);
+BENCHMARK(StartAndStopSound)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace kelvarine
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    benchmark::Initialize(&argc, argv);
+    // The player's own files stay out of it.
+    const QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", home.filePath("config").toUtf8());
+    qputenv("XDG_DATA_HOME", home.filePath("data").toUtf8());
+    std::filesystem::create_directories(home.filePath("data").toStdString());
+    std::filesystem::copy(SOUNDS, home.filePath("data/kelvarine").toStdString());
+    const QApplication application(argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
