@@ -5,16 +5,22 @@
 
 namespace kelvarine::testing {
 
-std::int64_t BytesAskedFor;
+std::atomic<std::int64_t> BytesAskedFor;
 
 } // namespace kelvarine::testing
 
-// The forms for arrays and those that do not throw come here as well.
+// The form that does not throw stands here too, because the sanitizers have one of their own, whose
+// memory the operator delete below must not be given.
+
+void *operator new(std::size_t size, const std::nothrow_t & /*tag*/) noexcept
+{
+    kelvarine::testing::BytesAskedFor += static_cast<std::int64_t>(size);
+    return std::malloc(size);
+}
 
 void *operator new(std::size_t size)
 {
-    kelvarine::testing::BytesAskedFor += static_cast<std::int64_t>(size);
-    if (void *memory = std::malloc(size)) {
+    if (void *memory = operator new(size, std::nothrow)) {
         return memory;
     }
     throw std::bad_alloc();

@@ -2,10 +2,11 @@
 // on every machine alike.
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 
 namespace kelvarine::testing {
 
-extern std::int64_t BytesAskedFor; // by operator new since the start of the process
+extern std::atomic<std::int64_t> BytesAskedFor; // by operator new since the start of the process
 
 } // namespace kelvarine::testing

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QAudioSink>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -33,10 +34,10 @@ protected:
     // something, and the next turn comes.
     static bool ReturnsAtOnce(const std::function<void()> &call)
     {
-        QObject witness;
         bool turned = false;
-        QMetaObject::invokeMethod(
-            &witness, [&] { turned = true; }, Qt::QueuedConnection);
+        QTimer witness;
+        QObject::connect(&witness, &QTimer::timeout, &witness, [&] { turned = true; });
+        witness.start(0);
         call();
         const bool within = turned;
         QCoreApplication::processEvents();
