@@ -13,7 +13,7 @@ TEST_PACKAGES=(
     libgtest-dev librapidcheck-dev
     poppler-utils
     python3 python3-pil python3-xlib xclip x11-xkb-utils x11-xserver-utils
-    strace weston qt6-wayland
+    strace weston qt6-wayland libsm-dev
 )
 # What is needed beyond the tests by those who change the program.
 CHECK_PACKAGES=(libbenchmark-dev clang-format clang-tidy)

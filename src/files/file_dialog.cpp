@@ -112,6 +112,26 @@ void LeaveMissingFolder()
     }
 }
 
+// What belongs to one showing.
+struct Showing {
+    std::string Caption = DialogCaption;
+    std::string Pattern = FilePattern;
+    std::string Extension = DefaultExtension;
+    std::string Folder = DialogFolder;
+};
+
+// Goes on with the showing that another one came over. Without one below, the folder and the type
+// stay as they are.
+void ReturnTo(const Showing &former)
+{
+    DialogCaption = former.Caption;
+    if (!former.Caption.empty()) {
+        FilePattern = former.Pattern;
+        DefaultExtension = former.Extension;
+        DialogFolder = former.Folder;
+    }
+}
+
 bool IsGameFile(const std::string &path)
 {
     std::error_code failure;
@@ -131,11 +151,15 @@ void SetFileDialogDefaults()
 
 void ShowFileDialog(std::string_view caption, std::size_t fileType)
 {
+    const Showing former;
     LastAnswer = AnsweredCancel;
     LeaveMissingFolder();
     DialogCaption = caption;
     PresetFileType(fileType);
-    RunFileDialog(fileType);
+    const bool chosen = RunFileDialog(fileType);
+    // Only now: the closing of the window may have asked its own question over the dialog.
+    LastAnswer = chosen ? AnsweredOk : AnsweredCancel;
+    ReturnTo(former);
 }
 
 void SelectFileType(std::size_t fileType)
@@ -164,28 +188,28 @@ std::optional<std::size_t> EntryBeginning(const std::vector<std::string> &entrie
 
 bool AcceptFileName(std::string_view typed)
 {
-    ChosenFilePath = WithoutOuterBlanks(typed);
-    if (ChosenFilePath.empty()) {
+    const std::string name(WithoutOuterBlanks(typed));
+    if (name.empty()) {
         ShowMessage("Please enter a file name.");
         return false;
     }
-    ChosenFilePath = PathFor(ChosenFilePath);
-    if (!AgreeOnFile(ChosenFilePath)) {
+    const std::string path = PathFor(name);
+    if (!AgreeOnFile(path)) {
         return false;
     }
+    ChosenFilePath = path;
     if (DialogCaption == SaveGameCaption) {
-        GameFilePath = ChosenFilePath;
+        GameFilePath = path;
     }
-    LastAnswer = AnsweredOk;
     return true;
 }
 
 bool DeleteListedFile(std::string_view name)
 {
+    const std::string path = DialogFolder + std::string(name);
     if (!AskYesNo("Are you sure you want to delete:\r" + WithDoubledMarks(name))) {
         return false;
     }
-    const std::string path = DialogFolder + std::string(name);
     const bool ofGame = IsGameFile(path);
     if (::unlink(path.c_str()) != 0) {
         const std::error_code reason(errno, std::generic_category());

@@ -38,7 +38,7 @@ extern std::string DialogFolder; // with a closing slash; at first the player's 
 extern std::string DialogName;   // text of txtFileName
 
 // Of the showing under way.
-extern std::string DialogCaption;
+extern std::string DialogCaption;    // empty while there is none
 extern std::string FilePattern;      // which files are listed, such as "*.sdk"
 extern std::string DefaultExtension; // what a name without a point gets
 
@@ -48,8 +48,9 @@ void SetFileDialogDefaults();
 // ---- Operations ----------------------------------------------------------------------------
 
 // Shows the dialog until the player has chosen a file or given up. LastAnswer is AnsweredOk or
-// AnsweredCancel afterwards; on AnsweredOk ChosenFilePath is the file, and GameFilePath too under
-// SaveGameCaption.
+// AnsweredCancel afterwards, whatever was asked while the dialog stood; on AnsweredOk
+// ChosenFilePath is the file, and GameFilePath too under SaveGameCaption. A showing may come up
+// over another, which goes on as it was.
 void ShowFileDialog(std::string_view caption, std::size_t fileType);
 
 // The player selects a type.
@@ -63,8 +64,8 @@ bool IsListed(std::string_view name);
 std::optional<std::size_t> EntryBeginning(const std::vector<std::string> &entries,
                                           std::string_view typed);
 
-// cmdOK with what stands in txtFileName: settles ChosenFilePath, tells or asks what there is to
-// tell or to ask. True, with LastAnswer AnsweredOk, when the dialog closes; else it stays.
+// cmdOK with what stands in txtFileName: tells or asks what there is to tell or to ask. True, with
+// the paths set, when the dialog closes; else it stays.
 bool AcceptFileName(std::string_view typed);
 
 // The Delete key on an entry of the list: asks, and deletes the file. True when it is gone. The

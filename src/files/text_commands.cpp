@@ -49,9 +49,15 @@ bool AcceptShortText(int cells, const ShortTextWords &words)
 void StartFromText(std::string_view text, const ShortTextWords &words)
 {
     const int cells = ReadPosition(text);
-    if (cells < AllCells && !AcceptShortText(cells, words)) {
+    if (cells < AllCells) {
+        // The window may be closed over the question, and then it is the game in hand that is
+        // saved.
+        const GridTable read = Grid;
         CopyCells(History[SafeCopySlot], Grid);
-        return;
+        if (!AcceptShortText(cells, words)) {
+            return;
+        }
+        Grid = read;
     }
     StartGame(NewGame);
     DrawBoard();

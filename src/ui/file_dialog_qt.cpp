@@ -283,10 +283,10 @@ void FileDialog::done(int result)
     QDialog::done(result);
 }
 
-void RunFileDialog(std::size_t fileType)
+bool RunFileDialog(std::size_t fileType)
 {
     FileDialog dialog(Window(), fileType);
-    dialog.exec();
+    return dialog.exec() == QDialog::Accepted;
 }
 
 } // namespace kelvarine

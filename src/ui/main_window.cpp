@@ -27,6 +27,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -121,8 +122,18 @@ void MainWindow::UpdateMenuCaptions()
     timeBar->show();
 }
 
+bool MainWindow::CloseUnlessAsking()
+{
+    // The toolkit would take a second closing for agreed and close the window under the question.
+    if (isVisible() && !asking) {
+        close();
+    }
+    return !isVisible();
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    const QScopedValueRollback nowAsking(asking, true);
     event->ignore();
     if (SearchActive != False) {
         ReadyForCommand(); // asks whether to stop it

@@ -49,6 +49,10 @@ public:
     // Puts the window where it last stood, in reach of the screens that are there, and shows it.
     void ShowAtItsPlace();
 
+    // Closes the window as the player does. While a closing before waits for its answer, that one
+    // decides and nothing happens. True when the window is gone.
+    bool CloseUnlessAsking();
+
 protected:
     void closeEvent(QCloseEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
@@ -61,7 +65,8 @@ private:
     void BuildMenus();
     void KeepPlace();
 
-    QMenuBar *timeBar; // the clock, at the far right end of the menu bar
+    bool asking = false; // a closing waits for the player's answer
+    QMenuBar *timeBar;   // the clock, at the far right end of the menu bar
 };
 
 // The one main window, or null before it stands and after it has gone.

@@ -16,6 +16,7 @@
 
 #include <QApplication>
 #include <QDate>
+#include <QTimer>
 
 namespace kelvarine {
 
@@ -53,8 +54,12 @@ int RunProgram(const std::string &gameFile)
     window.ShowAtItsPlace();
     OpenFormerScreens();
     window.activateWindow(); // the first keys are for the board, not for a screen that came back
+    // Within the event loop, for only there does the end of the program take a message away.
+    QTimer firstTurn;
+    firstTurn.setSingleShot(true);
+    QObject::connect(&firstTurn, &QTimer::timeout, &window, [&] { OpenGameFile(gameFile); });
     if (!gameFile.empty()) {
-        OpenGameFile(gameFile);
+        firstTurn.start(0);
     }
     return QApplication::exec();
 }

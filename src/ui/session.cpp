@@ -29,7 +29,7 @@ void CloseWindow()
     char mark = 0;
     [[maybe_unused]] const ssize_t got = ::read(signalSockets[1], &mark, sizeof mark);
     if (Window() != nullptr) {
-        Window()->close();
+        Window()->CloseUnlessAsking();
     }
 }
 
@@ -63,7 +63,7 @@ void WatchSession()
         qGuiApp, &QGuiApplication::commitDataRequest, Window(),
         [](QSessionManager &manager) {
             if (manager.allowsInteraction()) {
-                if (Window()->isVisible() && !Window()->close()) {
+                if (!Window()->CloseUnlessAsking()) {
                     manager.cancel();
                 }
                 manager.release();

@@ -198,6 +198,21 @@ TEST_F(FileCommands, CancelledSaveAsWritesNothing)
     EXPECT_EQ(Seen.WindowTitle, "Kelvarine");
 }
 
+TEST_F(FileCommands, SaveAsWritesNothingWhenItsDialogGoesWithTheProgram)
+{
+    SavedGame();
+    OpenGameFile(Folder.Path("saved.sdk"));
+    const std::string file = Folder.Read("saved.sdk");
+    WordAt({5, 5}) = BitTable[5];
+    PushUndoState();
+    Seen.OnBox = [] {
+        QuerySaveGame();
+    }; // answered No
+    mnuSaveAs();
+    EXPECT_TRUE(Folder.Read("saved.sdk") == file);
+    EXPECT_EQ(Folder.Entries(), 1);
+}
+
 TEST_F(FileCommands, FailedSaveAsKeepsNameTitleAndGame)
 {
     StartSavedGame(EasyGame);

@@ -270,8 +270,84 @@ TEST_F(FileDialogRules, FolderThatIsGoneGivesWayToTheOneAbove)
 TEST_F(FileDialogRules, EachShowingBeginsAsCancelled)
 {
     LastAnswer = 1;
+    Seen.OnBox = [] {
+        EXPECT_EQ(LastAnswer, 2);
+    };
     ShowFileDialog(OpenGameCaption, SudokuFiles);
     EXPECT_EQ(LastAnswer, 2);
+}
+
+// ---- A showing with something else over it -------------------------------------------------
+
+TEST_F(FileDialogRules, AnswerIsTheDialogsOwnWhateverIsAskedOverIt)
+{
+    for (const std::string_view caption :
+         {OpenGameCaption, SaveGameCaption, SaveSolutionsCaption}) {
+        Seen.OnBox = [] {
+            QuerySaveGame(); // as the closing of the window does
+            EXPECT_EQ(LastAnswer, 0);
+        };
+        ShowFileDialog(caption, SudokuFiles);
+        EXPECT_EQ(LastAnswer, 2) << caption;
+    }
+    Folder.Write("game.sdk", "");
+    Seen.FileNames = {"game"};
+    Seen.OnBox = [] {
+        GameModified = True;
+        Seen.SaveAnswers = {Answer::Cancel};
+        QuerySaveGame();
+        EXPECT_EQ(LastAnswer, 2);
+    };
+    ShowFileDialog(OpenGameCaption, SudokuFiles);
+    EXPECT_EQ(LastAnswer, 1);
+}
+
+TEST_F(FileDialogRules, SavingOverAnOpenDialogLeavesItsCaptionTypeAndFolder)
+{
+    Folder.Write("inner/game.sdk", "");
+    Folder.Write("game.txt", "");
+    Seen.OnBox = [this] {
+        Seen.OnBox = [this] {
+            DialogFolder = Folder.Path("inner/");
+        }; // chosen in the second one
+        ShowFileDialog(SaveGameCaption, SudokuFiles);
+        Seen.FileNames = {"game"};
+    };
+    ShowFileDialog(OpenGameCaption, TextFiles);
+    EXPECT_EQ(ChosenFilePath, Folder.Path("game.txt"));
+    EXPECT_EQ(GameFilePath, "");
+    EXPECT_EQ(LastAnswer, 1);
+    EXPECT_TRUE(Seen.Questions.empty()) << "opening overwrites nothing";
+}
+
+TEST_F(FileDialogRules, OverwriteQuestionIsAboutTheNameItStandsFor)
+{
+    Folder.Write("mine.sdk", "");
+    Seen.FileNames = {"mine"};
+    Seen.YesNoAnswers = {true};
+    Seen.OnBox = [] {
+        Seen.OnBox = [] { // over the question itself
+            Seen.FileNames = {"other"};
+            ShowFileDialog(SaveSolutionsCaption, SudokuFiles);
+        };
+    };
+    ShowFileDialog(SaveGameCaption, SudokuFiles);
+    EXPECT_EQ(LastAnswer, 1);
+    EXPECT_EQ(ChosenFilePath, Folder.Path("mine.sdk"));
+    EXPECT_EQ(GameFilePath, Folder.Path("mine.sdk"));
+}
+
+TEST_F(FileDialogRules, DeleteQuestionIsAboutTheFileItStandsFor)
+{
+    Folder.Write("mine.sdk", "");
+    Folder.Write("inner/mine.sdk", "");
+    Seen.YesNoAnswers = {true};
+    Seen.OnBox = [this] {
+        DialogFolder = Folder.Path("inner/");
+    };
+    EXPECT_TRUE(DeleteListedFile("mine.sdk"));
+    EXPECT_FALSE(std::filesystem::exists(Folder.Path("mine.sdk")));
+    EXPECT_TRUE(std::filesystem::exists(Folder.Path("inner/mine.sdk")));
 }
 
 } // namespace

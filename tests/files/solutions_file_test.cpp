@@ -2,6 +2,7 @@
 #include "files/folders.h"
 #include "files/solutions_file.h"
 #include "files/whole_file.h"
+#include "game/lifecycle.h"
 #include "game/solutions.h"
 #include "grid/grid.h"
 #include "support/driver_games.h"
@@ -74,6 +75,16 @@ TEST_F(SolutionsFile, EmptyTextIsOneLineEnd)
     Seen.YesNoAnswers = {true};
     cmdSaveAsTextFile();
     EXPECT_EQ(Read(), "\r\n");
+}
+
+TEST_F(SolutionsFile, WritesNothingWhenItsDialogGoesWithTheProgram)
+{
+    ChosenFilePath = Path; // of the game that was opened before
+    Seen.OnBox = [] {
+        QuerySaveGame();
+    };
+    cmdSaveAsTextFile();
+    EXPECT_EQ(Read(), "a former file that was longer than the text");
 }
 
 TEST_F(SolutionsFile, FailingWriteIsToldInTheSystemsWords)

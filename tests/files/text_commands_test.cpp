@@ -215,6 +215,22 @@ TEST_F(TextCommands, NoKeepsTheGameInHand)
     EXPECT_EQ(GameFilePath, "mine.sdk");
 }
 
+TEST_F(TextCommands, GameInHandStandsWhileAShortTextIsAskedAbout)
+{
+    const std::string before = StateApartFromCalls();
+    const auto expectGameInHand = [&] {
+        EXPECT_EQ(StateApartFromCalls(), before) << "a save over the question is one of this game";
+    };
+    Seen.OnBox = expectGameInHand;
+    OpenClipboard(std::string(80, '7'));
+    Seen.OnBox = expectGameInHand;
+    OpenClipboard("no cells");
+    Seen.OnBox = expectGameInHand;
+    Seen.YesNoAnswers = {true};
+    OpenClipboard("1 2 3");
+    EXPECT_EQ(GivenCount, 3);
+}
+
 TEST_F(TextCommands, YesStartsTheGameWithTheRestEmpty)
 {
     Seen.YesNoAnswers = {true};

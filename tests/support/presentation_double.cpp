@@ -8,6 +8,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <utility>
 
 namespace kelvarine {
 
@@ -82,6 +83,14 @@ T Next(std::deque<T> &script, T fallback)
 
 } // namespace
 
+// Whatever happens while a box stands, before the script answers it.
+void StandAsBox()
+{
+    if (const std::function<void()> happening = std::exchange(Seen.OnBox, nullptr)) {
+        happening();
+    }
+}
+
 // True when a call to the printer works. The first one begins the document and its first page.
 bool PrinterWorks()
 {
@@ -117,12 +126,14 @@ bool PrintThing(PrintedThing thing)
 using testing::Next;
 using testing::Record;
 using testing::Seen;
+using testing::StandAsBox;
 
 void ShowMessage(std::string_view text, std::string_view title)
 {
     Record("message", text);
     Seen.Messages.emplace_back(text);
     Seen.Titles.emplace_back(title);
+    StandAsBox();
 }
 
 bool AskYesNo(std::string_view text, std::string_view title)
@@ -130,6 +141,7 @@ bool AskYesNo(std::string_view text, std::string_view title)
     Record("question", text);
     Seen.Questions.emplace_back(text);
     Seen.Titles.emplace_back(title);
+    StandAsBox();
     return Next(Seen.YesNoAnswers, false);
 }
 
@@ -137,6 +149,7 @@ Answer AskYesNoCancel(std::string_view text)
 {
     Record("save question", text);
     Seen.Questions.emplace_back(text);
+    StandAsBox();
     return Next(Seen.SaveAnswers, Answer::No);
 }
 
@@ -144,6 +157,7 @@ std::string AskText(std::string_view prompt)
 {
     Record("prompt", prompt);
     Seen.Questions.emplace_back(prompt);
+    StandAsBox();
     return Next(Seen.TextAnswers, std::string());
 }
 
@@ -271,17 +285,19 @@ void ShowAboutScreen()
 
 // ---- Files -----------------------------------------------------------------------------
 
-void RunFileDialog(std::size_t fileType)
+bool RunFileDialog(std::size_t fileType)
 {
     Record("file dialog", DialogCaption);
     Seen.FileTypeSelected = fileType;
+    StandAsBox();
     while (!Seen.FileNames.empty()) {
         DialogName = Next(Seen.FileNames, std::string());
         if (AcceptFileName(DialogName)) {
-            return;
+            return true;
         }
     }
     Record("file dialog", "cancelled");
+    return false;
 }
 
 void ShowHelpTopic(int topic)

@@ -44,6 +44,7 @@ struct PresentationRecord {
     int WinInterval = 0;
     std::uint32_t SoundVolume = 0;
     std::function<void()> OnYield;
+    std::function<void()> OnBox;       // runs once, while the next box, question or dialog stands
     std::deque<std::string> FileNames; // typed into the file dialog, OK after each; then Cancel
     std::size_t FileTypeSelected = 0;
 

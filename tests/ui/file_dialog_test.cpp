@@ -37,7 +37,6 @@ protected:
     void Show(std::string_view caption, std::size_t fileType = SudokuFiles)
     {
         Dialog.reset();
-        LastAnswer = AnsweredCancel;
         DialogCaption = caption;
         SelectFileType(fileType);
         Dialog = std::make_unique<FileDialog>(Running.Main.get(), fileType);
@@ -165,7 +164,7 @@ TEST_F(FileDialogWindow, EnterOpensTheTypedName)
     Show(OpenGameCaption);
     TypeAndEnter("game");
     EXPECT_FALSE(Dialog->isVisible());
-    EXPECT_EQ(LastAnswer, 1);
+    EXPECT_EQ(Dialog->result(), QDialog::Accepted);
     EXPECT_EQ(ChosenFilePath, Folder.Path("game.sdk"));
 }
 
@@ -175,7 +174,7 @@ TEST_F(FileDialogWindow, EmptyNameIsToldAndTheDialogStays)
     const BoxRecord boxes = AnswerBoxes([&] { TypeAndEnter("  "); }, {QMessageBox::Ok});
     EXPECT_EQ(boxes.Texts, std::vector<std::string>{"Please enter a file name."});
     EXPECT_TRUE(Dialog->isVisible());
-    EXPECT_EQ(LastAnswer, 2);
+    EXPECT_EQ(Dialog->result(), QDialog::Rejected);
 }
 
 TEST_F(FileDialogWindow, MissingFileIsToldAndAnotherTryOpens)
@@ -187,7 +186,7 @@ TEST_F(FileDialogWindow, MissingFileIsToldAndAnotherTryOpens)
     ASSERT_TRUE(Dialog->isVisible());
     TypeAndEnter("game.sdk");
     EXPECT_FALSE(Dialog->isVisible());
-    EXPECT_EQ(LastAnswer, 1);
+    EXPECT_EQ(Dialog->result(), QDialog::Accepted);
 }
 
 TEST_F(FileDialogWindow, EnterInTheOverwriteQuestionIsNo)
@@ -197,7 +196,7 @@ TEST_F(FileDialogWindow, EnterInTheOverwriteQuestionIsNo)
     EXPECT_EQ(PressInBox([&] { TypeAndEnter("a & b"); }, Qt::Key_Return),
               Folder.Path("a & b.sdk") + "\nalready exists.\n\nDo you want to overwrite it?");
     EXPECT_TRUE(Dialog->isVisible());
-    EXPECT_EQ(LastAnswer, 2);
+    EXPECT_EQ(Dialog->result(), QDialog::Rejected);
     EXPECT_EQ(GameFilePath, "");
     const BoxRecord boxes = AnswerBoxes([&] { TypeAndEnter("a & b"); }, {QMessageBox::Yes});
     EXPECT_EQ(boxes.Titles, std::vector<std::string>{"Overwrite?"});
@@ -220,7 +219,7 @@ TEST_F(FileDialogWindow, EscapeCancelButtonAndClosingCancel)
             Dialog->close();
         }
         EXPECT_FALSE(Dialog->isVisible());
-        EXPECT_EQ(LastAnswer, 2);
+        EXPECT_EQ(Dialog->result(), QDialog::Rejected);
         EXPECT_EQ(DialogName, "some name");
         DialogName.clear();
     }

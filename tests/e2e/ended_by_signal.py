@@ -1,0 +1,72 @@
+#!/usr/bin/python3
+"""SIGTERM while a dialog or a box stands: the answer to the question whether to save counts and
+nothing else, and the box that goes with the program has decided nothing."""
+
+import signal
+import sys
+
+from desktop import Desktop, Game, expect, wait_for
+from over_boxes import Story, contents, make_files, walk, walk_back
+
+
+def end(story):
+    story.game.process.send_signal(signal.SIGTERM)
+
+
+def over_the_closing_question(desktop, program):
+    story = Story(desktop, program)
+    story.modify()
+    files = contents(desktop)
+    desktop.key("alt+F4")
+    story.box()
+    end(story)  # what it asks is asked already
+    desktop.key("alt+y")
+    wait_for(lambda: story.game.process.poll() is not None, "the program to end")
+    changed = [name for name, held in contents(desktop).items() if held != files[name]]
+    expect(story.game.process.returncode == 0 and changed == ["evening.sdk"],
+           "a signal over the question of the closing leaves it to the player: Yes saves")
+
+
+def over_a_message_at_the_start(desktop, program):
+    story = Story(desktop, program, file="broken.sdk")
+    files = contents(desktop)
+    story.known.append(story.game.window)
+    story.box()
+    end(story)
+    wait_for(lambda: story.game.process.poll() is not None, "the program to end at its start")
+    expect(story.game.process.returncode == 0 and contents(desktop) == files,
+           "a file that is no game does not hold the end")
+
+
+def over_the_question_of_a_search(desktop, program):
+    game = Game(desktop, program)
+    desktop.key("ctrl+n")
+    desktop.answer("alt+y", other_than=[game.window])  # search all the same?
+    wait_for(lambda: bool(desktop.key("5")) or desktop.windows("^Kelvarine$") != [game.window],
+             "the question of the search")
+    first = desktop.dialog(other_than=[game.window])
+    game.process.send_signal(signal.SIGTERM)
+    desktop.answer("alt+y", other_than=[game.window, first])
+    desktop.xdotool("windowfocus", "--sync", first)
+    desktop.key("alt+y")
+    desktop.gone(first)
+    expect(game.process.poll() is None, "a signal stops a search and leaves the program")
+    game.focus()
+    expect(game.end() == 0, "which ends as ever")
+
+
+def main():
+    program, hopeless = sys.argv[1:]
+    with Desktop() as desktop:
+        make_files(desktop, program)
+        walk(desktop, program, end)
+        walk_back(desktop, program, end)
+        over_a_message_at_the_start(desktop, program)
+        over_the_closing_question(desktop, program)
+    with Desktop() as desktop:  # without settings, for this program has its own
+        over_the_question_of_a_search(desktop, hopeless)
+    print("ended by signal: all as it should be")
+
+
+if __name__ == "__main__":
+    main()
