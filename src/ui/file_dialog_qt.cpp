@@ -222,7 +222,7 @@ void FileDialog::ListFiles()
 bool FileDialog::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == filFiles && event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent *>(event)->matches(QKeySequence::Delete)) {
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Delete) {
         DeleteSelected();
         return true;
     }

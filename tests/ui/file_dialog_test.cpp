@@ -316,6 +316,23 @@ TEST_F(FileDialogWindow, DeleteKeyInTheListAsksAndDeletes)
     EXPECT_EQ(GameModified, True);
 }
 
+TEST_F(FileDialogWindow, DeleteKeyIsTheKeyWhateverIsHeldWithIt)
+{
+    Folder.Write("a.sdk", "");
+    Show(OpenGameCaption);
+    ClickEntry(0);
+    EXPECT_EQ(PressInBox([&] { QTest::keyClick(Files(), Qt::Key_D, Qt::ControlModifier); },
+                         Qt::Key_Return),
+              "");
+    for (const Qt::KeyboardModifier held :
+         {Qt::ShiftModifier, Qt::ControlModifier, Qt::KeypadModifier}) {
+        EXPECT_EQ(
+            PressInBox([&] { QTest::keyClick(Files(), Qt::Key_Delete, held); }, Qt::Key_Return),
+            "Are you sure you want to delete:\na.sdk");
+    }
+    EXPECT_EQ(Folder.Entries(), 1);
+}
+
 TEST_F(FileDialogWindow, DeleteKeyElsewhereDeletesNoFile)
 {
     Folder.Write("a.sdk", "");
