@@ -54,13 +54,20 @@ std::string WithDoubledMarks(std::string_view text)
 
 enum class Presence : std::uint8_t { There, Missing, Unreachable };
 
+// Whether the folder is there that a path names a file in.
+bool LiesInAFolder(const std::string &path)
+{
+    std::error_code failure;
+    return std::filesystem::is_directory(path.substr(0, path.rfind('/') + 1), failure);
+}
+
 Presence PresenceOf(const std::string &path)
 {
     struct stat kind {};
     if (::stat(path.c_str(), &kind) == 0) {
         return Presence::There;
     }
-    return errno == ENOENT ? Presence::Missing : Presence::Unreachable;
+    return errno == ENOENT && LiesInAFolder(path) ? Presence::Missing : Presence::Unreachable;
 }
 
 void TellToCheck(std::string_view what)

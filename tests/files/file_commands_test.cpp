@@ -218,7 +218,7 @@ TEST_F(FileCommands, FailedSaveAsKeepsNameTitleAndGame)
     StartSavedGame(EasyGame);
     GameFilePath = Folder.Path("old.sdk");
     GameModified = True;
-    Seen.FileNames = {Folder.Path("gone/new.sdk")};
+    Seen.FileNames = {"/proc/new.sdk"};
     mnuSaveAs();
     EXPECT_EQ(Seen.Messages, Texts{"Unable to save file.\r\rNo such file or directory"});
     EXPECT_EQ(GameFilePath, Folder.Path("old.sdk"));

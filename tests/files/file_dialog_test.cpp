@@ -100,12 +100,17 @@ TEST_F(FileDialogRules, NameWithAPointKeepsItsExtension)
 
 TEST_F(FileDialogRules, NameWithAFolderStaysAsItIs)
 {
-    EXPECT_TRUE(Choose(SaveSolutionsCaption, "/some/where/game"));
-    EXPECT_EQ(ChosenFilePath, "/some/where/game.sdk");
-    EXPECT_TRUE(Choose(SaveSolutionsCaption, "below/game"));
-    EXPECT_EQ(ChosenFilePath, "below/game.sdk");
-    EXPECT_TRUE(Choose(SaveSolutionsCaption, "/some.folder/game"));
-    EXPECT_EQ(ChosenFilePath, "/some.folder/game.sdk");
+    for (const char *folder : {"some", "some.folder"}) {
+        std::filesystem::create_directory(Folder.Path(folder));
+        const std::string path = Folder.Path(folder) + "/game";
+        DialogFolder = "/";
+        EXPECT_TRUE(Choose(SaveSolutionsCaption, path));
+        EXPECT_EQ(ChosenFilePath, path + ".sdk");
+    }
+    EXPECT_TRUE(Choose(SaveSolutionsCaption, "./game of the working folder"));
+    EXPECT_EQ(ChosenFilePath, "./game of the working folder.sdk");
+    EXPECT_TRUE(Choose(SaveSolutionsCaption, "/game of the root"));
+    EXPECT_EQ(ChosenFilePath, "/game of the root.sdk");
 }
 
 TEST_F(FileDialogRules, ColonAndBackslashAreOrdinaryCharacters)
@@ -158,6 +163,21 @@ TEST_F(FileDialogRules, UnreachablePathsAreToldInEveryUse)
             EXPECT_EQ(Seen.Messages,
                       Texts{"Path, file, or device error.\r\rCheck path and file name"});
             EXPECT_EQ(LastAnswer, 2);
+        }
+    }
+    EXPECT_EQ(GameFilePath, "");
+}
+
+TEST_F(FileDialogRules, FileBelowNoFolderIsOutOfReachInEveryUse)
+{
+    Folder.Write("file", "");
+    for (const std::string_view caption :
+         {OpenGameCaption, SaveGameCaption, SaveSolutionsCaption}) {
+        for (const std::string &name : {Folder.Path("gone/game"), Folder.Path("gone/too/game"),
+                                        std::string("gone/game"), Folder.Path("gone/")}) {
+            EXPECT_FALSE(Choose(caption, name)) << name;
+            EXPECT_EQ(Seen.Messages,
+                      Texts{"Path, file, or device error.\r\rCheck path and file name"});
         }
     }
     EXPECT_EQ(GameFilePath, "");

@@ -89,7 +89,7 @@ TEST_F(SolutionsFile, WritesNothingWhenItsDialogGoesWithTheProgram)
 
 TEST_F(SolutionsFile, FailingWriteIsToldInTheSystemsWords)
 {
-    Seen.FileNames = {"/proc/no folder/file.txt"};
+    Seen.FileNames = {"/proc/file.txt"};
     cmdSaveAsTextFile();
     EXPECT_EQ(Seen.Messages, Texts{"Unable to save file.\r\rNo such file or directory"});
 }
