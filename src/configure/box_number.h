@@ -6,8 +6,8 @@
 
 namespace kelvarine {
 
-// Value of the digits that a text begins with, at most nine of them; 0 when there are none, as in
-// an empty box or one with pasted letters.
+// Value of the digits that a text begins with after its blanks, at most nine of them; 0 when there
+// are none, as in an empty box or one with pasted letters.
 std::int32_t NumberIn(std::string_view text);
 
 } // namespace kelvarine

@@ -24,6 +24,15 @@ TEST(BoxNumber, PastedLettersAreNullAndEndANumber)
     EXPECT_EQ(NumberIn("-5"), 0);
 }
 
+TEST(BoxNumber, BlanksInFrontDoNotCount)
+{
+    EXPECT_EQ(NumberIn(" 7"), 7);
+    EXPECT_EQ(NumberIn("   123456789"), 123456789);
+    EXPECT_EQ(NumberIn("7 8"), 7);
+    EXPECT_EQ(NumberIn("  "), 0);
+    EXPECT_EQ(NumberIn(" x7"), 0);
+}
+
 TEST(BoxNumber, AnyLengthIsHarmless)
 {
     EXPECT_EQ(NumberIn("99999999999999999999"), 999999999);
