@@ -1,8 +1,10 @@
 #include "ui/print_tab.h"
 
+#include "configure/box_number.h"
 #include "print/page_layout.h"
 #include "print/print_run.h"
 #include "print/print_settings.h"
+#include "ui/digit_box.h"
 #include "ui/measure_box.h"
 #include "ui/presentation.h"
 #include "ui/print_preview.h"
@@ -12,7 +14,6 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -41,7 +42,7 @@ struct Controls {
     QCheckBox *Aspect = nullptr;
     QGroupBox *BatchFrame = nullptr;
     QComboBox *GamesPerPageList = nullptr;
-    QLineEdit *Pages = nullptr;
+    DigitBox *Pages = nullptr;
     QLabel *BatchSize = nullptr;
     QCheckBox *Solutions = nullptr;
     QCheckBox *Grey = nullptr;
@@ -132,14 +133,11 @@ QComboBox *MakeGamesPerPageList(QWidget *parent)
 
 void MakeBatchFrame(Controls &on, QWidget *parent)
 {
-    constexpr int mostPages = 99;
     on.BatchFrame = Named(new QGroupBox(parent), "fraPrintBatch", QObject::tr("Batch"));
     auto *form = new QFormLayout(on.BatchFrame);
     on.GamesPerPageList = MakeGamesPerPageList(on.BatchFrame);
     form->addRow(on.GamesPerPageList);
-    on.Pages = Named(new QLineEdit(on.BatchFrame), "txtNumPages", QObject::tr("# of pages"));
-    on.Pages->setMaxLength(2);
-    on.Pages->setValidator(new QIntValidator(0, mostPages, on.Pages));
+    on.Pages = Named(new DigitBox(on.BatchFrame), "txtNumPages", QObject::tr("# of pages"));
     form->addRow(QObject::tr("# of pages"), on.Pages);
     on.BatchSize = Named(new QLabel(on.BatchFrame), "lblNumGames");
     form->addRow(on.BatchSize);
@@ -303,8 +301,9 @@ void ConnectOthers(const Controls &on, PrintPanel *panel)
         Then(panel, [](bool checked) { PrintMode = checked ? PrintNewGames : PrintCurrent; }));
     QObject::connect(on.GamesPerPageList, &QComboBox::currentIndexChanged, panel,
                      Then(panel, [](int index) { PrintGamesPerPage = index; }));
-    QObject::connect(on.Pages, &QLineEdit::textChanged, panel,
-                     Then(panel, [](const QString &text) { PrintPages = text.toInt(); }));
+    QObject::connect(on.Pages, &QLineEdit::textChanged, panel, Then(panel, [](const QString &text) {
+                         PrintPages = NumberIn(text.toStdString());
+                     }));
     QObject::connect(on.Print, &QPushButton::clicked, panel, [] {
         cmdPrint();
         RefreshPrintPreview();

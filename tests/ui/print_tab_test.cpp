@@ -279,6 +279,26 @@ TEST_F(PrintTabs, NumberOfGamesIsPagesTimesGamesPerPage)
     EXPECT_EQ(TextOf("txtNumPages"), "12");
 }
 
+TEST_F(PrintTabs, PagesAreTypedAsInEveryNumberBox)
+{
+    Find<QRadioButton>("optPrintGame(1)")->click();
+    panel->activateWindow();
+    auto *box = Find<QLineEdit>("txtNumPages");
+    QTest::mouseClick(box, Qt::LeftButton);
+    QTest::keyClicks(box, "3");
+    EXPECT_EQ(TextOf("txtNumPages"), "3") << "a click selects the whole text";
+    EXPECT_EQ(PrintPages, 3);
+    Type("txtNumPages", "+4");
+    EXPECT_EQ(TextOf("txtNumPages"), "4");
+    for (const auto &[pasted, pages] : {std::pair("8x", 8), {"ab", 0}, {" 7", 7}}) {
+        QGuiApplication::clipboard()->setText(pasted);
+        box->selectAll();
+        QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(TextOf("txtNumPages"), pasted) << "only keys are filtered";
+        EXPECT_EQ(PrintPages, pages);
+    }
+}
+
 TEST_F(PrintTabs, NoPagesBringsTheNotice)
 {
     Find<QRadioButton>("optPrintGame(1)")->click();
