@@ -2,6 +2,8 @@
 
 #include "board/banner_painter.h"
 #include "generator/generator.h"
+#include "grid/grid.h"
+#include "logic/driver.h"
 #include "print/page_layout.h"
 #include "print/print_painter.h"
 #include "print/print_run.h"
@@ -33,17 +35,22 @@ void DrawSmall(QPainter &painter, const QImage &picture, const PagePlace &place)
     }
 }
 
-void DrawCurrentGame(QPainter &painter, QSize page)
+// Whether Grid belongs to a run of the logic or to the generator instead of the player.
+bool GridIsAway()
+{
+    return SearchActive != False || SearchKind != NotStoppable;
+}
+
+void DrawCurrentGame(QPainter &painter, QSize page, const QImage &picture)
 {
     if (HasSize()) {
-        DrawSmall(painter, PictureOfBoard(),
+        DrawSmall(painter, picture,
                   CurrentGamePlace(page.width() / PrintableWidth, page.height() / PrintableHeight));
     }
 }
 
-void DrawBatch(QPainter &painter, QSize page)
+void DrawBatch(QPainter &painter, QSize page, const QImage &picture)
 {
-    const QImage picture = PictureOfGrid(false);
     const auto index = static_cast<std::size_t>(PrintGamesPerPage);
     const PageLayout layout = LayoutOfGames(index, page.width(), page.height());
     for (int game = 0; game < GamesOnPage(); ++game) {
@@ -77,13 +84,15 @@ void PrintPreview::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
-    // While a batch runs, Grid belongs to the generator.
+    if (PrintRunning == False && !GridIsAway()) {
+        picture = PrintMode == PrintNewGames ? PictureOfGrid(false) : PictureOfBoard();
+    }
     if (PrintRunning != False) {
         DrawProgress(painter, size());
     } else if (PrintMode == PrintNewGames) {
-        DrawBatch(painter, size());
+        DrawBatch(painter, size(), picture);
     } else {
-        DrawCurrentGame(painter, size());
+        DrawCurrentGame(painter, size(), picture);
     }
     painter.setPen(Qt::darkGray);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));

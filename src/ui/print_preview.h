@@ -1,6 +1,7 @@
 // The picture of the page on the print tab.
 #pragma once
 
+#include <QImage>
 #include <QWidget>
 
 namespace kelvarine {
@@ -16,6 +17,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QImage picture; // of the game or of an empty grid, as it was when Grid was the player's last
 };
 
 } // namespace kelvarine

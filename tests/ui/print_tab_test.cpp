@@ -377,6 +377,24 @@ TEST_F(PrintTabs, PreviewFollowsTheBoard)
     EXPECT_NE(Preview(), before);
 }
 
+TEST_F(PrintTabs, PreviewKeepsItsPictureWhileALongRunWorksOnTheGrid)
+{
+    for (const char *mode : {"optPrintGame(0)", "optPrintGame(1)"}) {
+        Find<QRadioButton>(mode)->click();
+        const QImage before = Preview();
+        const GridTable game = Grid;
+        Grid = {};
+        SearchActive = True; // a run of the logic
+        EXPECT_EQ(Preview(), before) << mode;
+        SearchActive = False;
+        SearchKind = SearchingGame; // between two runs for a game
+        EXPECT_EQ(Preview(), before) << mode;
+        SearchKind = NotStoppable;
+        EXPECT_NE(Preview(), before) << mode;
+        Grid = game;
+    }
+}
+
 TEST_F(PrintTabs, ButtonOfARunningBatchAsksAndThePreviewShowsItsProgress)
 {
     const QTemporaryDir folder;
