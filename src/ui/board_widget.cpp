@@ -22,6 +22,11 @@ bool IsSignKey(std::int32_t code)
     return code == ShiftCode || code == CtrlCode;
 }
 
+bool IsTabulator(int key)
+{
+    return key == Qt::Key_Tab || key == Qt::Key_Backtab;
+}
+
 } // namespace
 
 BoardWidget::BoardWidget(QWidget *parent) : QWidget(parent)
@@ -62,6 +67,16 @@ void BoardWidget::mouseMoveEvent(QMouseEvent *event)
     const std::int32_t button = event->buttons() == Qt::LeftButton ? LeftButton : NoButton;
     const QPoint place = event->position().toPoint();
     BoardMoved(button, ModifiersOf(event->modifiers()), place.x(), place.y());
+}
+
+bool BoardWidget::event(QEvent *event)
+{
+    // The toolkit takes the tabulator for itself; it is a key of the board all the same.
+    if (event->type() == QEvent::KeyPress && IsTabulator(static_cast<QKeyEvent *>(event)->key()) &&
+        !ReadyForCommand()) {
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 void BoardWidget::keyPressEvent(QKeyEvent *event)

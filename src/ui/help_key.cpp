@@ -1,6 +1,8 @@
 #include "ui/help_key.h"
 
 #include "grid/grid.h"
+#include "input/keys.h"
+#include "ui/main_window.h"
 #include "ui/presentation.h"
 
 #include <QApplication>
@@ -32,6 +34,9 @@ public:
         // During a search the key goes its way, and the board asks whether to stop.
         if (SearchActive != False) {
             return false;
+        }
+        if (widget->window() == Window()) {
+            ReadyForCommand(); // a key of the board ends the win display, and then acts
         }
         ShowHelpTopic(widget->window()->property(ContextName).toInt());
         return true;

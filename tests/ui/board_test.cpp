@@ -155,8 +155,9 @@ TEST_F(BoardOnView, KeypadDigitsAreDigits)
 
 TEST_F(BoardOnView, EveryKeyEndsTheWinDisplay)
 {
-    for (const Qt::Key key :
-         {Qt::Key_F5, Qt::Key_Q, Qt::Key_Return, Qt::Key_Home, Qt::Key_Udiaeresis, Qt::Key_Space}) {
+    for (const Qt::Key key : {Qt::Key_F5, Qt::Key_Q, Qt::Key_Return, Qt::Key_Home,
+                              Qt::Key_Udiaeresis, Qt::Key_Space, Qt::Key_Tab, Qt::Key_Backtab}) {
+        Board()->setFocus();
         StartWinDisplay();
         QTest::keyClick(Board(), key);
         EXPECT_EQ(WinDisplayRunning, False) << std::hex << key;
@@ -165,13 +166,25 @@ TEST_F(BoardOnView, EveryKeyEndsTheWinDisplay)
 
 TEST_F(BoardOnView, EveryKeyAsksOnceDuringAGameSearch)
 {
-    for (const Qt::Key key : {Qt::Key_F5, Qt::Key_5, Qt::Key_Q, Qt::Key_Return, Qt::Key_Home}) {
+    for (const Qt::Key key : {Qt::Key_F5, Qt::Key_5, Qt::Key_Q, Qt::Key_Return, Qt::Key_Home,
+                              Qt::Key_Tab, Qt::Key_Backtab}) {
+        Board()->setFocus();
         SearchActive = True;
         SearchKind = 1;
         const Texts boxes = CloseModals([&] { QTest::keyPress(Board(), key); });
         SearchActive = False;
         EXPECT_EQ(boxes, Texts{"Kelvarine: Would you like to stop searching?"}) << std::hex << key;
+        EXPECT_EQ(program.Main->focusWidget(), Board()) << "the key does nothing else";
     }
+}
+
+TEST_F(BoardOnView, TabEndsTheWinDisplayAndThenGoesOnToTheToolbar)
+{
+    Board()->setFocus();
+    StartWinDisplay();
+    QTest::keyClick(Board(), Qt::Key_Tab);
+    EXPECT_EQ(WinDisplayRunning, False);
+    EXPECT_NE(program.Main->focusWidget(), Board());
 }
 
 TEST_F(BoardOnView, KeysOfTheDesktopAloneMeanNothing)

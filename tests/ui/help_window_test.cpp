@@ -1,4 +1,5 @@
 #include "files/file_dialog.h"
+#include "game/win_display.h"
 #include "grid/grid.h"
 #include "support/widget_program.h"
 #include "ui/board_widget.h"
@@ -314,6 +315,21 @@ TEST_F(HelpWindowTest, F1ShowsTheTopicOfTheWindowInFront)
     QTest::keyClick(control, Qt::Key_F1, Qt::ShiftModifier);
     QTest::keyClick(control, Qt::Key_F2);
     EXPECT_EQ(PageOnView(), "settings-coordinates.html");
+}
+
+TEST_F(HelpWindowTest, F1OnTheBoardEndsTheWinDisplayAndThenShowsTheHelp)
+{
+    WatchForHelpKey();
+    StartWinDisplay();
+    QTest::keyClick(Game.Main->Client->Board, Qt::Key_F1);
+    EXPECT_EQ(WinDisplayRunning, False);
+    EXPECT_NE(OpenHelpWindow(), nullptr);
+    StartWinDisplay();
+    QWidget screen;
+    screen.show();
+    QTest::keyClick(&screen, Qt::Key_F1);
+    EXPECT_EQ(WinDisplayRunning, True) << "only the board's keys end it";
+    StopWinDisplay();
 }
 
 TEST_F(HelpWindowTest, F1WaitsWhileASearchRuns)
