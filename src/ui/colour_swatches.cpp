@@ -5,6 +5,7 @@
 #include "configure/look_settings.h"
 #include "ui/configure_controls.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <cmath>
@@ -19,9 +20,12 @@ constexpr int TileWidth = 48;
 constexpr int TileHeight = 24;
 constexpr int FrameThickness = 2;
 
-// Paints a button by the painters of the board, and a mark when it has the focus.
-void PaintButton(QAbstractButton &button, Colour colour, std::int32_t texture, int style,
-                 int thickness)
+// What the painters of the board put on a button after its fill.
+using Painting = std::function<void(const Canvas &, int width, int height)>;
+
+// Paints a button in a colour, with what else is to be seen on it, and a mark when it has the
+// focus.
+void PaintButton(QAbstractButton &button, Colour colour, const Painting &paint)
 {
     const double ratio = button.devicePixelRatioF();
     QImage picture(static_cast<int>(std::ceil(button.width() * ratio)),
@@ -31,9 +35,7 @@ void PaintButton(QAbstractButton &button, Colour colour, std::int32_t texture, i
     const int width = button.width();
     const int height = button.height();
     FillCorners(canvas, {0, 0}, {width - 1, height - 1}, colour);
-    TextureRectangle(canvas, {0, 0, width, height}, texture);
-    DrawFrame3D(canvas, style, thickness, thickness, width - 2 * thickness, thickness,
-                height - 2 * thickness);
+    paint(canvas, width, height);
     QPainter painter(&button);
     painter.drawImage(0, 0, picture);
     if (button.hasFocus()) {
@@ -42,10 +44,25 @@ void PaintButton(QAbstractButton &button, Colour colour, std::int32_t texture, i
     }
 }
 
+void DrawFrame(const Canvas &canvas, int style, int thickness, int width, int height)
+{
+    DrawFrame3D(canvas, style, thickness, thickness, width - 2 * thickness, thickness,
+                height - 2 * thickness);
+}
+
 } // namespace
 
+void PressButton::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton) {
+        QAbstractButton::mousePressEvent(event);
+    } else {
+        emit pressed(); // the toolkit's buttons know but one
+    }
+}
+
 ColourSwatch::ColourSwatch(QWidget *parent, std::size_t colour)
-    : QAbstractButton(parent), colourIndex(colour)
+    : PressButton(parent), colourIndex(colour)
 {
     setObjectName(IndexedName("swatch", static_cast<int>(colour)));
     setAccessibleName("Take the color of" + TextOf(" ") + SpokenText(ColourCaptions[colour]));
@@ -57,11 +74,15 @@ ColourSwatch::ColourSwatch(QWidget *parent, std::size_t colour)
 void ColourSwatch::paintEvent(QPaintEvent * /*event*/)
 {
     const std::int32_t *texture = TextureOf(colourIndex);
-    PaintButton(*this, ColourTable[colourIndex], texture != nullptr ? *texture : 0, Sunken,
-                FrameThickness);
+    PaintButton(*this, ColourTable[colourIndex], [&](const Canvas &canvas, int width, int height) {
+        DrawFrame(canvas, Sunken, FrameThickness, width, height);
+        if (texture != nullptr) {
+            TextureRectangle(canvas, {0, 0, width, height}, *texture);
+        }
+    });
 }
 
-TextureTile::TextureTile(QWidget *parent, int tile) : QAbstractButton(parent), tileNumber(tile)
+TextureTile::TextureTile(QWidget *parent, int tile) : PressButton(parent), tileNumber(tile)
 {
     setObjectName(IndexedName("tile", tile));
     setAccessibleName(QStringLiteral("Texture %1").arg(tile));
@@ -72,7 +93,10 @@ TextureTile::TextureTile(QWidget *parent, int tile) : QAbstractButton(parent), t
 void TextureTile::paintEvent(QPaintEvent * /*event*/)
 {
     constexpr Colour white = 0xFFFFFF;
-    PaintButton(*this, white, tileNumber, RaisedDimmer, 1);
+    PaintButton(*this, white, [&](const Canvas &canvas, int width, int height) {
+        TextureRectangle(canvas, {0, 0, width, height}, tileNumber);
+        DrawFrame(canvas, RaisedDimmer, 1, width, height);
+    });
 }
 
 } // namespace kelvarine

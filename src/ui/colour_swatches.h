@@ -6,7 +6,18 @@
 
 namespace kelvarine {
 
-class ColourSwatch : public QAbstractButton {
+// A button that any button of the mouse presses.
+class PressButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    using QAbstractButton::QAbstractButton;
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+};
+
+class ColourSwatch : public PressButton {
     Q_OBJECT
 
 public:
@@ -19,7 +30,7 @@ private:
     std::size_t colourIndex;
 };
 
-class TextureTile : public QAbstractButton {
+class TextureTile : public PressButton {
     Q_OBJECT
 
 public:

@@ -148,6 +148,38 @@ TEST_F(ColoursTabTest, PressOnASwatchCarriesItsColourOver)
     ExpectBars(54, 162, 253);
 }
 
+TEST_F(ColoursTabTest, SwatchesAndTilesActOnAnyButton)
+{
+    Open(ColoursTab);
+    QTest::mousePress(Find<QWidget>("swatch2"), Qt::RightButton);
+    EXPECT_EQ(ColourTable[0], ColourTable[2]);
+    QTest::mousePress(Find<QWidget>("swatch3"), Qt::MiddleButton);
+    EXPECT_EQ(ColourTable[0], ColourTable[3]);
+    QTest::mousePress(Find<QWidget>("tile7"), Qt::RightButton);
+    EXPECT_EQ(GivenTexture, 7);
+    QTest::mousePress(Find<QWidget>("tile4"), Qt::MiddleButton);
+    EXPECT_EQ(GivenTexture, 4);
+}
+
+TEST_F(ColoursTabTest, SwatchTakesItsTextureOverItsFrame)
+{
+    Open(ColoursTab);
+    auto *swatch = Find<QWidget>("swatch0");
+    Find<QWidget>("optTableColors0")->setFocus();
+    const QImage plain = swatch->grab().toImage();
+    QTest::mousePress(Find<QWidget>("tile7"), Qt::LeftButton);
+    const QImage textured = swatch->grab().toImage();
+    int changedOnFrame = 0;
+    for (int x = 0; x < plain.width(); ++x) {
+        for (int y = 0; y < plain.height(); ++y) {
+            const QRgb pixel = textured.pixel(x, y);
+            EXPECT_EQ(pixel & plain.pixel(x, y), pixel) << "a texture only takes colour away";
+            changedOnFrame += y < 2 && pixel != plain.pixel(x, y) ? 1 : 0;
+        }
+    }
+    EXPECT_GT(changedOnFrame, 0);
+}
+
 TEST_F(ColoursTabTest, SwatchesStandFromPixel156To196OfTheirOptions)
 {
     Open(ColoursTab);
