@@ -76,13 +76,25 @@ int RoomForCell()
     return static_cast<int>(RoundHalfEven(room / 9));
 }
 
+// A number in units of its last decimal, rounded.
+long long InLastDecimals(double value, long long scale)
+{
+    return std::llround(std::clamp(value, -1e9, 1e9) * static_cast<double>(scale));
+}
+
+// A measure with no more decimals than its box shows.
+double AsShown(double inches)
+{
+    constexpr long long scale = 100;
+    return static_cast<double>(InLastDecimals(inches, scale)) / scale;
+}
+
 // A number as text with so many decimals. The program's own digits and sign, whatever the
 // system's are.
 std::string Decimals(double value, int places, std::string_view sign)
 {
     const auto scale = static_cast<long long>(std::pow(10, places));
-    const long long scaled =
-        std::llround(std::clamp(value, -1e9, 1e9) * static_cast<double>(scale));
+    const long long scaled = InLastDecimals(value, scale);
     const long long size = std::abs(scaled);
     std::string part = std::to_string(size % scale);
     part.insert(0, static_cast<std::size_t>(places) - part.size(), '0');
@@ -185,13 +197,13 @@ bool IsCentreFree()
 
 bool HasSize()
 {
-    return PrintWidth > 0 && PrintHeight > 0;
+    return AsShown(PrintWidth) > 0 && AsShown(PrintHeight) > 0;
 }
 
 PagePlace CurrentGamePlace(double unitsAcross, double unitsDown)
 {
-    return {PrintLeft * unitsAcross, PrintTop * unitsDown, PrintWidth * unitsAcross,
-            PrintHeight * unitsDown};
+    return {AsShown(PrintLeft) * unitsAcross, AsShown(PrintTop) * unitsDown,
+            AsShown(PrintWidth) * unitsAcross, AsShown(PrintHeight) * unitsDown};
 }
 
 // ---- Batches -------------------------------------------------------------------------------

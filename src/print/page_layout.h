@@ -44,10 +44,11 @@ bool IsSizeFree();
 bool IsPlaceFree();
 bool IsCentreFree();
 
-// True when there is a size to be printed.
+// True when there is a size to be printed, with the decimals that the boxes show.
 bool HasSize();
 
-// Place of the current game at so many units, such as pixels, to the inch.
+// Place of the current game at so many units, such as pixels, to the inch; its measures are those
+// that the boxes show.
 PagePlace CurrentGamePlace(double unitsAcross, double unitsDown);
 
 // ---- Batches -------------------------------------------------------------------------------

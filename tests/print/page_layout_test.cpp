@@ -166,6 +166,31 @@ TEST_F(PagePlaces, WidthOrHeightOfNoughtIsNoSize)
     EXPECT_FALSE(HasSize());
 }
 
+TEST_F(PagePlaces, PictureIsPrintedAsTheBoxesShowIt)
+{
+    PrintLeft = 1.2345;
+    PrintTop = 2.0051;
+    PrintWidth = 10.0 / 3;
+    PrintHeight = 4.9951;
+    const PagePlace place = CurrentGamePlace(100, 1000);
+    EXPECT_DOUBLE_EQ(place.Left, 123);
+    EXPECT_DOUBLE_EQ(place.Top, 2010);
+    EXPECT_DOUBLE_EQ(place.Width, 333);
+    EXPECT_DOUBLE_EQ(place.Height, 5000);
+    PrintLeft = -1.2345; // of a picture wider than the page
+    EXPECT_DOUBLE_EQ(CurrentGamePlace(100, 1000).Left, -123);
+}
+
+TEST_F(PagePlaces, SizeShownAsNoughtIsNoSize)
+{
+    PrintWidth = 0.004;
+    EXPECT_FALSE(HasSize());
+    PrintWidth = 0.006;
+    EXPECT_TRUE(HasSize());
+    PrintHeight = 0.004;
+    EXPECT_FALSE(HasSize());
+}
+
 // ---- Batches -------------------------------------------------------------------------------
 
 struct ExpectedLayout {
