@@ -316,7 +316,11 @@ TEST_F(PrintedBatch, SolutionsHaveTheirNumberOnly)
     PrintIncludeSolutions = True;
     cmdPrint();
     EXPECT_EQ(Texts(), (std::vector<std::string>{"Easy", "Game #1", "", "Game #1"}));
-    EXPECT_EQ(Pictures()[1].Place, PlaceOf(LayoutOfSolutions(2250, 3000), 0));
+    const PagePlace place = PlaceOf(LayoutOfSolutions(2250, 3000), 0);
+    EXPECT_EQ(Pictures()[1].Place, place);
+    const PagePlace label = Seen.Printed.back().Place;
+    EXPECT_DOUBLE_EQ(label.Left + PrintedTextWidth("Game #1"), place.Left + place.Width);
+    EXPECT_DOUBLE_EQ(label.Top, place.Top + place.Height);
 }
 
 TEST_F(PrintedBatch, GamesAreThoseThatTheGeneratorMakes)

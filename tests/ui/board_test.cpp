@@ -2,6 +2,7 @@
 #include "board/look.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
+#include "game/screens.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
 #include "input/mouse.h"
@@ -185,6 +186,32 @@ TEST_F(BoardOnView, TabEndsTheWinDisplayAndThenGoesOnToTheToolbar)
     QTest::keyClick(Board(), Qt::Key_Tab);
     EXPECT_EQ(WinDisplayRunning, False);
     EXPECT_NE(program.Main->focusWidget(), Board());
+}
+
+TEST_F(BoardOnView, AltAloneLeavesTheLettersOfMenusToTheMenus)
+{
+    const Texts tells{"Kelvarine: Please select a cell."};
+    for (const Qt::KeyboardModifiers held :
+         {Qt::ControlModifier | Qt::ShiftModifier, Qt::AltModifier | Qt::ShiftModifier,
+          Qt::AltModifier | Qt::ControlModifier,
+          Qt::AltModifier | Qt::ControlModifier | Qt::ShiftModifier}) {
+        EXPECT_EQ(CloseModals([&] { QTest::keyClick(Board(), Qt::Key_A, held); }), tells);
+        SnapshotAvailable = False;
+        QTest::keyClick(Board(), Qt::Key_S, held);
+        const bool nothing = held == (Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(SnapshotAvailable, nothing ? False : True) << held.toInt();
+    }
+    SnapshotAvailable = False;
+    program.Main->activateWindow(); // without a window manager a box leaves no window active
+    ASSERT_TRUE(QTest::qWaitForWindowActive(program.Main.get()));
+    EXPECT_EQ(CloseModals([&] { QTest::keyClick(Board(), Qt::Key_A, Qt::AltModifier); }), Texts{});
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->title(), "&Action");
+    menu->close();
+    QTest::keyClick(Board(), Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(SnapshotAvailable, False);
+    EXPECT_EQ(StatisticsOpen, True);
 }
 
 TEST_F(BoardOnView, KeysOfTheDesktopAloneMeanNothing)
