@@ -28,10 +28,6 @@ class Story:
         self.known.append(box)
         return box
 
-    def refuse_to_save(self):
-        self.desktop.key("alt+n")
-        self.desktop.gone(self.box())
-
 
 def make_files(desktop, program):
     """The game of the stories, and what they must not change."""
@@ -87,6 +83,15 @@ def print_dialog(story):
     story.known.append(screen.window)
     screen.press("p", "shift+Tab", "space")
     story.box("^Print$")
+
+
+def print_over(story):
+    """The toolkit's own question, whether to write over a file."""
+    print_dialog(story)
+    story.desktop.key("alt+f", "ctrl+a")
+    story.desktop.type(str(story.desktop.home / "other.sdk"))
+    story.desktop.key("Return")
+    story.box(".")
 
 
 def about(story):
@@ -151,6 +156,17 @@ def hint(story):
     story.box("^Hint$")
 
 
+def place_of_a_hint(story):
+    story.desktop.key("h")
+    story.desktop.answer("alt+y", title="^Hint$")
+    story.box("^Hint$")
+
+
+def no_cell(story):
+    story.desktop.key("ctrl+x")
+    story.box()
+
+
 def clear_statistics(story):
     story.desktop.key("alt+s")
     story.known.append(story.desktop.dialog("^Statistics$"))
@@ -164,6 +180,7 @@ WAYS = {
     "Open Game": open_game,
     "Save Solution(s) As Text File": save_solutions,
     "Print": print_dialog,
+    "the toolkit's own Overwrite box": print_over,
     "About": about,
     "the Overwrite box": overwrite,
     "the Delete box": delete,
@@ -174,6 +191,8 @@ WAYS = {
     "the question about a short text": short_text,
     "the report of the logic": logic_needed,
     "a hint": hint,
+    "the place of a hint": place_of_a_hint,
+    "the notice of no cell": no_cell,
     "the question of the statistics": clear_statistics,
 }
 
