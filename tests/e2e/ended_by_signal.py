@@ -47,7 +47,7 @@ def over_the_question_of_a_search(desktop, program):
     first = desktop.dialog(other_than=[game.window])
     game.process.send_signal(signal.SIGTERM)
     desktop.answer("alt+y", other_than=[game.window, first])
-    desktop.xdotool("windowfocus", "--sync", first)
+    desktop.focus(first)
     desktop.key("alt+y")
     desktop.gone(first)
     expect(game.process.poll() is None, "a signal stops a search and leaves the program")

@@ -224,7 +224,7 @@ def walk_back(desktop, program, end, before=()):
     end(story)
     story.box()
     desktop.key("Escape")
-    desktop.xdotool("windowfocus", "--sync", box)
+    desktop.focus(box)
     desktop.key("alt+n", "ctrl+a")
     desktop.type("evening")
     desktop.key("Return")

@@ -1,13 +1,12 @@
-// Drives a fuzzer without libFuzzer: over a folder of inputs and the long seeds, and then for some
-// seconds over mutations of them. The mutations are the same in every run.
+// Drives a fuzzer without libFuzzer: over a folder of inputs and the long seeds, and then over so many
+// mutations of them, the same in every run.
 //
-//   replay <folder> <seconds>     runs
+//   replay <folder> <mutations>   runs
 //   replay --seeds <folder>       writes the long seeds, for libFuzzer to start from
 #include "fuzz/fuzz.h"
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -86,11 +85,9 @@ void Run(const std::string &input)
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(input.data()), input.size());
 }
 
-int RunMutations(const std::vector<std::string> &inputs, std::chrono::seconds time)
+void RunMutations(const std::vector<std::string> &inputs, unsigned count)
 {
-    const auto end = std::chrono::steady_clock::now() + time;
-    unsigned run = 0;
-    for (; std::chrono::steady_clock::now() < end; ++run) {
+    for (unsigned run = 0; run < count; ++run) {
         Random random(run);
         std::string input = inputs[Below(random, inputs.size())];
         for (std::size_t edits = 1 + Below(random, 8); edits > 0; --edits) {
@@ -98,8 +95,7 @@ int RunMutations(const std::vector<std::string> &inputs, std::chrono::seconds ti
         }
         Run(input);
     }
-    std::cout << inputs.size() << " inputs and " << run << " mutations of them\n";
-    return run > 0 ? 0 : 1;
+    std::cout << inputs.size() << " inputs and " << count << " mutations of them\n";
 }
 
 void WriteSeeds(const std::filesystem::path &folder)
@@ -111,7 +107,7 @@ void WriteSeeds(const std::filesystem::path &folder)
     }
 }
 
-int Replay(const std::filesystem::path &folder, int seconds)
+int Replay(const std::filesystem::path &folder, unsigned mutations)
 {
     std::vector<std::string> inputs = ReadInputs(folder);
     if (inputs.empty()) {
@@ -120,7 +116,8 @@ int Replay(const std::filesystem::path &folder, int seconds)
     }
     std::ranges::move(LongSeeds(), std::back_inserter(inputs));
     std::ranges::for_each(inputs, Run);
-    return RunMutations(inputs, std::chrono::seconds(seconds));
+    RunMutations(inputs, mutations);
+    return 0;
 }
 
 } // namespace
@@ -138,5 +135,5 @@ int main(int argc, char **argv)
         WriteSeeds(argv[2]);
         return 0;
     }
-    return Replay(argv[1], std::stoi(argv[2]));
+    return Replay(argv[1], static_cast<unsigned>(std::stoul(argv[2])));
 }
