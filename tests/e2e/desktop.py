@@ -4,6 +4,7 @@ real program on it, and real key and mouse events.
 Everything that a test learns it learns as a player does, from the pixels of the window and from
 the clipboard."""
 
+import itertools
 import os
 import pathlib
 import select
@@ -203,11 +204,14 @@ class Desktop:
         self.xdotool("type", "--delay", "15", text)
 
     def focus(self, window):
-        """Brings a window to the front and waits until it has the keyboard."""
+        """Brings a window to the front and waits until it has the keyboard. What the manager does not
+        give, as to a window behind a box, is taken from the server."""
+        ways = itertools.chain(["windowactivate"] * 20, itertools.cycle(["windowfocus"]))
+
         def has_focus():
             if self.focused() == window:
                 return True
-            self.run("xdotool", "windowactivate", window, check=False)
+            self.run("xdotool", next(ways), window, check=False)
             return False
         wait_for(has_focus, "a window to get the focus")
         self.settle()
@@ -234,10 +238,10 @@ class Desktop:
         found = self.run("xdotool", "search", "--onlyvisible", "--name", name, check=False)
         return found.decode().split()
 
-    def managed_window(self):
-        """A window that the window manager holds, whatever its name; none as long as there is none."""
+    def managed_windows(self):
+        """The windows that the window manager holds, whatever their names: no menus, no lists."""
         held = self.root.get_full_property(self.server.get_atom("_NET_CLIENT_LIST"), X.AnyPropertyType)
-        return str(held.value[0]) if held and len(held.value) else None
+        return [str(window) for window in held.value] if held else []
 
     def screen(self):
         """A picture of everything on view."""
@@ -287,8 +291,9 @@ class Desktop:
 class Game:
     """The program in its window."""
 
-    def __init__(self, desktop, program, arguments=(), before=()):
-        """Starts the program; the words of a command that is to start it may come before."""
+    def __init__(self, desktop, program, arguments=(), before=(), behind_a_box=False):
+        """Starts the program; the words of a command that is to start it may come before. A window
+        that comes up behind a box of its own is not brought to the front."""
         self.desktop = desktop
         self.lines = DEFAULT_LINES
         self.clicks = 0
@@ -296,7 +301,8 @@ class Game:
             self.process = desktop.start([*before, program, *arguments], stderr=log)
         self.window = wait_for(self.main_window, "the main window")
         desktop.games.append(self)
-        self.focus()
+        if not behind_a_box:
+            self.focus()
 
     def main_window(self):
         expect_alive(self.process)

@@ -28,7 +28,7 @@ def over_the_closing_question(desktop, program):
 
 
 def over_a_message_at_the_start(desktop, program):
-    story = Story(desktop, program, file="broken.sdk")
+    story = Story(desktop, program, file="broken.sdk", behind_a_box=True)
     files = contents(desktop)
     story.known.append(story.game.window)
     story.box()

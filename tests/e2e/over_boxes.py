@@ -12,10 +12,11 @@ SETTINGS = ".config/kelvarine/config.sdu"
 class Story:
     """One run of the program with the game of evening.sdk, modified since."""
 
-    def __init__(self, desktop, program, before=(), file="evening.sdk"):
+    def __init__(self, desktop, program, before=(), file="evening.sdk", behind_a_box=False):
         self.desktop = desktop
         self.known = desktop.windows(".")
-        self.game = Game(desktop, program, arguments=[desktop.home / file], before=before)
+        self.game = Game(desktop, program, arguments=[desktop.home / file], before=before,
+                         behind_a_box=behind_a_box)
 
     def modify(self):
         wait_for(lambda: self.game.copy_line() == PUZZLE, "the game of the file")
@@ -90,8 +91,13 @@ def print_over(story):
     print_dialog(story)
     story.desktop.key("alt+f", "ctrl+a")
     story.desktop.type(str(story.desktop.home / "other.sdk"))
-    story.desktop.key("Return")
-    story.box(".")
+
+    def question():
+        new = [w for w in story.desktop.managed_windows() if w not in story.known]
+        if not new:
+            story.desktop.key("Return")  # the first may only close the list of names that fit
+        return new
+    story.known.append(wait_for(question, "the toolkit's question")[0])
 
 
 def about(story):

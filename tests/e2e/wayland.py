@@ -28,7 +28,7 @@ class WaylandGame:
                  f"--socket={SOCKET}", f"--width={SIZE[0]}", f"--height={SIZE[1]}",
                  "--idle-time=0"], stdout=log, stderr=log)
         wait_for((desktop.home / SOCKET).exists, "the compositor")
-        self.screen = wait_for(desktop.managed_window, "the compositor's window")
+        self.screen = wait_for(desktop.managed_windows, "the compositor's window")[0]
         desktop.focus(self.screen)
         desktop.environment |= {"QT_QPA_PLATFORM": "wayland", "WAYLAND_DISPLAY": SOCKET}
         with open(desktop.evidence / "program.log", "wb") as log:
