@@ -1,5 +1,5 @@
-// Drives a fuzzer without libFuzzer: over a folder of inputs and the long seeds, and then over so many
-// mutations of them, the same in every run.
+// Drives a fuzzer without libFuzzer: over a folder of inputs and the long seeds, and then over so
+// many mutations of them, the same in every run.
 //
 //   replay <folder> <mutations>   runs
 //   replay --seeds <folder>       writes the long seeds, for libFuzzer to start from
