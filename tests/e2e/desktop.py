@@ -163,6 +163,7 @@ class Desktop:
 
     def settle(self):
         """Waits until every program has handled and painted all that was sent to it."""
+        self.games = [game for game in self.games if game.process.poll() is None]
         for game in self.games:
             for _ in range(TURNS):
                 self.ping(game)

@@ -50,8 +50,7 @@ def stops_a_search(desktop, program):
 
     ways = {
         "a key": lambda: desktop.key("5"),
-        "a click": lambda: desktop.xdotool("mousemove", "--window", game.window, 300, 300,
-                                           "click", 1),
+        "a click": lambda: game.click(5, 1),
         "a menu": lambda: desktop.key("alt+a"),
         "closing the window": lambda: desktop.key("alt+F4"),
     }
