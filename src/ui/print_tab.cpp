@@ -67,6 +67,9 @@ Flag FlagOf(bool on)
 class PrintPanel : public QWidget {
 public:
     explicit PrintPanel(QWidget *parent);
+    PrintPanel(const PrintPanel &) = delete;
+    PrintPanel &operator=(const PrintPanel &) = delete;
+    ~PrintPanel() override;
 
     void Refresh();
 
@@ -332,6 +335,11 @@ PrintPanel::PrintPanel(QWidget *parent) : QWidget(parent), on(MakeControls(this)
     ConnectChecks(on, this);
     ConnectMeasures(on, this);
     ConnectOthers(on, this);
+}
+
+PrintPanel::~PrintPanel()
+{
+    hide(); // a box that loses the focus has its panel brought up to date, while that still stands
 }
 
 void PrintPanel::Refresh()
