@@ -4,8 +4,8 @@
 
 #include "grid/grid.h"
 #include "logic/driver.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,10 +1,10 @@
 // How long a full painting of the board takes, by the width of the window and by what is on it.
-#include "board/board.h"
 #include "board/board_painter.h"
 #include "board/geometry.h"
 #include "board/look.h"
 #include "configure/defaults.h"
 #include "grid/grid.h"
+#include "outside/board.h"
 
 #include <QGuiApplication>
 #include <benchmark/benchmark.h>

@@ -2,15 +2,16 @@
 // step of dragging a colour, all alerts at a click, a page of games on paper, and the start of a
 // sound. Every iteration ends with the event loop at rest.
 #include "configure/defaults.h"
-#include "files/folders.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "grid/grid.h"
 #include "input/screen_commands.h"
+#include "outside/folders.h"
+#include "outside/printer.h"
+#include "outside/sound.h"
 #include "ui/configure_screen.h"
 #include "ui/main_window.h"
-#include "ui/presentation.h"
 #include "ui/printer_qt.h"
 
 #include <QAbstractButton>

@@ -14,6 +14,7 @@ SOURCE = pathlib.Path(__file__).resolve().parent.parent / "src"
 # Lower rooms first. Rooms in one row are neighbours that do not include each other.
 ORDER = [
     ["grid"],
+    ["outside"],
     ["logic"],
     ["generator"],
     ["game"],
@@ -27,12 +28,8 @@ ORDER = [
 LEVEL = {room: level for level, rooms in enumerate(ORDER) for room in rooms}
 
 OPEN_DOORS = {
-    "ui/presentation.h",
-    "board/board.h",
     "game/history.h",
     "files/file_commands.h",
-    "files/whole_file.h",
-    "files/folders.h",
 }
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)', re.M)

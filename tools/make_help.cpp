@@ -14,11 +14,11 @@
 #include "board/margin_painter.h"
 #include "configure/defaults.h"
 #include "files/text_format.h"
-#include "files/whole_file.h"
 #include "grid/grid.h"
 #include "input/menu_table.h"
 #include "logic/alerts.h"
 #include "logic/rating.h"
+#include "outside/whole_file.h"
 #include "ui/help_page.h"
 
 #include <QFileInfo>

@@ -1,10 +1,10 @@
 #include "board/banner_painter.h"
 
-#include "board/board.h"
 #include "board/board_painter.h"
 #include "board/geometry.h"
 #include "board/text_painter.h"
 #include "game/win_display.h"
+#include "outside/board.h"
 
 #include <array>
 

@@ -1,12 +1,12 @@
 #include "board/board_painter.h"
 
-#include "board/board.h"
 #include "board/cell_painter.h"
 #include "board/grid_painter.h"
 #include "board/link_painter.h"
 #include "board/number_painter.h"
 #include "game/clock.h"
 #include "grid/grid.h"
+#include "outside/board.h"
 
 #include <algorithm>
 #include <cmath>

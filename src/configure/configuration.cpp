@@ -2,8 +2,6 @@
 
 #include "board/look.h"
 #include "board/margin.h"
-#include "files/folders.h"
-#include "files/whole_file.h"
 #include "game/screens.h"
 #include "generator/generator.h"
 #include "generator/patterns.h"
@@ -11,8 +9,10 @@
 #include "grid/names.h"
 #include "grid/rounding.h"
 #include "logic/event_sound.h"
+#include "outside/folders.h"
+#include "outside/messages.h"
+#include "outside/whole_file.h"
 #include "print/print_settings.h"
-#include "ui/presentation.h"
 
 #include <algorithm>
 #include <array>

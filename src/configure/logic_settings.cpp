@@ -1,10 +1,10 @@
 #include "configure/logic_settings.h"
 
-#include "board/board.h"
 #include "grid/grid.h"
 #include "logic/alerts.h"
 #include "logic/rating.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/window.h"
 
 namespace kelvarine {
 

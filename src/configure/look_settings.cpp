@@ -1,8 +1,8 @@
 #include "configure/look_settings.h"
 
-#include "board/board.h"
 #include "board/margin.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/window.h"
 
 namespace kelvarine {
 

@@ -1,7 +1,7 @@
 #include "configure/naming_settings.h"
 
 #include "grid/names.h"
-#include "ui/presentation.h"
+#include "outside/window.h"
 
 namespace kelvarine {
 

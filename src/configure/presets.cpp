@@ -2,7 +2,7 @@
 
 #include "board/look.h"
 #include "board/margin.h"
-#include "ui/presentation.h"
+#include "outside/window.h"
 
 #include <algorithm>
 #include <array>

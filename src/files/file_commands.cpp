@@ -1,12 +1,13 @@
 #include "files/file_commands.h"
 
-#include "board/board.h"
 #include "files/file_dialog.h"
 #include "files/game_file.h"
 #include "files/text_case.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/messages.h"
+#include "outside/window.h"
 
 namespace kelvarine {
 

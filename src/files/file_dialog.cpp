@@ -1,10 +1,11 @@
 #include "files/file_dialog.h"
 
-#include "files/folders.h"
 #include "files/text_case.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
-#include "ui/presentation.h"
+#include "outside/file_dialog.h"
+#include "outside/folders.h"
+#include "outside/messages.h"
 
 #include <cerrno>
 #include <cstdint>

@@ -2,13 +2,13 @@
 
 #include "files/text_case.h"
 #include "files/text_format.h"
-#include "files/whole_file.h"
 #include "game/clock.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "generator/game_number.h"
 #include "grid/grid.h"
-#include "ui/presentation.h"
+#include "outside/messages.h"
+#include "outside/whole_file.h"
 
 #include <algorithm>
 #include <array>

@@ -1,10 +1,10 @@
 #include "files/solutions_file.h"
 
 #include "files/file_dialog.h"
-#include "files/whole_file.h"
 #include "game/lifecycle.h"
 #include "game/solutions.h"
-#include "ui/presentation.h"
+#include "outside/messages.h"
+#include "outside/whole_file.h"
 
 namespace kelvarine {
 

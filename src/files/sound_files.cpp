@@ -1,7 +1,7 @@
 #include "files/sound_files.h"
 
-#include "files/folders.h"
 #include "logic/event_sound.h"
+#include "outside/folders.h"
 
 #include <algorithm>
 #include <cstdint>

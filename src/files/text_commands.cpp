@@ -1,11 +1,13 @@
 #include "files/text_commands.h"
 
-#include "board/board.h"
 #include "files/text_case.h"
 #include "files/text_format.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/clipboard.h"
+#include "outside/messages.h"
+#include "outside/window.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,5 @@
 #include "game/assistance.h"
 
-#include "board/board.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/solutions.h"
@@ -9,7 +8,8 @@
 #include "logic/driver.h"
 #include "logic/rating.h"
 #include "logic/technique.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/messages.h"
 
 #include <algorithm>
 

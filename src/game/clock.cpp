@@ -1,9 +1,11 @@
 #include "game/clock.h"
 
-#include "board/board.h"
 #include "grid/grid.h"
 #include "grid/rounding.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/messages.h"
+#include "outside/timers.h"
+#include "outside/window.h"
 
 #include <algorithm>
 #include <cmath>

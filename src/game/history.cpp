@@ -1,12 +1,13 @@
 #include "game/history.h"
 
-#include "board/board.h"
 #include "game/lifecycle.h"
 #include "game/solutions.h"
 #include "grid/grid.h"
 #include "logic/event_sound.h"
 #include "logic/rating.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/sound.h"
+#include "outside/window.h"
 
 #include <algorithm>
 

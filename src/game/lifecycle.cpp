@@ -1,6 +1,5 @@
 #include "game/lifecycle.h"
 
-#include "board/board.h"
 #include "files/file_commands.h"
 #include "game/clock.h"
 #include "game/history.h"
@@ -13,7 +12,11 @@
 #include "logic/event_sound.h"
 #include "logic/rating.h"
 #include "logic/technique.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/events.h"
+#include "outside/messages.h"
+#include "outside/sound.h"
+#include "outside/window.h"
 
 namespace kelvarine {
 

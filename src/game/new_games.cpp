@@ -1,6 +1,5 @@
 #include "game/new_games.h"
 
-#include "board/board.h"
 #include "game/game_in_hand.h"
 #include "game/lifecycle.h"
 #include "generator/game_number.h"
@@ -8,7 +7,9 @@
 #include "generator/patterns.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/messages.h"
+#include "outside/window.h"
 
 #include <memory>
 #include <string>

@@ -1,10 +1,10 @@
 #include "game/solutions.h"
 
-#include "board/board.h"
 #include "game/screens.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/screens.h"
 
 namespace kelvarine {
 

@@ -1,12 +1,13 @@
 #include "game/statistics.h"
 
-#include "files/folders.h"
-#include "files/whole_file.h"
 #include "game/clock.h"
 #include "game/screens.h"
 #include "grid/grid.h"
 #include "grid/rounding.h"
-#include "ui/presentation.h"
+#include "outside/folders.h"
+#include "outside/messages.h"
+#include "outside/screens.h"
+#include "outside/whole_file.h"
 
 #include <algorithm>
 #include <cmath>

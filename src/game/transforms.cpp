@@ -1,8 +1,8 @@
 #include "game/transforms.h"
 
-#include "board/board.h"
 #include "game/history.h"
 #include "grid/grid.h"
+#include "outside/board.h"
 
 namespace kelvarine {
 

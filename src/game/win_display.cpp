@@ -1,9 +1,11 @@
 #include "game/win_display.h"
 
-#include "board/board.h"
 #include "grid/grid.h"
 #include "grid/rounding.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/events.h"
+#include "outside/sound.h"
+#include "outside/timers.h"
 
 #include <algorithm>
 #include <cstdlib>

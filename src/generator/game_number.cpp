@@ -2,7 +2,7 @@
 
 #include "generator/random_source.h"
 #include "grid/rounding.h"
-#include "ui/presentation.h"
+#include "outside/messages.h"
 
 #include <algorithm>
 #include <string>

@@ -1,11 +1,11 @@
 #include "generator/generator.h"
 
-#include "board/board.h"
 #include "generator/patterns.h"
 #include "generator/random_source.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
 #include "logic/rating.h"
+#include "outside/board.h"
 
 #include <algorithm>
 #include <array>

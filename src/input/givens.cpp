@@ -5,7 +5,7 @@
 #include "game/solutions.h"
 #include "grid/grid.h"
 #include "logic/rating.h"
-#include "ui/presentation.h"
+#include "outside/messages.h"
 
 namespace kelvarine {
 

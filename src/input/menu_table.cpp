@@ -1,6 +1,5 @@
 #include "input/menu_table.h"
 
-#include "board/board.h"
 #include "board/look.h"
 #include "files/file_commands.h"
 #include "files/text_commands.h"
@@ -22,7 +21,9 @@
 #include "input/selection.h"
 #include "input/toolbar.h"
 #include "logic/rating.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/screens.h"
+#include "outside/window.h"
 
 #include <array>
 

@@ -1,6 +1,5 @@
 #include "input/mouse.h"
 
-#include "board/board.h"
 #include "board/geometry.h"
 #include "board/look.h"
 #include "game/history.h"
@@ -8,6 +7,7 @@
 #include "grid/grid.h"
 #include "grid/rounding.h"
 #include "input/keys.h"
+#include "outside/board.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,9 +1,9 @@
 #include "input/number_keys.h"
 
-#include "board/board.h"
 #include "game/history.h"
 #include "grid/grid.h"
 #include "logic/technique.h"
+#include "outside/board.h"
 
 namespace kelvarine {
 

@@ -1,7 +1,8 @@
 #include "input/screen_commands.h"
 
 #include "game/screens.h"
-#include "ui/presentation.h"
+#include "outside/help.h"
+#include "outside/screens.h"
 
 namespace kelvarine {
 

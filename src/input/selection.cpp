@@ -1,8 +1,8 @@
 #include "input/selection.h"
 
-#include "board/board.h"
 #include "grid/grid.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/messages.h"
 
 #include <algorithm>
 #include <string>

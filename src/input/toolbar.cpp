@@ -1,6 +1,5 @@
 #include "input/toolbar.h"
 
-#include "board/board.h"
 #include "board/look.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
@@ -11,7 +10,8 @@
 #include "input/tool_tips.h"
 #include "logic/alerts.h"
 #include "logic/technique.h"
-#include "ui/presentation.h"
+#include "outside/board.h"
+#include "outside/window.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #include "logic/event_sound.h"
 #include "logic/technique.h"
 #include "logic/technique_table.h"
-#include "ui/presentation.h"
+#include "outside/events.h"
 
 namespace kelvarine {
 

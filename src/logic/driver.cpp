@@ -5,7 +5,10 @@
 #include "logic/solvability.h"
 #include "logic/technique.h"
 #include "logic/technique_table.h"
-#include "ui/presentation.h"
+#include "outside/events.h"
+#include "outside/messages.h"
+#include "outside/screens.h"
+#include "outside/sound.h"
 
 #include <algorithm>
 #include <array>

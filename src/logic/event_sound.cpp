@@ -1,6 +1,6 @@
 #include "logic/event_sound.h"
 
-#include "ui/presentation.h"
+#include "outside/sound.h"
 
 namespace kelvarine {
 

@@ -4,7 +4,7 @@
 #include "logic/driver.h"
 #include "logic/technique.h"
 #include "logic/technique_table.h"
-#include "ui/presentation.h"
+#include "outside/messages.h"
 
 #include <array>
 #include <string>

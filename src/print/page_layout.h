@@ -4,7 +4,7 @@
 #pragma once
 
 #include "board/geometry.h"
-#include "ui/presentation.h"
+#include "outside/printer.h"
 
 #include <array>
 #include <cstdint>

@@ -1,6 +1,5 @@
 #include "print/print_run.h"
 
-#include "board/board.h"
 #include "board/margin.h"
 #include "game/game_in_hand.h"
 #include "game/new_games.h"
@@ -8,9 +7,12 @@
 #include "grid/grid.h"
 #include "input/keys.h"
 #include "logic/driver.h"
+#include "outside/board.h"
+#include "outside/messages.h"
+#include "outside/printer.h"
+#include "outside/window.h"
 #include "print/page_layout.h"
 #include "print/print_settings.h"
-#include "ui/presentation.h"
 
 #include <array>
 #include <memory>

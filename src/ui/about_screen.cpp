@@ -1,6 +1,7 @@
 // The screen that tells name, version and licence of the program.
+#include "outside/messages.h"
+#include "outside/screens.h"
 #include "ui/main_window.h"
-#include "ui/presentation.h"
 #include "ui/text.h"
 
 #include <QCoreApplication>

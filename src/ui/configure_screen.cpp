@@ -2,6 +2,7 @@
 
 #include "game/screens.h"
 #include "grid/grid.h"
+#include "outside/screens.h"
 #include "ui/colours_tab.h"
 #include "ui/configure_controls.h"
 #include "ui/coordinates_tab.h"
@@ -11,7 +12,6 @@
 #include "ui/main_window.h"
 #include "ui/new_games_tab.h"
 #include "ui/placing.h"
-#include "ui/presentation.h"
 #include "ui/preset_tab.h"
 #include "ui/print_tab.h"
 #include "ui/sound_tab.h"

@@ -2,10 +2,11 @@
 
 #include "files/file_dialog.h"
 #include "game/screens.h"
+#include "outside/file_dialog.h"
+#include "outside/help.h"
 #include "ui/help_key.h"
 #include "ui/main_window.h"
 #include "ui/placing.h"
-#include "ui/presentation.h"
 
 #include <QComboBox>
 #include <QDir>

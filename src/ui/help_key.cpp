@@ -2,8 +2,8 @@
 
 #include "grid/grid.h"
 #include "input/keys.h"
+#include "outside/help.h"
 #include "ui/main_window.h"
-#include "ui/presentation.h"
 
 #include <QApplication>
 #include <QKeyEvent>

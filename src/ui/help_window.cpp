@@ -1,7 +1,9 @@
 #include "ui/help_window.h"
 
+#include "outside/clipboard.h"
+#include "outside/help.h"
+#include "outside/messages.h"
 #include "ui/help_page.h"
-#include "ui/presentation.h"
 
 #include <QAction>
 #include <QApplication>

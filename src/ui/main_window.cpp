@@ -1,6 +1,5 @@
 #include "ui/main_window.h"
 
-#include "board/board.h"
 #include "board/board_painter.h"
 #include "board/geometry.h"
 #include "board/look.h"
@@ -15,11 +14,12 @@
 #include "input/mouse.h"
 #include "input/toolbar.h"
 #include "logic/driver.h"
+#include "outside/board.h"
+#include "outside/sound.h"
 #include "ui/board_widget.h"
 #include "ui/key_decoder.h"
 #include "ui/menus.h"
 #include "ui/placing.h"
-#include "ui/presentation.h"
 #include "ui/toolbar_widget.h"
 
 #include <QCloseEvent>

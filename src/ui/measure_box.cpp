@@ -1,7 +1,7 @@
 #include "ui/measure_box.h"
 
+#include "outside/printer.h"
 #include "print/page_layout.h"
-#include "ui/presentation.h"
 
 #include <QKeyEvent>
 

@@ -1,11 +1,15 @@
 // The seam to the world, over the toolkit.
-#include "board/board.h"
 #include "board/board_painter.h"
+#include "outside/board.h"
+#include "outside/clipboard.h"
+#include "outside/events.h"
+#include "outside/messages.h"
+#include "outside/timers.h"
+#include "outside/window.h"
 #include "ui/board_accessible.h"
 #include "ui/board_widget.h"
 #include "ui/box_place.h"
 #include "ui/main_window.h"
-#include "ui/presentation.h"
 #include "ui/print_tab.h"
 #include "ui/toolbar_widget.h"
 

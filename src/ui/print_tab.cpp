@@ -1,12 +1,12 @@
 #include "ui/print_tab.h"
 
 #include "configure/box_number.h"
+#include "outside/printer.h"
 #include "print/page_layout.h"
 #include "print/print_run.h"
 #include "print/print_settings.h"
 #include "ui/digit_box.h"
 #include "ui/measure_box.h"
-#include "ui/presentation.h"
 #include "ui/print_preview.h"
 
 #include <QAbstractButton>

@@ -1,9 +1,10 @@
 #include "ui/printer_qt.h"
 
 #include "board/text_painter.h"
-#include "files/whole_file.h"
+#include "outside/messages.h"
+#include "outside/printer.h"
+#include "outside/whole_file.h"
 #include "print/print_painter.h"
-#include "ui/presentation.h"
 
 #include <QApplication>
 #include <QBuffer>

@@ -9,9 +9,10 @@
 #include "game/statistics.h"
 #include "generator/random_source.h"
 #include "input/toolbar.h"
+#include "outside/events.h"
+#include "outside/screens.h"
 #include "ui/help_key.h"
 #include "ui/main_window.h"
-#include "ui/presentation.h"
 #include "ui/session.h"
 
 #include <QApplication>

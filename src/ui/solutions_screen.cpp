@@ -5,9 +5,9 @@
 #include "game/solutions.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
+#include "outside/screens.h"
 #include "ui/main_window.h"
 #include "ui/placing.h"
-#include "ui/presentation.h"
 #include "ui/text.h"
 
 #include <QButtonGroup>

@@ -1,10 +1,11 @@
 // Sound over the toolkit: one at a time, its samples pulled by the device as it needs them. The
 // toolkit's own class for short sounds waits for its loading thread, now and then for ever, so the
 // files are read here.
+#include "outside/sound.h"
+
 #include "files/sound_files.h"
 #include "files/wave_file.h"
-#include "files/whole_file.h"
-#include "ui/presentation.h"
+#include "outside/whole_file.h"
 
 #include <QAudioDevice>
 #include <QAudioFormat>

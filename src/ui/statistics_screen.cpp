@@ -1,8 +1,8 @@
 #include "ui/statistics_screen.h"
 
+#include "outside/screens.h"
 #include "ui/main_window.h"
 #include "ui/placing.h"
-#include "ui/presentation.h"
 #include "ui/text.h"
 
 #include <QCloseEvent>

@@ -1,7 +1,7 @@
-#include "board/board.h"
 #include "board/board_painter.h"
 #include "board/text_painter.h"
 #include "grid/grid.h"
+#include "outside/board.h"
 #include "support/pixels.h"
 #include "support/positions.h"
 

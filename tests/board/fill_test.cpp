@@ -1,6 +1,6 @@
 #include "board/fill.h"
 #include "grid/grid.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include <gtest/gtest.h>
 

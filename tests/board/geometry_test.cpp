@@ -1,6 +1,6 @@
 #include "board/geometry.h"
 #include "board/look.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 #include "board/links.h"
 #include "board/look.h"
 #include "grid/grid.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

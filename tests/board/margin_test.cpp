@@ -2,7 +2,7 @@
 #include "board/margin.h"
 #include "grid/grid.h"
 #include "grid/names.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include <gtest/gtest.h>
 

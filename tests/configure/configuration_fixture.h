@@ -4,7 +4,7 @@
 #include "configure/configuration.h"
 #include "configure/configuration_bytes.h"
 #include "logic/event_sound.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 #include "support/settings_folder.h"
 
 #include <gtest/gtest.h>

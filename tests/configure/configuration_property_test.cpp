@@ -8,7 +8,7 @@
 #include "grid/names.h"
 #include "logic/event_sound.h"
 #include "print/print_settings.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 #include "support/settings_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "board/margin.h"
 #include "configure/look_settings.h"
+#include "support/outside_double.h"
 #include "support/play.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "configure/naming_settings.h"
 #include "grid/names.h"
+#include "support/outside_double.h"
 #include "support/play.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "configure/new_game_settings.h"
 #include "generator/generator.h"
+#include "support/outside_double.h"
 #include "support/play.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

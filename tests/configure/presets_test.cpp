@@ -2,8 +2,8 @@
 #include "board/look.h"
 #include "board/margin.h"
 #include "configure/presets.h"
+#include "support/outside_double.h"
 #include "support/play.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

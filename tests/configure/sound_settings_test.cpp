@@ -1,6 +1,6 @@
 #include "configure/sound_settings.h"
+#include "support/outside_double.h"
 #include "support/play.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

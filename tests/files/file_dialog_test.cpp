@@ -1,9 +1,9 @@
 #include "files/file_dialog.h"
-#include "files/folders.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
+#include "outside/folders.h"
+#include "support/outside_double.h"
 #include "support/play.h"
-#include "support/presentation_double.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

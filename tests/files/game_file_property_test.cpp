@@ -8,8 +8,8 @@
 #include "grid/grid.h"
 #include "input/keys.h"
 #include "input/mouse.h"
+#include "support/outside_double.h"
 #include "support/play.h"
-#include "support/presentation_double.h"
 #include "support/random_positions.h"
 #include "support/temporary_folder.h"
 

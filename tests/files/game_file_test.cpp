@@ -5,9 +5,9 @@
 #include "game/win_display.h"
 #include "generator/game_number.h"
 #include "grid/grid.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

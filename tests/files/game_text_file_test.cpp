@@ -3,9 +3,9 @@
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

@@ -6,8 +6,8 @@
 #include "generator/game_number.h"
 #include "grid/grid.h"
 #include "support/child_process.h"
+#include "support/outside_double.h"
 #include "support/play.h"
-#include "support/presentation_double.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

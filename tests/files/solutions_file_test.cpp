@@ -1,12 +1,12 @@
 #include "files/file_dialog.h"
-#include "files/folders.h"
 #include "files/solutions_file.h"
-#include "files/whole_file.h"
 #include "game/lifecycle.h"
 #include "game/solutions.h"
 #include "grid/grid.h"
+#include "outside/folders.h"
+#include "outside/whole_file.h"
 #include "support/driver_games.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "files/folders.h"
 #include "files/sound_files.h"
 #include "logic/event_sound.h"
-#include "support/presentation_double.h"
+#include "outside/folders.h"
+#include "support/outside_double.h"
 #include "support/settings_folder.h"
 
 #include <gtest/gtest.h>

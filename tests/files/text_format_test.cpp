@@ -1,8 +1,8 @@
 #include "files/text_format.h"
 #include "grid/grid.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "files/wave_file.h"
-#include "files/whole_file.h"
+#include "outside/whole_file.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "fuzz/fuzz.h"
 
-#include "board/board.h"
 #include "board/board_painter.h"
 #include "board/geometry.h"
 #include "grid/grid.h"
-#include "support/presentation_double.h"
+#include "outside/board.h"
+#include "support/outside_double.h"
 
 #include <QGuiApplication>
 

@@ -3,9 +3,9 @@
 #include "game/win_display.h"
 #include "grid/grid.h"
 #include "logic/event_sound.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

@@ -8,8 +8,8 @@
 #include "generator/random_source.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

@@ -6,9 +6,9 @@
 #include "grid/grid.h"
 #include "logic/driver.h"
 #include "support/driver_games.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/random_grids.h"
 
 #include <gtest/gtest.h>

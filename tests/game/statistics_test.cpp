@@ -1,13 +1,13 @@
-#include "files/whole_file.h"
 #include "game/clock.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "game/statistics.h"
 #include "grid/grid.h"
+#include "outside/whole_file.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

@@ -4,9 +4,9 @@
 #include "game/transforms.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/random_grids.h"
 
 #include <gtest/gtest.h>

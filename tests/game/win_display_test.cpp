@@ -4,9 +4,9 @@
 #include "grid/grid.h"
 #include "grid/rounding.h"
 #include "input/keys.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "generator/game_number.h"
 #include "generator/random_source.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include <gtest/gtest.h>
 

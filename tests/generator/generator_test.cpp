@@ -3,8 +3,8 @@
 #include "generator/random_source.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/solution_counter.h"
 
 #include <gtest/gtest.h>

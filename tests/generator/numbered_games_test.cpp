@@ -2,8 +2,8 @@
 #include "game/new_games.h"
 #include "generator/generator.h"
 #include "grid/grid.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

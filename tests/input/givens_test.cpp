@@ -4,9 +4,9 @@
 #include "grid/grid.h"
 #include "input/givens.h"
 #include "logic/rating.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/solution_counter.h"
 
 #include <gtest/gtest.h>

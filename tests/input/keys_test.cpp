@@ -1,4 +1,3 @@
-#include "board/board.h"
 #include "board/geometry.h"
 #include "files/file_commands.h"
 #include "files/text_commands.h"
@@ -22,11 +21,13 @@
 #include "logic/driver.h"
 #include "logic/event_sound.h"
 #include "logic/rating.h"
+#include "outside/board.h"
+#include "outside/messages.h"
+#include "outside/window.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/scenario.h"
-#include "ui/presentation.h"
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,8 @@
 #include "grid/grid.h"
 #include "input/keys.h"
 #include "input/menu_table.h"
+#include "support/outside_double.h"
 #include "support/play.h"
-#include "support/presentation_double.h"
 #include "support/scenario.h"
 
 #include <gtest/gtest.h>

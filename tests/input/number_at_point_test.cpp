@@ -2,7 +2,7 @@
 #include "board/look.h"
 #include "grid/grid.h"
 #include "input/mouse.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include <gtest/gtest.h>
 

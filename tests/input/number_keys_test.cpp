@@ -1,8 +1,8 @@
 #include "grid/grid.h"
 #include "input/number_keys.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

@@ -7,9 +7,9 @@
 #include "grid/grid.h"
 #include "input/mouse.h"
 #include "logic/driver.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "game/screens.h"
 #include "input/screen_commands.h"
+#include "support/outside_double.h"
 #include "support/play.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

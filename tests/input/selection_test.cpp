@@ -3,9 +3,9 @@
 #include "grid/grid.h"
 #include "input/keys.h"
 #include "input/selection.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

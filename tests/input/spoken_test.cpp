@@ -3,8 +3,8 @@
 #include "grid/grid.h"
 #include "input/mouse.h"
 #include "input/spoken.h"
+#include "support/outside_double.h"
 #include "support/play.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

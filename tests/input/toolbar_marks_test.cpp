@@ -5,9 +5,9 @@
 #include "grid/grid.h"
 #include "input/keys.h"
 #include "input/toolbar.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

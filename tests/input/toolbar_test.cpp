@@ -1,4 +1,3 @@
-#include "board/board.h"
 #include "board/look.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
@@ -9,9 +8,10 @@
 #include "input/toolbar.h"
 #include "logic/alerts.h"
 #include "logic/driver.h"
+#include "outside/board.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/scenario.h"
 
 #include <gtest/gtest.h>

@@ -2,8 +2,8 @@
 #include "grid/names.h"
 #include "logic/alerts.h"
 #include "logic/event_sound.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/random_positions.h"
 #include "support/traces.h"
 

@@ -9,8 +9,8 @@
 #include "logic/remote_pairs.h"
 #include "logic/singles_chains.h"
 #include "logic/xy_chains.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

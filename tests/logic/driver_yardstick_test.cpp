@@ -5,8 +5,8 @@
 #include "grid/grid.h"
 #include "logic/driver.h"
 #include "logic/plain/driver.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/random_positions.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "logic/event_sound.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include <gtest/gtest.h>
 

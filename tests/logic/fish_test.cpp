@@ -1,8 +1,8 @@
 #include "grid/names.h"
 #include "logic/fish.h"
 #include "logic/technique.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/technique_calls.h"
 
 #include <gtest/gtest.h>

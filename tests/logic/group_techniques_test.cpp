@@ -4,8 +4,8 @@
 #include "logic/driver.h"
 #include "logic/technique.h"
 #include "logic/technique_table.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/technique_calls.h"
 
 #include <gtest/gtest.h>

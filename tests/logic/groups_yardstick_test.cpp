@@ -9,8 +9,8 @@
 #include "logic/plain/hidden_groups.h"
 #include "logic/plain/intersections.h"
 #include "logic/plain/naked_groups.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/random_grids.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 #include "logic/hinge_wings.h"
 #include "logic/technique_outcome.h"
 #include "logic/technique_table.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 #include "grid/grid.h"
 #include "logic/driver.h"
 #include "logic/rating.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/random_positions.h"
 #include "support/solution_counter.h"
 

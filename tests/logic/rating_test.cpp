@@ -3,8 +3,8 @@
 #include "logic/driver.h"
 #include "logic/rating.h"
 #include "support/driver_games.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "grid/names.h"
 #include "logic/remote_pairs.h"
 #include "logic/technique_outcome.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include <gtest/gtest.h>
 

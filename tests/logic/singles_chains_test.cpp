@@ -2,7 +2,7 @@
 #include "logic/plain/singles_chains.h"
 #include "logic/singles_chains.h"
 #include "logic/technique_outcome.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "grid/grid.h"
 #include "logic/singles.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 #include "support/traces.h"
 
 #include <gtest/gtest.h>

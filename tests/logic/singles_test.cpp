@@ -1,8 +1,8 @@
 #include "grid/grid.h"
 #include "grid/names.h"
 #include "logic/singles.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/traces.h"
 
 #include <gtest/gtest.h>

@@ -4,8 +4,8 @@
 #include "grid/grid.h"
 #include "logic/plain/singles.h"
 #include "logic/singles.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/random_positions.h"
 
 #include <gtest/gtest.h>

@@ -5,9 +5,9 @@
 #include "logic/rating.h"
 #include "logic/solvability.h"
 #include "logic/technique.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/random_positions.h"
 #include "support/solution_counter.h"
 

@@ -7,8 +7,8 @@
 #include "logic/singles_chains.h"
 #include "logic/technique.h"
 #include "logic/technique_table.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 #include "support/random_positions.h"
 
 #include <gtest/gtest.h>

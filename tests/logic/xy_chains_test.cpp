@@ -2,7 +2,7 @@
 #include "logic/technique_outcome.h"
 #include "logic/technique_table.h"
 #include "logic/xy_chains.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include <gtest/gtest.h>
 

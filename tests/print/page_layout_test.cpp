@@ -2,7 +2,7 @@
 #include "board/look.h"
 #include "print/page_layout.h"
 #include "print/print_settings.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include <gtest/gtest.h>
 

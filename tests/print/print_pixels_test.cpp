@@ -2,10 +2,10 @@
 #include "game/clock.h"
 #include "print/page_layout.h"
 #include "print/print_painter.h"
+#include "support/outside_double.h"
 #include "support/pixels.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

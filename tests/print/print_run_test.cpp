@@ -8,9 +8,9 @@
 #include "print/page_layout.h"
 #include "print/print_run.h"
 #include "print/print_settings.h"
+#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <gtest/gtest.h>
 

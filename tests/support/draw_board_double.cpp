@@ -1,6 +1,6 @@
 // The painting of the board as the engine's tests see it: it is only recorded.
-#include "board/board.h"
-#include "support/presentation_double.h"
+#include "outside/board.h"
+#include "support/outside_double.h"
 
 namespace kelvarine {
 

@@ -1,7 +1,7 @@
 #include "support/pixels.h"
 
 #include "board/board_painter.h"
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include <algorithm>
 #include <cmath>

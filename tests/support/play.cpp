@@ -8,8 +8,8 @@
 #include "generator/game_number.h"
 #include "input/mouse.h"
 #include "input/toolbar.h"
+#include "support/outside_double.h"
 #include "support/positions.h"
-#include "support/presentation_double.h"
 
 #include <algorithm>
 #include <sstream>

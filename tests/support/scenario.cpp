@@ -4,8 +4,8 @@
 #include "game/lifecycle.h"
 #include "generator/random_source.h"
 #include "grid/grid.h"
+#include "support/outside_double.h"
 #include "support/play.h"
-#include "support/presentation_double.h"
 
 namespace kelvarine::testing {
 

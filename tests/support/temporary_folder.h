@@ -1,7 +1,7 @@
 // A folder of a test's own, gone with it.
 #pragma once
 
-#include "files/whole_file.h"
+#include "outside/whole_file.h"
 
 #include <gtest/gtest.h>
 

@@ -1,13 +1,13 @@
 #include "support/widget_configure.h"
 
-#include "board/board.h"
 #include "board/board_painter.h"
 #include "board/geometry.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
+#include "outside/board.h"
+#include "outside/screens.h"
 #include "support/positions.h"
-#include "ui/presentation.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>

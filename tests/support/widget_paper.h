@@ -2,7 +2,7 @@
 #pragma once
 
 #include "grid/grid.h"
-#include "ui/presentation.h"
+#include "outside/printer.h"
 
 #include <QImage>
 

@@ -1,5 +1,5 @@
+#include "outside/screens.h"
 #include "support/widget_program.h"
-#include "ui/presentation.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -2,9 +2,10 @@
 #include "game/screens.h"
 #include "game/solutions.h"
 #include "game/statistics.h"
+#include "outside/help.h"
+#include "outside/screens.h"
 #include "support/widget_program.h"
 #include "ui/file_dialog_qt.h"
-#include "ui/presentation.h"
 
 #include <QAccessible>
 #include <QApplication>

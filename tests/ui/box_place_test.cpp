@@ -1,7 +1,7 @@
+#include "outside/messages.h"
 #include "support/widget_program.h"
 #include "ui/board_widget.h"
 #include "ui/box_place.h"
-#include "ui/presentation.h"
 
 #include <QApplication>
 #include <QScreen>

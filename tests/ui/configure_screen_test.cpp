@@ -5,7 +5,6 @@
 #include "input/screen_commands.h"
 #include "support/widget_configure.h"
 #include "support/widget_paints.h"
-#include "ui/presentation.h"
 #include "ui/tab_strip.h"
 
 #include <QAbstractButton>

@@ -8,7 +8,6 @@
 #include "support/widget_program.h"
 #include "ui/file_dialog_qt.h"
 #include "ui/help_window.h"
-#include "ui/presentation.h"
 
 #include <QComboBox>
 #include <QLabel>

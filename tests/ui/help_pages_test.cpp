@@ -6,11 +6,11 @@
 #include "input/menu_table.h"
 #include "logic/alerts.h"
 #include "logic/technique_table.h"
+#include "outside/clipboard.h"
 #include "support/positions.h"
 #include "support/widget_program.h"
 #include "ui/help_collection.h"
 #include "ui/help_page.h"
-#include "ui/presentation.h"
 
 #include <QFile>
 #include <QHelpLink>

@@ -1,12 +1,13 @@
 #include "files/file_dialog.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
+#include "outside/clipboard.h"
+#include "outside/help.h"
 #include "support/widget_program.h"
 #include "ui/board_widget.h"
 #include "ui/file_dialog_qt.h"
 #include "ui/help_key.h"
 #include "ui/help_window.h"
-#include "ui/presentation.h"
 #include "ui/program_icon.h"
 
 #include <QAccessible>

@@ -8,12 +8,13 @@
 #include "game/win_display.h"
 #include "grid/grid.h"
 #include "input/toolbar.h"
+#include "outside/screens.h"
+#include "outside/window.h"
 #include "support/widget_configure.h"
 #include "support/widget_paints.h"
 #include "ui/board_widget.h"
 #include "ui/colours_tab.h"
 #include "ui/palette_picture.h"
-#include "ui/presentation.h"
 #include "ui/preset_pictures.h"
 
 #include <QAbstractButton>

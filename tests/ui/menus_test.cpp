@@ -15,7 +15,6 @@
 #include "support/widget_events.h"
 #include "support/widget_program.h"
 #include "ui/board_widget.h"
-#include "ui/presentation.h"
 
 #include <QClipboard>
 #include <QMenu>

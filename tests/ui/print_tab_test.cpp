@@ -1,7 +1,7 @@
-#include "board/board.h"
 #include "game/lifecycle.h"
 #include "generator/generator.h"
 #include "logic/driver.h"
+#include "outside/board.h"
 #include "print/page_layout.h"
 #include "print/print_run.h"
 #include "print/print_settings.h"

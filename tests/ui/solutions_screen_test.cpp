@@ -1,15 +1,15 @@
-#include "files/whole_file.h"
 #include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "game/solutions.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
+#include "outside/screens.h"
+#include "outside/whole_file.h"
 #include "support/driver_games.h"
 #include "support/positions.h"
 #include "support/widget_program.h"
 #include "ui/board_widget.h"
-#include "ui/presentation.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 // Sounds on the toolkit, on whatever device there is, none included.
-#include "files/folders.h"
+#include "outside/folders.h"
+#include "outside/sound.h"
 #include "support/settings_folder.h"
-#include "ui/presentation.h"
 
 #include <QApplication>
 #include <QAudioSink>

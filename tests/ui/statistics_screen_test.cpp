@@ -1,11 +1,10 @@
-#include "files/whole_file.h"
 #include "game/clock.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "game/statistics.h"
 #include "grid/grid.h"
+#include "outside/whole_file.h"
 #include "support/widget_program.h"
-#include "ui/presentation.h"
 
 #include <QApplication>
 #include <QGroupBox>

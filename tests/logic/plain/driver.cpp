@@ -5,7 +5,8 @@
 #include "logic/driver.h"
 #include "logic/plain/singles.h"
 #include "logic/technique_table.h"
-#include "ui/presentation.h"
+#include "outside/events.h"
+#include "outside/messages.h"
 
 #include <string>
 #include <vector>

@@ -3,7 +3,8 @@
 #pragma once
 
 #include "grid/grid.h"
-#include "ui/presentation.h"
+#include "outside/messages.h"
+#include "outside/printer.h"
 
 #include <deque>
 #include <functional>

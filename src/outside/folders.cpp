@@ -1,4 +1,4 @@
-#include "files/folders.h"
+#include "outside/folders.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "support/presentation_double.h"
+#include "support/outside_double.h"
 
 #include "configure/defaults.h"
 #include "files/file_dialog.h"

@@ -1,5 +1,5 @@
-#include "files/folders.h"
-#include "files/whole_file.h"
+#include "outside/folders.h"
+#include "outside/whole_file.h"
 
 #include <gtest/gtest.h>
 

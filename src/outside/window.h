@@ -1,0 +1,27 @@
+// The main window: title, captions, margin, toolbar, and where the keyboard goes.
+#pragma once
+
+#include <string_view>
+
+namespace kelvarine {
+
+// Sets the title, in UTF-8.
+void SetWindowTitle(std::string_view title);
+
+// Brings the captions of the clock's menu and its entries up to date. All other entries follow the
+// state whenever their menu opens.
+void UpdateCaptions();
+
+// Repaints the margin with its texts.
+void RefreshWindow();
+
+// Brings the toolbar's buttons in line with ToolButtons.
+void UpdateToolbar();
+
+// Gives the keyboard to the board.
+void FocusBoard();
+
+// Lays the window out anew, paints the board and refreshes the window.
+void ResizeWindow();
+
+} // namespace kelvarine
