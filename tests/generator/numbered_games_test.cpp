@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace kelvarine::testing {
 namespace {
 
@@ -16,7 +18,7 @@ struct NumberedGame {
     const char *Marks;
 };
 
-constexpr NumberedGame Games[] = {
+constexpr auto Games = std::to_array<NumberedGame>({
     {0, 1, ".5.......6.......7...5.41.9.83...7..7.4.2.3..........8.9..41..247.8..6....86.7..."},
     {0, 4711, "..6..1..9.3..8.5....97..............2.....8.6.7....43......9...5.8.....7.....6142"},
     {0, 2147483647,
@@ -53,7 +55,7 @@ constexpr NumberedGame Games[] = {
     {9, 4711, "4...3..897.1...5...5.7...1....1.79..2.......6..56.8....6...9.5...8...6.739..5...2"},
     {9, 2147483647,
      ".3...9.5.78...4.96...15....62..4.9....97.64....3.2..81....93...95.4...63.4.6...1."},
-};
+});
 
 TEST(NumberedGames, AreTheSameOnEveryRunAndMachine)
 {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace kelvarine::testing {
 namespace {
 
@@ -50,7 +52,7 @@ TEST_F(Names, ColumnNineIsJAndRowNineIsSmallJ)
 
 TEST_F(Names, FormatsOfColumns)
 {
-    constexpr const char *expected[]{"7", "G", "g", "C7", "c7"};
+    constexpr std::array expected{"7", "G", "g", "C7", "c7"};
     for (ColumnFormat = 0; ColumnFormat <= 4; ++ColumnFormat) {
         EXPECT_EQ(ColumnName(7), expected[ColumnFormat]);
     }
@@ -58,7 +60,7 @@ TEST_F(Names, FormatsOfColumns)
 
 TEST_F(Names, FormatsOfRows)
 {
-    constexpr const char *expected[]{"7", "G", "g", "R7", "r7"};
+    constexpr std::array expected{"7", "G", "g", "R7", "r7"};
     for (RowFormat = 0; RowFormat <= 4; ++RowFormat) {
         EXPECT_EQ(RowName(7), expected[RowFormat]);
     }
@@ -90,7 +92,7 @@ TEST_F(Names, AnyNonZeroPutsTheRowFirst)
 
 TEST_F(Names, Separators)
 {
-    constexpr const char *expected[]{"[B7]", "[B,7]", "[B-7]", "[B/7]"};
+    constexpr std::array expected{"[B7]", "[B,7]", "[B-7]", "[B/7]"};
     for (CoordSeparator = 0; CoordSeparator <= 3; ++CoordSeparator) {
         EXPECT_EQ(CellName(2, 7), expected[CoordSeparator]);
     }
@@ -98,7 +100,7 @@ TEST_F(Names, Separators)
 
 TEST_F(Names, Brackets)
 {
-    constexpr const char *expected[]{"B7", "(B7)", "{B7}", "[B7]", "<B7>"};
+    constexpr std::array expected{"B7", "(B7)", "{B7}", "[B7]", "<B7>"};
     for (CoordBrackets = 0; CoordBrackets <= 4; ++CoordBrackets) {
         EXPECT_EQ(CellName(2, 7), expected[CoordBrackets]);
     }

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -101,7 +102,7 @@ protected:
         Longest = std::max(Longest, plain.Yields);
     }
 
-    int Results[3]{}; // stopped, solved at -1, not solved
+    std::array<int, 3> Results{}; // stopped, solved at -1, not solved
     int Trials = 0;
     int Stops = 0;
     int Longest = 0;
@@ -128,8 +129,8 @@ TEST_F(DriverYardstick, TechniquesAloneOnEveryKindOfPosition)
 
 TEST_F(DriverYardstick, TrialsOnNearlyFullGridsOfEveryKind)
 {
-    constexpr std::uint32_t masks[]{CountingMask,   ListingMask,    RatingMask,
-                                    TrialBit | 0x2, TrialBit | 0x4, TrialBit};
+    constexpr std::array masks{CountingMask,    ListingMask,     RatingMask,
+                               TrialBit | 0x2U, TrialBit | 0x4U, TrialBit};
     std::mt19937 random(32);
     for (int round = 0; round < 2500; ++round) {
         for (const PositionKind kind : PositionKinds) {
@@ -150,7 +151,7 @@ TEST_F(DriverYardstick, TrialsOnNearlyFullGridsOfEveryKind)
 
 TEST_F(DriverYardstick, TrialsOnOpenPositions)
 {
-    constexpr std::uint32_t masks[]{CountingMask, ListingMask, TrialBit | 0x2};
+    constexpr std::array masks{CountingMask, ListingMask, TrialBit | 0x2U};
     std::mt19937 random(35);
     for (int round = 0; round < 1500; ++round) {
         SolveMask = masks[random() % 3];

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
 #include <string>
 
@@ -74,7 +75,7 @@ protected:
 TEST_F(RatingProperty, RatingAgreesWithTheCountedSolutions)
 {
     std::mt19937 random(51);
-    int seen[3]{};
+    std::array<int, 3> seen{};
     for (int round = 0; round < 1500; ++round) {
         std::string game = DrawGame(random, 22 + static_cast<int>(random() % 40));
         // One game in three gets a given that may be wrong.

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -319,7 +320,7 @@ TEST_F(Rating, ReportOfAnImpossibleGame)
 
 TEST_F(Rating, ReportNamesEveryLevel)
 {
-    constexpr const char *words[]{"easy", "medium", "hard", "very hard", "extreme"};
+    constexpr std::array words{"easy", "medium", "hard", "very hard", "extreme"};
     for (std::size_t level = 1; level <= 5; ++level) {
         LevelTable.fill(0);
         LevelTable[level] = SinglesMask;
@@ -330,7 +331,7 @@ TEST_F(Rating, ReportNamesEveryLevel)
 
 TEST_F(Rating, WordsOfAllRatings)
 {
-    constexpr const char *words[]{
+    constexpr std::array words{
         "none",      "easy", "medium", "hard", "very hard", "extreme", "multiple solutions",
         "impossible"};
     for (std::int32_t rating = 0; rating <= 7; ++rating) {

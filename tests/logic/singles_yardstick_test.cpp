@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
 #include <string>
 
@@ -47,13 +48,13 @@ struct Pair {
     std::int32_t LastMode;
 };
 
-constexpr Pair Pairs[]{
+constexpr auto Pairs = std::to_array<Pair>({
     {"last candidate", FindUnplacedLastCandidate, plain::FindUnplacedLastCandidate, 5},
     {"naked single", FindUnplacedNakedSingle, plain::FindUnplacedNakedSingle, 5},
     {"hidden single", FindUnplacedHiddenSingle, plain::FindUnplacedHiddenSingle, 5},
     {"apply naked", ApplyNakedSingles, plain::ApplyNakedSingles, 0},
     {"apply hidden", ApplyHiddenSingles, plain::ApplyHiddenSingles, 0},
-};
+});
 
 class SinglesYardstick : public ::testing::TestWithParam<Pair> {
 protected:

@@ -26,7 +26,7 @@ protected:
         std::filesystem::remove_all(Folder);
     }
 
-    std::string Path(const std::string &name) const
+    [[nodiscard]] std::string Path(const std::string &name) const
     {
         return (Folder / name).string();
     }
@@ -38,7 +38,7 @@ protected:
         return bytes;
     }
 
-    long EntriesIn(const std::filesystem::path &folder) const
+    [[nodiscard]] long EntriesIn(const std::filesystem::path &folder) const
     {
         return std::distance(std::filesystem::directory_iterator(folder), {});
     }

@@ -346,7 +346,7 @@ bool NewPage()
 std::string EndDocument()
 {
     Record("end document", "");
-    const std::string words = Seen.PrintsBeforeFailure == 0 ? Seen.PrinterWords : "";
+    std::string words = Seen.PrintsBeforeFailure == 0 ? Seen.PrinterWords : "";
     Seen.EndedDocuments.push_back(words);
     return words;
 }

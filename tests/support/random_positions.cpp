@@ -156,7 +156,7 @@ std::string DrawGame(std::mt19937 &random, int givens)
 {
     std::string game = DrawSolution(random);
     const auto order = ShuffledPlaces(random);
-    for (std::size_t k = static_cast<std::size_t>(givens); k < order.size(); ++k) {
+    for (auto k = static_cast<std::size_t>(givens); k < order.size(); ++k) {
         game[order[k]] = '.';
     }
     return game;

@@ -4,6 +4,7 @@
 
 #include "support/solution_counter.h"
 
+#include <array>
 #include <cstdint>
 #include <random>
 #include <string>
@@ -17,8 +18,8 @@ enum class PositionKind : std::uint8_t {
     Absurd,   // words at random in all 32 bits
 };
 
-inline constexpr PositionKind PositionKinds[]{PositionKind::Sound, PositionKind::Stale,
-                                              PositionKind::Clashing, PositionKind::Absurd};
+inline constexpr std::array PositionKinds{PositionKind::Sound, PositionKind::Stale,
+                                          PositionKind::Clashing, PositionKind::Absurd};
 
 // A complete grid as 81 digits, row by row.
 std::string DrawSolution(std::mt19937 &random);

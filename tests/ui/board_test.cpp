@@ -14,6 +14,7 @@
 #include "ui/board_widget.h"
 
 #include <QtTest>
+#include <QMenu>
 #include <gtest/gtest.h>
 
 namespace kelvarine::testing {
@@ -32,7 +33,7 @@ protected:
         GameModified = False;
     }
 
-    BoardWidget *Board() const
+    [[nodiscard]] BoardWidget *Board() const
     {
         return program.Main->Client->Board;
     }

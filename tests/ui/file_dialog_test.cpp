@@ -49,12 +49,12 @@ protected:
         return Dialog->findChild<Control *>(QString::fromLatin1(name));
     }
 
-    QLineEdit *Name() const
+    [[nodiscard]] QLineEdit *Name() const
     {
         return Find<QLineEdit>("txtFileName");
     }
 
-    QListWidget *Files() const
+    [[nodiscard]] QListWidget *Files() const
     {
         return Find<QListWidget>("filFiles");
     }
@@ -73,9 +73,10 @@ protected:
         QTest::keyClick(Name(), Qt::Key_Return);
     }
 
-    std::vector<std::string> Listed() const
+    [[nodiscard]] std::vector<std::string> Listed() const
     {
         std::vector<std::string> names;
+        names.reserve(static_cast<std::size_t>(Files()->count()));
         for (int row = 0; row < Files()->count(); ++row) {
             names.push_back(Files()->item(row)->text().toStdString());
         }
@@ -91,7 +92,7 @@ protected:
         }
     }
 
-    bool InView(int row) const
+    [[nodiscard]] bool InView(int row) const
     {
         return Files()->viewport()->rect().contains(
             Files()->visualItemRect(Files()->item(row)).center());

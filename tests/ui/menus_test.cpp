@@ -140,7 +140,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(program->Main.get(), Patience));
     }
 
-    MainWindow &Main() const
+    [[nodiscard]] MainWindow &Main() const
     {
         return *program->Main;
     }

@@ -41,13 +41,13 @@ protected:
         init_genrand(Seed);
     }
 
-    std::string Path(const std::string &name = "page.pdf") const
+    [[nodiscard]] std::string Path(const std::string &name = "page.pdf") const
     {
         return folder.filePath(QString::fromStdString(name)).toStdString();
     }
 
     // Prints by the settings and gives the pages as pictures.
-    std::vector<QImage> Print() const
+    [[nodiscard]] std::vector<QImage> Print() const
     {
         PrintTo(Path(), cmdPrint);
         return PagesOf(Path());
@@ -276,7 +276,7 @@ TEST_F(BatchOnPaper, TwentyFiveGamesHaveTwoPagesOfSolutionsEachRight)
 TEST_F(BatchOnPaper, GameInHandIsBack)
 {
     const GridTable before = Grid;
-    Print();
+    EXPECT_FALSE(Print().empty());
     EXPECT_EQ(Grid, before);
     EXPECT_EQ(GameRating, 1);
     EXPECT_EQ(GivenCount, 30);

@@ -77,7 +77,7 @@ protected:
         QTest::keyClicks(box, keys);
     }
 
-    QImage Preview() const
+    [[nodiscard]] QImage Preview() const
     {
         return Find<PrintPreview>("picPrintPreview")->grab().toImage();
     }

@@ -33,17 +33,17 @@ protected:
         Board()->setFocus();
     }
 
-    QPushButton *Button(int index) const
+    [[nodiscard]] QPushButton *Button(int index) const
     {
         return ToolButtonOf(*program.Main, index);
     }
 
-    BoardWidget *Board() const
+    [[nodiscard]] BoardWidget *Board() const
     {
         return program.Main->Client->Board;
     }
 
-    ToolbarWidget *Bar() const
+    [[nodiscard]] ToolbarWidget *Bar() const
     {
         return program.Main->Client->Toolbar;
     }
