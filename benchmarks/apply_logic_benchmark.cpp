@@ -2,7 +2,9 @@
 // the test for a solved grid takes. One iteration is one game; the games come in turn, so a mean is
 // one over all of them.
 
+#include "game/solutions.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "logic/driver.h"
 #include "support/outside_double.h"
 #include "support/positions.h"

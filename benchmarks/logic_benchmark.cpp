@@ -2,9 +2,9 @@
 // of a hint, and each technique alone. Each benchmark goes through a sample of positions; the
 // counters tell the median, the mean and the worst of one position in microseconds.
 #include "configure/defaults.h"
+#include "game/alert_scan.h"
 #include "generator/random_source.h"
 #include "grid/grid.h"
-#include "logic/alerts.h"
 #include "logic/driver.h"
 #include "logic/rating.h"
 #include "logic/technique.h"

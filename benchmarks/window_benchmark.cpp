@@ -2,10 +2,10 @@
 // step of dragging a colour, all alerts at a click, a page of games on paper, and the start of a
 // sound. Every iteration ends with the event loop at rest.
 #include "configure/defaults.h"
-#include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "input/screen_commands.h"
 #include "outside/folders.h"
 #include "outside/printer.h"

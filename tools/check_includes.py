@@ -28,7 +28,6 @@ ORDER = [
 LEVEL = {room: level for level, rooms in enumerate(ORDER) for room in rooms}
 
 OPEN_DOORS = {
-    "game/history.h",
     "files/file_commands.h",
 }
 

@@ -9,9 +9,7 @@
 
 #include "configure/defaults.h"
 #include "files/text_format.h"
-#include "game/history.h"
 #include "grid/grid.h"
-#include "logic/alerts.h"
 #include "logic/driver.h"
 #include "logic/technique_table.h"
 

@@ -3,7 +3,7 @@
 #include "board/board_painter.h"
 #include "board/geometry.h"
 #include "board/text_painter.h"
-#include "game/win_display.h"
+#include "grid/colour.h"
 #include "outside/board.h"
 
 #include <array>

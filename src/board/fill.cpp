@@ -1,5 +1,7 @@
 #include "board/fill.h"
 
+#include "game/win_display.h"
+#include "grid/colour.h"
 #include "grid/grid.h"
 
 #include <algorithm>

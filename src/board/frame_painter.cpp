@@ -1,6 +1,7 @@
 #include "board/frame_painter.h"
 
 #include "board/look.h"
+#include "grid/colour.h"
 
 #include <algorithm>
 #include <array>

@@ -4,6 +4,7 @@
 #include "board/geometry.h"
 #include "board/look.h"
 #include "board/texture_painter.h"
+#include "grid/colour.h"
 #include "grid/houses.h"
 
 #include <array>

@@ -1,5 +1,6 @@
 #include "board/look.h"
 
+#include "grid/colour.h"
 namespace kelvarine {
 
 std::array<Colour, 12> ColourTable{};

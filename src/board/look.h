@@ -2,8 +2,8 @@
 // settings and kept in the configuration file.
 #pragma once
 
-#include "game/win_display.h"
 #include "grid/cell_word.h"
+#include "grid/colour.h"
 
 #include <array>
 #include <cstdint>

@@ -1,6 +1,7 @@
 #include "board/margin.h"
 
 #include "board/geometry.h"
+#include "grid/colour.h"
 #include "grid/grid.h"
 #include "grid/names.h"
 

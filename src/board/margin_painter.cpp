@@ -3,6 +3,7 @@
 #include "board/geometry.h"
 #include "board/margin.h"
 #include "board/text_painter.h"
+#include "grid/colour.h"
 
 #include <algorithm>
 

@@ -3,6 +3,7 @@
 #include "board/look.h"
 #include "board/text_painter.h"
 #include "game/win_display.h"
+#include "grid/colour.h"
 #include "grid/grid.h"
 
 namespace kelvarine {

@@ -1,5 +1,7 @@
 #include "board/pixel_painter.h"
 
+#include "grid/colour.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>

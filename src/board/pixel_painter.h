@@ -5,7 +5,7 @@
 #pragma once
 
 #include "board/geometry.h"
-#include "game/win_display.h"
+#include "grid/colour.h"
 
 #include <QImage>
 #include <QPainter>

@@ -1,5 +1,7 @@
 #include "board/text_painter.h"
 
+#include "grid/colour.h"
+
 #include <QFont>
 #include <QGlyphRun>
 

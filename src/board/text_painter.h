@@ -3,6 +3,7 @@
 #pragma once
 
 #include "board/pixel_painter.h"
+#include "grid/colour.h"
 
 #include <QPainter>
 #include <QRawFont>

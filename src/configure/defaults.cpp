@@ -6,19 +6,20 @@
 #include "configure/configuration.h"
 #include "files/file_dialog.h"
 #include "game/clock.h"
-#include "game/history.h"
+#include "game/event_sound.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "game/solutions.h"
 #include "game/statistics.h"
+#include "game/undo.h"
 #include "game/win_display.h"
 #include "generator/game_number.h"
 #include "generator/generator.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "input/mouse.h"
 #include "input/toolbar.h"
 #include "logic/driver.h"
-#include "logic/event_sound.h"
 #include "print/page_layout.h"
 #include "print/print_run.h"
 #include "print/print_settings.h"
@@ -31,6 +32,7 @@ void SetDefaults()
     SetDriverDefaults();
     SetSoundDefaults();
     SetHistoryDefaults();
+    SetUndoDefaults();
     SetLifecycleDefaults();
     SetClockDefaults();
     SetWinDisplayDefaults();

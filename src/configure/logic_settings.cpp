@@ -1,7 +1,7 @@
 #include "configure/logic_settings.h"
 
+#include "game/alert_scan.h"
 #include "grid/grid.h"
-#include "logic/alerts.h"
 #include "logic/rating.h"
 #include "outside/board.h"
 #include "outside/window.h"

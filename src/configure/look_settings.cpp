@@ -1,6 +1,7 @@
 #include "configure/look_settings.h"
 
 #include "board/margin.h"
+#include "grid/colour.h"
 #include "outside/board.h"
 #include "outside/window.h"
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "board/look.h"
+#include "grid/colour.h"
 
 #include <array>
 #include <cstdint>

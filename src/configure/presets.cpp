@@ -2,6 +2,7 @@
 
 #include "board/look.h"
 #include "board/margin.h"
+#include "grid/colour.h"
 #include "outside/window.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // What the Sound tab does: the choice of files, the volumes and the trials.
 #pragma once
 
-#include "logic/event_sound.h"
+#include "game/event_sound.h"
 
 #include <cstdint>
 #include <string>

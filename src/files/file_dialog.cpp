@@ -1,8 +1,8 @@
 #include "files/file_dialog.h"
 
 #include "files/text_case.h"
-#include "game/history.h"
 #include "game/lifecycle.h"
+#include "grid/history.h"
 #include "outside/file_dialog.h"
 #include "outside/folders.h"
 #include "outside/messages.h"

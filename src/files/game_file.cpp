@@ -3,10 +3,11 @@
 #include "files/text_case.h"
 #include "files/text_format.h"
 #include "game/clock.h"
-#include "game/history.h"
 #include "game/lifecycle.h"
+#include "game/undo.h"
 #include "generator/game_number.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "outside/messages.h"
 #include "outside/whole_file.h"
 

@@ -1,6 +1,6 @@
 #include "files/sound_files.h"
 
-#include "logic/event_sound.h"
+#include "game/event_sound.h"
 #include "outside/folders.h"
 
 #include <algorithm>

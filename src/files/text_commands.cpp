@@ -4,6 +4,7 @@
 #include "files/text_format.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "outside/board.h"
 #include "outside/clipboard.h"
 #include "outside/messages.h"

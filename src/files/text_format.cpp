@@ -1,6 +1,7 @@
 #include "files/text_format.h"
 
 #include "grid/grid.h"
+#include "grid/history.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 #include "game/assistance.h"
 
-#include "game/history.h"
+#include "game/alert_scan.h"
 #include "game/lifecycle.h"
 #include "game/solutions.h"
 #include "grid/grid.h"
-#include "logic/alerts.h"
+#include "grid/history.h"
 #include "logic/driver.h"
 #include "logic/rating.h"
 #include "logic/technique.h"

@@ -1,5 +1,6 @@
 #include "game/game_in_hand.h"
 
+#include "grid/history.h"
 #include "logic/rating.h"
 
 namespace kelvarine {

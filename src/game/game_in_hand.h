@@ -2,8 +2,8 @@
 // new game takes its place.
 #pragma once
 
-#include "game/history.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 
 #include <array>
 #include <cstdint>

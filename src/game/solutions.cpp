@@ -2,6 +2,7 @@
 
 #include "game/screens.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "logic/driver.h"
 #include "outside/board.h"
 #include "outside/screens.h"
@@ -9,6 +10,7 @@
 namespace kelvarine {
 
 std::string SolutionsOnView;
+std::string SolutionCountText;
 
 namespace {
 
@@ -50,6 +52,23 @@ std::string LinesText(std::string_view list)
 void SetSolutionsDefaults()
 {
     SolutionsOnView.clear();
+    SolutionCountText.clear();
+}
+
+std::string SolutionCountWords(std::int32_t count)
+{
+    if (count == 0) {
+        return "No solutions";
+    }
+    if (count > MostSolutionsListed) {
+        return "More than 25 solutions";
+    }
+    return std::to_string(count) + (count == 1 ? " solution" : " solutions");
+}
+
+void TakeSolutionCount()
+{
+    SolutionCountText = SolutionCountWords(SolutionCount);
 }
 
 std::string SolutionsText(std::int32_t format, std::string_view list)
@@ -59,7 +78,7 @@ std::string SolutionsText(std::int32_t format, std::string_view list)
 
 void ShowSolutions()
 {
-    SolutionCountText = SolutionCountWords(SolutionCount);
+    TakeSolutionCount();
     SolutionsOnView = SolutionsText(SolutionsFormat, SolutionList);
     RefreshSolutionsScreen();
 }

@@ -11,7 +11,16 @@ namespace kelvarine {
 // What txtSolutions holds, lines ended by carriage return and line feed.
 extern std::string SolutionsOnView;
 
-// Puts the text above to its default, which is empty.
+// Count of solutions in words, as the solutions screen shows it; while they are listed it follows.
+extern std::string SolutionCountText;
+
+// A count of solutions in words; 26 stands for more than 25.
+std::string SolutionCountWords(std::int32_t count);
+
+// Puts SolutionCount, which goes up while solutions are listed, into SolutionCountText.
+void TakeSolutionCount();
+
+// Puts the texts above to their default, which is empty.
 void SetSolutionsDefaults();
 
 // Solutions, 81 digits each, as text: format 0 a line for each, format 1 a frame of 13 lines and an

@@ -4,6 +4,7 @@
 #include "game/screens.h"
 #include "grid/grid.h"
 #include "grid/rounding.h"
+#include "logic/driver.h"
 #include "outside/folders.h"
 #include "outside/messages.h"
 #include "outside/screens.h"

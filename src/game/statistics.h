@@ -2,6 +2,8 @@
 // in a file, and the words of the screen that shows both.
 #pragma once
 
+#include "logic/driver.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>

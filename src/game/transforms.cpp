@@ -1,7 +1,7 @@
 #include "game/transforms.h"
 
-#include "game/history.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "outside/board.h"
 
 namespace kelvarine {

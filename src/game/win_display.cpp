@@ -1,5 +1,6 @@
 #include "game/win_display.h"
 
+#include "grid/colour.h"
 #include "grid/grid.h"
 #include "grid/rounding.h"
 #include "outside/board.h"
@@ -11,10 +12,6 @@
 #include <cstdlib>
 
 namespace kelvarine {
-
-const std::array<Colour, 16> StandardColours{
-    0x000000, 0x000080, 0x008000, 0x008080, 0x800000, 0x800080, 0x808000, 0xC0C0C0,
-    0x808080, 0x0000FF, 0x00FF00, 0x00FFFF, 0xFF0000, 0xFF00FF, 0xFFFF00, 0xFFFFFF};
 
 std::int32_t WinStage;
 std::array<Colour, 10> WinColours{};

@@ -3,17 +3,12 @@
 #pragma once
 
 #include "grid/cell_word.h"
+#include "grid/colour.h"
 
 #include <array>
 #include <cstdint>
 
 namespace kelvarine {
-
-// A colour as 0xRRGGBB.
-using Colour = std::uint32_t;
-
-// The sixteen colours of the classic console palette, 0 black to 15 white.
-extern const std::array<Colour, 16> StandardColours;
 
 extern std::int32_t WinStage;             // 0..7
 extern std::array<Colour, 10> WinColours; // 1..9 used

@@ -7,9 +7,6 @@
 namespace kelvarine {
 
 GridTable Grid{};
-std::array<GridTable, HistorySlots> History{};
-std::int32_t HistoryCount;
-std::int32_t HistoryPosition;
 std::int32_t GivenCount;
 std::int32_t GameRating;
 
@@ -35,9 +32,6 @@ Flag IncludeSingles;
 void SetGridDefaults()
 {
     Grid = {};
-    History = {};
-    HistoryCount = 0;
-    HistoryPosition = 0;
     GivenCount = 0;
     GameRating = 6;
 
@@ -109,11 +103,6 @@ Flag IsGridSolved()
         }
     }
     return True;
-}
-
-void SaveStartPosition()
-{
-    CopyCells(Grid, History[StartSlot]);
 }
 
 void CopyCells(const GridTable &from, GridTable &to)

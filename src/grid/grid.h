@@ -1,5 +1,5 @@
-// The game in one table: the grid of cell words, its history, and the tables and settings that
-// every room shares. All of it is global and single, for one game, one player and one thread.
+// The game in one table: the grid of cell words, and the tables and settings that every room
+// shares. All of it is global and single, for one game, one player and one thread.
 #pragma once
 
 #include "grid/cell_word.h"
@@ -14,24 +14,12 @@ namespace kelvarine {
 // One grid, indexed [column][row], both 1..9; line 0 of either exists and is not used.
 using GridTable = std::array<std::array<CellWord, 10>, 10>;
 
-// ---- The game: whole in History and in the game file ---------------------------------------
+// ---- The game: whole in the game file ---------------------------------------
 
 extern GridTable Grid; // starts empty
 
-// Slots of History.
-inline constexpr int StartSlot = 0;
-inline constexpr int NewestSlot = 1;
-inline constexpr int OldestSlot = 100;
-inline constexpr int SnapshotSlot = 101;
-inline constexpr int SafeCopySlot = 102;      // the driver's and the text readers'
-inline constexpr int SolutionsCopySlot = 103; // the solutions command's
-inline constexpr int HistorySlots = 105;
-
-extern std::array<GridTable, HistorySlots> History;
-extern std::int32_t HistoryCount;    // undo levels in use, 0..100
-extern std::int32_t HistoryPosition; // level on view, 1 the newest, 0 before the first push
-extern std::int32_t GivenCount;      // cells with GivenBit; kept by CountGivens
-extern std::int32_t GameRating;      // 0 none, 1..5 easy to extreme, 6 multiple, 7 impossible
+extern std::int32_t GivenCount; // cells with GivenBit; kept by CountGivens
+extern std::int32_t GameRating; // 0 none, 1..5 easy to extreme, 6 multiple, 7 impossible
 
 // ---- The session: reset by a new game, never stored ----------------------------------------
 
@@ -93,9 +81,6 @@ void CountGivens();
 
 // True when every cell holds one number and every column, row and box holds all nine.
 Flag IsGridSolved();
-
-// Copies the 81 cells of Grid to History slot 0.
-void SaveStartPosition();
 
 // Copies the 81 cells of one grid to another and leaves its unused lines as they are.
 void CopyCells(const GridTable &from, GridTable &to);

@@ -1,9 +1,9 @@
 #include "input/givens.h"
 
-#include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/solutions.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "logic/rating.h"
 #include "outside/messages.h"
 

@@ -3,20 +3,20 @@
 #include "files/file_commands.h"
 #include "files/text_commands.h"
 #include "game/assistance.h"
-#include "game/history.h"
 #include "game/lifecycle.h"
+#include "game/logic_report.h"
 #include "game/new_games.h"
+#include "game/search.h"
 #include "game/transforms.h"
-#include "game/win_display.h"
+#include "game/undo.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "input/givens.h"
 #include "input/mouse.h"
 #include "input/number_keys.h"
 #include "input/screen_commands.h"
 #include "input/selection.h"
 #include "input/toolbar.h"
-#include "logic/driver.h"
-#include "logic/rating.h"
 
 #include <array>
 
@@ -169,18 +169,6 @@ void TypeDigit(std::int32_t digit, std::int32_t shift)
 } // namespace
 
 const std::span<const KeyRow> KeyTable(Rows);
-
-bool ReadyForCommand()
-{
-    if (SearchActive != False) {
-        if (SearchKind == SearchingGame) {
-            QueryStopSearch();
-        }
-        return false;
-    }
-    StopWinDisplay();
-    return true;
-}
 
 void KeyDown(std::int32_t code, std::int32_t shift)
 {

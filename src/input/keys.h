@@ -43,8 +43,4 @@ void KeyDown(std::int32_t code, std::int32_t shift);
 // A key comes up. Only the modifiers mean anything: the toolbar shows its plain numbers again.
 void KeyUp(std::int32_t code);
 
-// First steps of every command that the player starts: while a game search runs, asks whether to
-// stop it; otherwise ends the win display. False when the command must not act.
-bool ReadyForCommand();
-
 } // namespace kelvarine

@@ -2,11 +2,11 @@
 
 #include "board/geometry.h"
 #include "board/look.h"
-#include "game/history.h"
 #include "game/lifecycle.h"
+#include "game/search.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "grid/rounding.h"
-#include "input/keys.h"
 #include "outside/board.h"
 
 #include <algorithm>

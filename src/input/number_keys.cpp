@@ -1,7 +1,7 @@
 #include "input/number_keys.h"
 
-#include "game/history.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "logic/technique.h"
 #include "outside/board.h"
 

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "board/geometry.h"
-#include "game/win_display.h"
 #include "grid/cell_word.h"
+#include "grid/colour.h"
 
 #include <array>
 #include <cstdint>

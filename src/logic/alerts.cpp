@@ -1,10 +1,11 @@
 #include "logic/alerts.h"
 
 #include "logic/chain_search.h"
-#include "logic/event_sound.h"
 #include "logic/technique.h"
 #include "logic/technique_table.h"
 #include "outside/events.h"
+
+#include <algorithm>
 
 namespace kelvarine {
 
@@ -23,7 +24,7 @@ void ExplainGivenConflict(const House &house, Cell first, Cell other)
 }
 
 // Runs the operations of one technique; true when one of them left a text.
-bool RunAlertScan(const TechniqueRow &row, std::int32_t mode)
+bool RunOperations(const TechniqueRow &row, std::int32_t mode)
 {
     Flag unused = False;
     for (const Operation operation : row.AlertScan) {
@@ -43,29 +44,23 @@ void RunTechniques(std::int32_t mode, std::uint32_t mask)
     for (std::size_t level = 1; level <= 5; ++level) {
         for (const TechniqueRow &row : Techniques) {
             const std::uint32_t bit = BitTable[static_cast<std::size_t>(row.Number)];
-            if ((LevelTable[level] & mask & bit) != 0 && RunAlertScan(row, mode)) {
+            if ((LevelTable[level] & mask & bit) != 0 && RunOperations(row, mode)) {
                 return;
             }
         }
     }
 }
 
-void SoundNewAlerts(const GridTable &before)
+bool MarksMoreThan(const GridTable &before)
 {
-    if (AlertSound <= 0 || SoundDisabled != False) {
-        return;
-    }
-    for (const Cell cell : Cells) {
-        if ((WordAt(cell) & ~before[cell.Column][cell.Row] & AlertBit) != 0) {
-            PlayEventSound(SoundFile(AlertFiles, AlertSound), AlertVolume, false);
-            return;
-        }
-    }
+    return std::ranges::any_of(Cells, [&](Cell cell) {
+        return (WordAt(cell) & ~before[cell.Column][cell.Row] & AlertBit) != 0;
+    });
 }
 
 } // namespace
 
-void ScanAlerts(std::int32_t mode)
+bool RunAlertScan(std::int32_t mode)
 {
     ChainColumns[0] = 0;
     const GridTable before = Grid;
@@ -75,7 +70,7 @@ void ScanAlerts(std::int32_t mode)
     // Hints use every technique of the level table, whatever the player chose for alerts.
     const bool isHint = mode >= ModeTeaser;
     if (AlertMask == 0 && !isHint) {
-        return;
+        return false;
     }
     const ChainBudget budget;
     SetWaitCursor(true);
@@ -85,7 +80,7 @@ void ScanAlerts(std::int32_t mode)
         RunTechniques(mode, isHint ? RatingMask : AlertMask);
     }
     SetWaitCursor(false);
-    SoundNewAlerts(before);
+    return MarksMoreThan(before);
 }
 
 bool FindGivenConflicts(std::int32_t mode)

@@ -9,11 +9,11 @@
 namespace kelvarine {
 
 // Runs the techniques of AlertMask (modes 1 and 2) or all of the level table (modes 3..5) on
-// Grid. Mode 1 leaves AlertBit on every cell that contradicts a conclusion and plays the alert
-// sound when a cell is newly marked; the other modes stop at the first conclusion that has
-// something to say and leave HintText and HintTitle, with the marks that go with the words. The
-// candidates stay as they are. Ends any chain on view.
-void ScanAlerts(std::int32_t mode);
+// Grid. Mode 1 leaves AlertBit on every cell that contradicts a conclusion; the other modes stop at
+// the first conclusion that has something to say and leave HintText and HintTitle, with the marks
+// that go with the words. The candidates stay as they are. Ends any chain on view. True when a cell
+// is newly marked.
+bool RunAlertScan(std::int32_t mode);
 
 // True when two givens clash. Acts by mode on the second of them as a technique does; with mode 0
 // only the result matters.

@@ -1,6 +1,6 @@
 #include "logic/driver.h"
 
-#include "game/history.h"
+#include "grid/history.h"
 #include "logic/chain_search.h"
 #include "logic/solvability.h"
 #include "logic/technique.h"
@@ -19,11 +19,9 @@ namespace kelvarine {
 
 std::int32_t SearchKind;
 Flag StopRequested;
-std::string SolutionCountText;
 
 namespace {
 
-constexpr std::int32_t MostListed = 25;
 constexpr int MostTrials = 81;
 
 // The numbered steps of the driver that others jump to.
@@ -185,9 +183,8 @@ Step OnSolvedGrid(Run &run)
         }
         return Step::Backtrack;
     default:
-        SolutionCountText = SolutionCountWords(SolutionCount);
         ShowSolutionCount();
-        if (SolutionCount > MostListed) {
+        if (SolutionCount > MostSolutionsListed) {
             RestoreSafeCopy();
             return LeaveWith(run, NotSolved);
         }
@@ -355,18 +352,6 @@ void SetDriverDefaults()
 {
     SearchKind = NotStoppable;
     StopRequested = False;
-    SolutionCountText.clear();
-}
-
-std::string SolutionCountWords(std::int32_t count)
-{
-    if (count == 0) {
-        return "No solutions";
-    }
-    if (count > MostListed) {
-        return "More than 25 solutions";
-    }
-    return std::to_string(count) + (count == 1 ? " solution" : " solutions");
 }
 
 std::int32_t ApplyLogic(std::int32_t mode)
@@ -384,15 +369,6 @@ std::int32_t ApplyLogic(std::int32_t mode)
         step = Take(run, step);
     }
     return run.Result;
-}
-
-void QueryStopSearch()
-{
-    StopSound();
-    if (AskYesNo("Would you like to stop searching?")) {
-        SearchActive = False;
-        StopRequested = True;
-    }
 }
 
 } // namespace kelvarine

@@ -5,7 +5,6 @@
 #include "grid/grid.h"
 
 #include <cstdint>
-#include <string>
 
 namespace kelvarine {
 
@@ -14,6 +13,8 @@ inline constexpr std::int32_t SolveForPlayer = 1;  // solve the game
 inline constexpr std::int32_t SolveForRating = 2;  // solve without an undo state
 inline constexpr std::int32_t CountSolutions = 3;  // count up to 2, grid restored
 inline constexpr std::int32_t ListSolutions25 = 4; // list up to 25, grid restored
+
+inline constexpr std::int32_t MostSolutionsListed = 25;
 
 inline constexpr std::int32_t Solved = -1;
 inline constexpr std::int32_t NotSolved = 0;
@@ -29,12 +30,6 @@ extern std::int32_t SearchKind;
 // SearchActive, which every run of the driver sets anew.
 extern Flag StopRequested;
 
-// Count of solutions in words, as the solutions screen shows it while they are listed.
-extern std::string SolutionCountText;
-
-// A count of solutions in words; 26 stands for more than 25.
-std::string SolutionCountWords(std::int32_t count);
-
 // Puts the state above to its defaults.
 void SetDriverDefaults();
 
@@ -45,8 +40,5 @@ void SetDriverDefaults();
 // stopped search leaves the grid as it is. Modes 0 and 1 push an undo state when they end on a
 // grid that a technique changed; mode 0 tells the player when there is no solution.
 std::int32_t ApplyLogic(std::int32_t mode);
-
-// Asks whether to stop a running search. On yes clears SearchActive and sets StopRequested.
-void QueryStopSearch();
 
 } // namespace kelvarine

@@ -17,7 +17,8 @@ void ShowSolutionsScreen();
 // Brings text, count and format of the solutions screen up to date, when it is open.
 void RefreshSolutionsScreen();
 
-// Brings the count of the solutions screen alone up to date, when it is open.
+// Tells that SolutionCount has gone up while solutions are listed. Takes it into the words of the
+// solutions screen and brings these alone up to date, when it is open.
 void ShowSolutionCount();
 
 // Shows name, version and licence of the program until the player has read them.

@@ -1,6 +1,7 @@
 #include "ui/board_widget.h"
 
 #include "board/board_painter.h"
+#include "game/search.h"
 #include "input/keys.h"
 #include "input/mouse.h"
 #include "ui/board_accessible.h"

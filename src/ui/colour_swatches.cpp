@@ -3,6 +3,7 @@
 #include "board/frame_painter.h"
 #include "board/texture_painter.h"
 #include "configure/look_settings.h"
+#include "grid/colour.h"
 #include "ui/configure_controls.h"
 
 #include <QMouseEvent>

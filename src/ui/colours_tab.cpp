@@ -1,6 +1,7 @@
 #include "ui/colours_tab.h"
 
 #include "configure/look_settings.h"
+#include "grid/colour.h"
 #include "ui/colour_swatches.h"
 #include "ui/configure_controls.h"
 #include "ui/palette_picture.h"

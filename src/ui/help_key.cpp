@@ -1,7 +1,7 @@
 #include "ui/help_key.h"
 
+#include "game/search.h"
 #include "grid/grid.h"
-#include "input/keys.h"
 #include "outside/help.h"
 #include "ui/main_window.h"
 

@@ -2,6 +2,8 @@
 // keyboard where layouts and Shift change what it types, by its letter where the letter counts.
 #pragma once
 
+#include "input/keys.h"
+
 #include <QKeyEvent>
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "ui/menus.h"
 
-#include "input/keys.h"
+#include "game/search.h"
 #include "input/menu_table.h"
 #include "ui/text.h"
 

@@ -1,6 +1,7 @@
 #include "ui/printer_qt.h"
 
 #include "board/text_painter.h"
+#include "grid/colour.h"
 #include "outside/messages.h"
 #include "outside/printer.h"
 #include "outside/whole_file.h"

@@ -2,6 +2,7 @@
 
 #include "files/solutions_file.h"
 #include "game/screens.h"
+#include "game/search.h"
 #include "game/solutions.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
@@ -220,6 +221,7 @@ void RefreshSolutionsScreen()
 
 void ShowSolutionCount()
 {
+    TakeSolutionCount();
     if (solutionsScreen != nullptr) {
         solutionsScreen->RefreshCount();
     }

@@ -1,5 +1,7 @@
 #include "board/board_painter.h"
 #include "board/text_painter.h"
+#include "game/win_display.h"
+#include "grid/colour.h"
 #include "grid/grid.h"
 #include "outside/board.h"
 #include "support/pixels.h"

@@ -1,4 +1,6 @@
 #include "board/fill.h"
+#include "game/win_display.h"
+#include "grid/colour.h"
 #include "grid/grid.h"
 #include "support/outside_double.h"
 

@@ -1,4 +1,5 @@
 #include "board/frame_painter.h"
+#include "grid/colour.h"
 #include "support/pixels.h"
 
 namespace kelvarine::testing {

@@ -1,5 +1,6 @@
 #include "board/grid_painter.h"
 #include "board/texture_painter.h"
+#include "grid/colour.h"
 #include "grid/grid.h"
 #include "support/pixels.h"
 

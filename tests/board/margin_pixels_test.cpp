@@ -1,6 +1,7 @@
 #include "board/margin.h"
 #include "board/margin_painter.h"
 #include "board/text_painter.h"
+#include "grid/colour.h"
 #include "grid/grid.h"
 #include "support/pixels.h"
 

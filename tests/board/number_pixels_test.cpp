@@ -2,6 +2,8 @@
 #include "board/number_painter.h"
 #include "board/text_painter.h"
 #include "game/clock.h"
+#include "game/win_display.h"
+#include "grid/colour.h"
 #include "grid/grid.h"
 #include "support/pixels.h"
 #include "support/positions.h"

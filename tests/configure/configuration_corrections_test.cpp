@@ -3,12 +3,12 @@
 #include "board/margin.h"
 #include "configure/configuration.h"
 #include "configure/configuration_fixture.h"
+#include "game/event_sound.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "generator/generator.h"
 #include "grid/grid.h"
 #include "grid/names.h"
-#include "logic/event_sound.h"
 #include "print/print_settings.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 
 #include "configure/configuration.h"
 #include "configure/configuration_bytes.h"
-#include "logic/event_sound.h"
+#include "game/event_sound.h"
 #include "support/outside_double.h"
 #include "support/settings_folder.h"
 

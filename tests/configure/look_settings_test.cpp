@@ -1,5 +1,6 @@
 #include "board/margin.h"
 #include "configure/look_settings.h"
+#include "grid/colour.h"
 #include "support/outside_double.h"
 #include "support/play.h"
 

@@ -2,6 +2,7 @@
 #include "board/look.h"
 #include "board/margin.h"
 #include "configure/presets.h"
+#include "grid/colour.h"
 #include "support/outside_double.h"
 #include "support/play.h"
 

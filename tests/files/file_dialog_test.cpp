@@ -1,6 +1,6 @@
 #include "files/file_dialog.h"
-#include "game/history.h"
 #include "game/lifecycle.h"
+#include "grid/history.h"
 #include "outside/folders.h"
 #include "support/outside_double.h"
 #include "support/play.h"

@@ -1,10 +1,10 @@
 // What may go wrong while a game is saved, and that it never costs the player one.
 #include "files/file_commands.h"
 #include "files/game_file.h"
-#include "game/history.h"
 #include "game/lifecycle.h"
 #include "generator/game_number.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "support/child_process.h"
 #include "support/outside_double.h"
 #include "support/play.h"

@@ -1,5 +1,5 @@
 #include "files/sound_files.h"
-#include "logic/event_sound.h"
+#include "game/event_sound.h"
 #include "outside/folders.h"
 #include "support/outside_double.h"
 #include "support/settings_folder.h"

@@ -1,5 +1,6 @@
 #include "files/text_format.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"

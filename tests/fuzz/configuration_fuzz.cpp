@@ -5,14 +5,14 @@
 #include "board/margin.h"
 #include "configure/configuration.h"
 #include "fuzz/fuzz.h"
+#include "game/alert_scan.h"
+#include "game/event_sound.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "generator/generator.h"
 #include "generator/patterns.h"
 #include "grid/grid.h"
 #include "grid/names.h"
-#include "logic/alerts.h"
-#include "logic/event_sound.h"
 #include "logic/rating.h"
 
 #include <cstddef>

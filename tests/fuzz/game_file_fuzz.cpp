@@ -3,10 +3,11 @@
 #include "files/game_file.h"
 #include "fuzz/fuzz.h"
 #include "game/clock.h"
-#include "game/history.h"
 #include "game/lifecycle.h"
+#include "game/undo.h"
 #include "generator/game_number.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "support/random_positions.h"
 
 #include <random>

@@ -1,3 +1,4 @@
+#include "game/search.h"
 #include "generator/generator.h"
 #include "generator/patterns.h"
 #include "generator/random_source.h"

@@ -3,6 +3,7 @@
 #include "game/lifecycle.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "input/mouse.h"
 #include "logic/driver.h"
 #include "support/outside_double.h"

@@ -1,4 +1,5 @@
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "input/number_keys.h"
 #include "support/outside_double.h"
 #include "support/play.h"

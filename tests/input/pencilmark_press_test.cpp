@@ -1,10 +1,10 @@
 // The right press, which strikes pencilmarks out, and the double click, which keeps one alone.
 #include "board/geometry.h"
 #include "board/look.h"
-#include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "input/mouse.h"
 #include "logic/driver.h"
 #include "support/outside_double.h"

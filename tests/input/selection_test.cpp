@@ -1,6 +1,6 @@
-#include "game/history.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "input/keys.h"
 #include "input/selection.h"
 #include "support/outside_double.h"

@@ -3,6 +3,7 @@
 #include "board/look.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "input/keys.h"
 #include "input/toolbar.h"
 #include "support/outside_double.h"

@@ -1,5 +1,6 @@
-#include "game/history.h"
+#include "game/search.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "logic/driver.h"
 #include "support/driver_games.h"
 #include "support/outside_double.h"

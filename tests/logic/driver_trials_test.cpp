@@ -1,7 +1,8 @@
 // Trial and error, and what is left of a game without a solution.
 
-#include "game/history.h"
+#include "game/solutions.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "logic/driver.h"
 #include "support/driver_games.h"
 #include "support/outside_double.h"

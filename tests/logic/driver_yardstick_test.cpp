@@ -1,8 +1,9 @@
 // The driver against its plain form, run by run: grid, result, counts, lists, undo states, messages
 // and yields must be the same on positions of every kind.
 
-#include "game/history.h"
+#include "game/solutions.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "logic/driver.h"
 #include "logic/plain/driver.h"
 #include "support/outside_double.h"
@@ -11,8 +12,8 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <array>
+#include <random>
 #include <string>
 #include <vector>
 

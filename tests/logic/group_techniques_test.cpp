@@ -1,6 +1,6 @@
 // The techniques of groups, intersections and fish as the driver and the alert scan run them.
 
-#include "logic/alerts.h"
+#include "game/alert_scan.h"
 #include "logic/driver.h"
 #include "logic/technique.h"
 #include "logic/technique_table.h"

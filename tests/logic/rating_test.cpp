@@ -1,6 +1,6 @@
-#include "game/history.h"
+#include "game/logic_report.h"
 #include "grid/grid.h"
-#include "logic/driver.h"
+#include "grid/history.h"
 #include "logic/rating.h"
 #include "support/driver_games.h"
 #include "support/outside_double.h"

@@ -1,5 +1,5 @@
+#include "game/alert_scan.h"
 #include "grid/grid.h"
-#include "logic/alerts.h"
 #include "logic/chain_search.h"
 #include "logic/driver.h"
 #include "logic/rating.h"

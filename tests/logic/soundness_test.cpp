@@ -1,7 +1,7 @@
 // Rules that the logic must keep on any position: what it concludes is true, what only reports
 // changes nothing, and what it marks it can explain.
+#include "game/alert_scan.h"
 #include "grid/grid.h"
-#include "logic/alerts.h"
 #include "logic/driver.h"
 #include "logic/rating.h"
 #include "logic/singles_chains.h"

@@ -1,5 +1,7 @@
 #include "board/board_painter.h"
 #include "game/clock.h"
+#include "game/win_display.h"
+#include "grid/colour.h"
 #include "print/page_layout.h"
 #include "print/print_painter.h"
 #include "support/outside_double.h"

@@ -1,9 +1,9 @@
 #include "signature/signature.h"
 
+#include "game/alert_scan.h"
 #include "generator/generator.h"
 #include "generator/random_source.h"
 #include "grid/grid.h"
-#include "logic/alerts.h"
 #include "logic/driver.h"
 #include "logic/rating.h"
 #include "logic/technique.h"

@@ -3,6 +3,7 @@
 #include "configure/defaults.h"
 #include "files/file_dialog.h"
 #include "game/screens.h"
+#include "game/solutions.h"
 #include "logic/driver.h"
 #include "support/settings_folder.h"
 
@@ -275,6 +276,7 @@ void RefreshSolutionsScreen()
 
 void ShowSolutionCount()
 {
+    TakeSolutionCount();
     Record("solution count", SolutionCountText);
 }
 

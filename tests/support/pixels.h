@@ -3,6 +3,7 @@
 
 #include "board/geometry.h"
 #include "board/look.h"
+#include "grid/colour.h"
 
 #include <QImage>
 #include <gtest/gtest.h>

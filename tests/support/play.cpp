@@ -2,10 +2,11 @@
 
 #include "board/look.h"
 #include "game/clock.h"
-#include "game/history.h"
 #include "game/lifecycle.h"
+#include "game/undo.h"
 #include "game/win_display.h"
 #include "generator/game_number.h"
+#include "grid/history.h"
 #include "input/mouse.h"
 #include "input/toolbar.h"
 #include "support/outside_double.h"

@@ -1,9 +1,10 @@
 #include "support/scenario.h"
 
-#include "game/history.h"
 #include "game/lifecycle.h"
+#include "game/undo.h"
 #include "generator/random_source.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "support/outside_double.h"
 #include "support/play.h"
 

@@ -2,9 +2,10 @@
 
 #include "board/board_painter.h"
 #include "board/geometry.h"
-#include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
+#include "grid/colour.h"
+#include "grid/history.h"
 #include "outside/board.h"
 #include "outside/screens.h"
 #include "support/positions.h"

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "board/look.h"
+#include "grid/colour.h"
 #include "grid/houses.h"
 #include "support/widget_program.h"
 #include "ui/configure_screen.h"

@@ -1,6 +1,7 @@
 #include "support/widget_paper.h"
 
 #include "board/look.h"
+#include "input/keys.h"
 #include "print/page_layout.h"
 #include "print/print_painter.h"
 #include "support/widget_program.h"

@@ -1,8 +1,8 @@
 #include "support/widget_program.h"
 
 #include "configure/defaults.h"
-#include "game/history.h"
 #include "game/lifecycle.h"
+#include "grid/history.h"
 
 #include <QAbstractButton>
 #include <QApplication>

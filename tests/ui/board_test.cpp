@@ -1,10 +1,11 @@
 #include "board/board_painter.h"
 #include "board/look.h"
-#include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
+#include "game/undo.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "input/mouse.h"
 #include "logic/driver.h"
 #include "support/play.h"
@@ -13,8 +14,8 @@
 #include "support/widget_program.h"
 #include "ui/board_widget.h"
 
-#include <QtTest>
 #include <QMenu>
+#include <QtTest>
 #include <gtest/gtest.h>
 
 namespace kelvarine::testing {

@@ -1,4 +1,5 @@
 #include "game/screens.h"
+#include "grid/colour.h"
 #include "grid/names.h"
 #include "support/widget_configure.h"
 

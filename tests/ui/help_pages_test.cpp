@@ -1,10 +1,10 @@
 // What the pages of the help promise, held against the game.
 #include "files/text_commands.h"
+#include "game/alert_scan.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
 #include "input/keys.h"
 #include "input/menu_table.h"
-#include "logic/alerts.h"
 #include "logic/technique_table.h"
 #include "outside/clipboard.h"
 #include "support/positions.h"

@@ -6,6 +6,7 @@
 #include "game/clock.h"
 #include "game/screens.h"
 #include "game/win_display.h"
+#include "grid/colour.h"
 #include "grid/grid.h"
 #include "input/toolbar.h"
 #include "outside/screens.h"

@@ -1,7 +1,6 @@
-#include "game/history.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
-#include "input/keys.h"
+#include "grid/history.h"
 #include "logic/driver.h"
 #include "support/widget_program.h"
 #include "ui/board_widget.h"

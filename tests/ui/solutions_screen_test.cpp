@@ -1,8 +1,9 @@
-#include "game/history.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "game/solutions.h"
+#include "game/undo.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "logic/driver.h"
 #include "outside/screens.h"
 #include "outside/whole_file.h"
@@ -177,7 +178,7 @@ TEST_F(SolutionsScreens, CountGoesUpWhileItLists)
     auto *label = Screen()->findChild<QLabel *>("lblNumSolutions");
     SetGame(ThreeSolutions);
     for (const std::int32_t count : {1, 2}) {
-        SolutionCountText = SolutionCountWords(count);
+        SolutionCount = count;
         ShowSolutionCount();
         counts.push_back(label->text().toStdString());
     }

@@ -1,5 +1,5 @@
+#include "game/event_sound.h"
 #include "game/screens.h"
-#include "logic/event_sound.h"
 #include "support/widget_configure.h"
 #include "ui/sound_tab.h"
 

@@ -1,6 +1,6 @@
 #include "board/look.h"
+#include "grid/colour.h"
 #include "grid/grid.h"
-#include "input/keys.h"
 #include "input/menu_table.h"
 #include "input/toolbar.h"
 #include "logic/driver.h"

@@ -1,7 +1,8 @@
 #include "logic/plain/driver.h"
 
-#include "game/history.h"
+#include "game/solutions.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "logic/driver.h"
 #include "logic/plain/singles.h"
 #include "logic/technique_table.h"

@@ -2,6 +2,8 @@
 // The operations are those of the table of techniques.
 #pragma once
 
+#include "logic/driver.h"
+
 #include <cstdint>
 
 namespace kelvarine::testing::plain {

@@ -1,4 +1,4 @@
-#include "logic/event_sound.h"
+#include "game/event_sound.h"
 
 #include "outside/sound.h"
 

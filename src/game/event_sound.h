@@ -1,5 +1,5 @@
 // The sounds of the game's events: the lists of sound files, the player's choice among them and
-// the volumes. It stands in this room because the alert scan is the lowest that sounds.
+// the volumes.
 #pragma once
 
 #include "grid/cell_word.h"

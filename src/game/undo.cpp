@@ -1,33 +1,26 @@
-#include "game/history.h"
+#include "game/undo.h"
 
+#include "game/event_sound.h"
 #include "game/lifecycle.h"
 #include "game/solutions.h"
 #include "grid/grid.h"
-#include "logic/event_sound.h"
+#include "grid/history.h"
 #include "logic/rating.h"
 #include "outside/board.h"
 #include "outside/sound.h"
 #include "outside/window.h"
 
-#include <algorithm>
-
 namespace kelvarine {
 
-Flag GameModified;
 Flag SnapshotAvailable;
 
 namespace {
-
-GridTable &Slot(std::int32_t slot)
-{
-    return History[static_cast<std::size_t>(slot)];
-}
 
 // Takes a level of the history back to the board.
 void ShowLevel(std::int32_t level)
 {
     HistoryPosition = level;
-    Grid = Slot(level);
+    Grid = History[static_cast<std::size_t>(level)];
     CountGivens();
     RateGame();
     RefreshSolutions();
@@ -36,30 +29,9 @@ void ShowLevel(std::int32_t level)
 
 } // namespace
 
-void SetHistoryDefaults()
+void SetUndoDefaults()
 {
-    GameModified = False;
     SnapshotAvailable = False;
-}
-
-void PushUndoState()
-{
-    if (HistoryPosition < 2) {
-        std::move_backward(History.begin() + NewestSlot, History.begin() + OldestSlot,
-                           History.begin() + OldestSlot + 1);
-        HistoryCount = std::min(HistoryCount + 1, OldestSlot);
-    } else {
-        // The states that were undone are given up: the one on view goes to slot 2.
-        const std::int32_t shift = HistoryPosition - 2;
-        const std::int32_t last = HistoryCount - shift;
-        for (std::int32_t slot = 2; slot <= last; ++slot) {
-            Slot(slot) = Slot(slot + shift);
-        }
-        HistoryCount = last;
-    }
-    Slot(NewestSlot) = Grid;
-    HistoryPosition = 1;
-    GameModified = True;
 }
 
 void Undo()

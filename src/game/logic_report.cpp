@@ -1,0 +1,65 @@
+#include "game/logic_report.h"
+
+#include "grid/grid.h"
+#include "logic/rating.h"
+#include "logic/technique.h"
+#include "logic/technique_table.h"
+#include "outside/messages.h"
+
+#include <array>
+#include <string>
+
+namespace kelvarine {
+
+namespace {
+
+void AddReportLine(std::string &report, std::string_view name)
+{
+    report += "    ";
+    report += name;
+    report += LineEnd;
+}
+
+} // namespace
+
+std::string_view RatingWord(std::int32_t rating)
+{
+    constexpr std::array<std::string_view, 8> words{
+        "none",      "easy", "medium", "hard", "very hard", "extreme", "multiple solutions",
+        "impossible"};
+    const auto place = static_cast<std::size_t>(rating);
+    return place < words.size() ? words[place] : std::string_view();
+}
+
+void mnuShowLogicNeeded()
+{
+    RateGame();
+    // RateGame never yields 0; the branch waits for a value that does not come up.
+    if (GameRating == 0) {
+        ShowMessage("This sudoku has no rating because it has no unknown cells to solve.");
+        return;
+    }
+    std::string report;
+    if (GameRating == 7) {
+        report = "This sudoku has no solution.";
+        report += LineEnd;
+    } else {
+        report = "Logic needed to solve:  ";
+        report += LineEnd;
+        report += LineEnd;
+        for (const TechniqueRow &row : Techniques) {
+            if ((UsedMask & BitTable[static_cast<std::size_t>(row.Number)]) != 0) {
+                AddReportLine(report, row.ReportName);
+            }
+        }
+        if ((UsedMask & TrialBit) != 0) {
+            AddReportLine(report, "Trial & error");
+        }
+    }
+    report += LineEnd;
+    report += "Rating: ";
+    report += RatingWord(GameRating);
+    ShowMessage(report);
+}
+
+} // namespace kelvarine

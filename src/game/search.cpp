@@ -1,0 +1,32 @@
+#include "game/search.h"
+
+#include "game/win_display.h"
+#include "grid/grid.h"
+#include "logic/driver.h"
+#include "outside/messages.h"
+#include "outside/sound.h"
+
+namespace kelvarine {
+
+void QueryStopSearch()
+{
+    StopSound();
+    if (AskYesNo("Would you like to stop searching?")) {
+        SearchActive = False;
+        StopRequested = True;
+    }
+}
+
+bool ReadyForCommand()
+{
+    if (SearchActive != False) {
+        if (SearchKind == SearchingGame) {
+            QueryStopSearch();
+        }
+        return false;
+    }
+    StopWinDisplay();
+    return true;
+}
+
+} // namespace kelvarine
