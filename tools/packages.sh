@@ -10,13 +10,13 @@ PLAY_PACKAGES=(fonts-liberation libqt6sql6-sqlite)
 # A virtual display with real keys and a picture of it, for machines without a screen.
 SCREEN_PACKAGES=(xvfb xdotool openbox imagemagick)
 TEST_PACKAGES=(
-    libgtest-dev librapidcheck-dev
+    libgtest-dev librapidcheck-dev libbenchmark-dev
     poppler-utils
     python3 python3-pil python3-xlib xclip x11-xkb-utils x11-xserver-utils
     strace weston qt6-wayland libsm-dev
 )
 # What is needed beyond the tests by those who change the program.
-CHECK_PACKAGES=(libbenchmark-dev clang-format clang-tidy)
+CHECK_PACKAGES=(clang-format clang-tidy)
 # What looks at the package as the desktop and Debian do.
 DESKTOP_PACKAGES=(
     desktop-file-utils appstream shared-mime-info libxml2-utils
