@@ -2,9 +2,9 @@
 #include "board/board_painter.h"
 #include "board/geometry.h"
 #include "board/look.h"
-#include "configure/defaults.h"
 #include "grid/grid.h"
 #include "outside/board.h"
+#include "program/defaults.h"
 
 #include <QGuiApplication>
 #include <benchmark/benchmark.h>

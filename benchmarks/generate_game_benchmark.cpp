@@ -1,9 +1,9 @@
 // Time to a game that meets the wish, for every level and three patterns. Run it with
 // --benchmark_repetitions=100 --benchmark_report_aggregates_only for median and 95th percentile.
-#include "configure/defaults.h"
 #include "generator/generator.h"
 #include "generator/random_source.h"
 #include "grid/grid.h"
+#include "program/defaults.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,7 +1,6 @@
 // What the logic costs on games of every level: counting, rating, the alert scan, the first stage
 // of a hint, and each technique alone. Each benchmark goes through a sample of positions; the
 // counters tell the median, the mean and the worst of one position in microseconds.
-#include "configure/defaults.h"
 #include "game/alert_scan.h"
 #include "generator/random_source.h"
 #include "grid/grid.h"
@@ -9,6 +8,7 @@
 #include "logic/rating.h"
 #include "logic/technique.h"
 #include "logic/technique_table.h"
+#include "program/defaults.h"
 
 #include <benchmark/benchmark.h>
 

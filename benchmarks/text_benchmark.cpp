@@ -1,7 +1,7 @@
 // How long the two ways of reading cells out of a text take, by the length of the text. It must
 // grow no faster than the text does.
-#include "configure/defaults.h"
 #include "files/text_format.h"
+#include "program/defaults.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,15 +1,15 @@
 // What the player waits for in the windows: the opening of the configuration screen on each tab, a
 // step of dragging a colour, all alerts at a click, a page of games on paper, and the start of a
 // sound. Every iteration ends with the event loop at rest.
-#include "configure/defaults.h"
+#include "commands/screen_commands.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "grid/grid.h"
 #include "grid/history.h"
-#include "input/screen_commands.h"
 #include "outside/folders.h"
 #include "outside/printer.h"
 #include "outside/sound.h"
+#include "program/defaults.h"
 #include "ui/configure_screen.h"
 #include "ui/main_window.h"
 #include "ui/printer_qt.h"

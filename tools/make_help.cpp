@@ -12,13 +12,13 @@
 #include "board/look.h"
 #include "board/margin.h"
 #include "board/margin_painter.h"
-#include "configure/defaults.h"
 #include "files/text_format.h"
 #include "game/alert_scan.h"
 #include "grid/grid.h"
 #include "input/menu_table.h"
 #include "logic/rating.h"
 #include "outside/whole_file.h"
+#include "program/defaults.h"
 #include "ui/help_page.h"
 
 #include <QFileInfo>

@@ -7,11 +7,11 @@
 //
 // The same arguments give the same positions. Those of data/help were chosen from its output.
 
-#include "configure/defaults.h"
 #include "files/text_format.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
 #include "logic/technique_table.h"
+#include "program/defaults.h"
 
 #include <algorithm>
 #include <array>

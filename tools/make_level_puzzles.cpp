@@ -1,10 +1,10 @@
 // Makes games of every level with 17 to 30 givens for the benchmarks and the tests: a line for
 // each, the level and 81 marks. make_level_puzzles COUNT prints so many games of each level; the
 // seed is fixed, so the same count gives the same games.
-#include "configure/defaults.h"
 #include "generator/generator.h"
 #include "generator/random_source.h"
 #include "grid/grid.h"
+#include "program/defaults.h"
 
 #include <cstdio>
 #include <cstdlib>

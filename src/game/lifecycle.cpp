@@ -1,6 +1,5 @@
 #include "game/lifecycle.h"
 
-#include "files/file_commands.h"
 #include "game/alert_scan.h"
 #include "game/clock.h"
 #include "game/event_sound.h"
@@ -76,19 +75,6 @@ void StartGame(std::int32_t mode)
     }
 }
 
-void QuerySaveGame()
-{
-    if (GameModified == False) {
-        LastAnswer = AnsweredNothing;
-        return;
-    }
-    RunPendingEvents();
-    const Answer answer = AskYesNoCancel("Would you like to save this game first?");
-    // A game that should be kept and was not stops the caller as well: nothing is lost.
-    const bool goOn = answer == Answer::No || (answer == Answer::Yes && SaveGame());
-    LastAnswer = goOn ? AnsweredNothing : AnsweredCancel;
-}
-
 void UpdateStatistics()
 {
     if (SoundDisabled == False) {
@@ -118,29 +104,6 @@ void ScanAndTestWin()
 void FinishChange()
 {
     ScanAndTestWin();
-    DrawBoard();
-    RefreshWindow();
-}
-
-void mnuGameBlankGrid()
-{
-    QuerySaveGame();
-    if (LastAnswer == AnsweredCancel) {
-        return;
-    }
-    Grid = {};
-    StartGame(NewGame);
-    DrawBoard();
-    RefreshWindow();
-}
-
-void mnuRestartSameGame()
-{
-    if (!AskYesNo("Are you sure you want to abandon your position and start over?")) {
-        return;
-    }
-    CopyCells(History[StartSlot], Grid);
-    StartGame(SameGame);
     DrawBoard();
     RefreshWindow();
 }

@@ -1,6 +1,6 @@
-// The life of one game: how it begins, how an unsaved one is protected, and what happens when it
-// is solved. Every route that puts a position on the board ends in StartGame; every route that
-// may finish a game ends in UpdateStatistics.
+// The life of one game: how it begins, and what happens when it is solved. Every route that puts a
+// position on the board ends in StartGame; every route that may finish a game ends in
+// UpdateStatistics.
 #pragma once
 
 #include "grid/cell_word.h"
@@ -45,10 +45,6 @@ inline constexpr std::int32_t GameFromFile = 2;
 // solved grid goes on to UpdateStatistics. A new game counts as modified.
 void StartGame(std::int32_t mode);
 
-// Asks whether to save a modified game. LastAnswer is AnsweredCancel afterwards when the caller
-// must stop.
-void QuerySaveGame();
-
 // The grid is solved: starts the tune and the win display, stops the clock and counts the game.
 void UpdateStatistics();
 
@@ -57,8 +53,5 @@ void FinishChange();
 
 // Alerts and win test alone, for callers that repaint by themselves.
 void ScanAndTestWin();
-
-void mnuGameBlankGrid();
-void mnuRestartSameGame();
 
 } // namespace kelvarine

@@ -1,4 +1,4 @@
-#include "configure/defaults.h"
+#include "program/defaults.h"
 #include "ui/program.h"
 #include "ui/program_icon.h"
 

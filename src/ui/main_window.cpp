@@ -4,6 +4,7 @@
 #include "board/geometry.h"
 #include "board/look.h"
 #include "board/margin_painter.h"
+#include "commands/save_question.h"
 #include "configure/configuration.h"
 #include "game/clock.h"
 #include "game/lifecycle.h"

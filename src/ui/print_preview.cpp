@@ -1,12 +1,12 @@
 #include "ui/print_preview.h"
 
 #include "board/banner_painter.h"
+#include "commands/print_run.h"
 #include "generator/generator.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
 #include "print/page_layout.h"
 #include "print/print_painter.h"
-#include "print/print_run.h"
 #include "print/print_settings.h"
 
 #include <QPainter>

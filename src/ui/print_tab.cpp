@@ -1,9 +1,9 @@
 #include "ui/print_tab.h"
 
+#include "commands/print_run.h"
 #include "configure/box_number.h"
 #include "outside/printer.h"
 #include "print/page_layout.h"
-#include "print/print_run.h"
 #include "print/print_settings.h"
 #include "ui/digit_box.h"
 #include "ui/measure_box.h"

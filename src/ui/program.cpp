@@ -1,7 +1,7 @@
 #include "ui/program.h"
 
+#include "commands/file_commands.h"
 #include "configure/configuration.h"
-#include "files/file_commands.h"
 #include "files/sound_files.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"

@@ -1,6 +1,6 @@
 #include "ui/solutions_screen.h"
 
-#include "files/solutions_file.h"
+#include "commands/solutions_file.h"
 #include "game/screens.h"
 #include "game/search.h"
 #include "game/solutions.h"

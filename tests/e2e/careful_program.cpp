@@ -1,7 +1,7 @@
 // The program with all techniques raising alerts and apt to be applied, as a player would choose
 // them on the Logic tab.
-#include "configure/defaults.h"
 #include "grid/grid.h"
+#include "program/defaults.h"
 #include "ui/program.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 // The program with wishes that no game can meet, so that a search goes on until it is stopped.
-#include "configure/defaults.h"
 #include "generator/generator.h"
+#include "program/defaults.h"
 #include "ui/program.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+#include "commands/save_question.h"
 #include "files/file_dialog.h"
 #include "game/lifecycle.h"
 #include "grid/history.h"

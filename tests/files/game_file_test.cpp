@@ -1,3 +1,4 @@
+#include "commands/restart.h"
 #include "files/game_file.h"
 #include "game/clock.h"
 #include "game/lifecycle.h"

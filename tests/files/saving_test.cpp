@@ -1,5 +1,5 @@
 // What may go wrong while a game is saved, and that it never costs the player one.
-#include "files/file_commands.h"
+#include "commands/file_commands.h"
 #include "files/game_file.h"
 #include "game/lifecycle.h"
 #include "generator/game_number.h"

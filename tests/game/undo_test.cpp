@@ -1,3 +1,4 @@
+#include "commands/restart.h"
 #include "game/event_sound.h"
 #include "game/lifecycle.h"
 #include "game/undo.h"

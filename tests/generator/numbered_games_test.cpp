@@ -1,5 +1,5 @@
 // The games of some numbers, for good: a number names the same game on every machine.
-#include "game/new_games.h"
+#include "commands/new_games.h"
 #include "generator/generator.h"
 #include "grid/grid.h"
 #include "support/outside_double.h"

@@ -1,10 +1,10 @@
 #include "support/outside_double.h"
 
-#include "configure/defaults.h"
 #include "files/file_dialog.h"
 #include "game/screens.h"
 #include "game/solutions.h"
 #include "logic/driver.h"
+#include "program/defaults.h"
 #include "support/settings_folder.h"
 
 #include <cstdlib>

@@ -1,8 +1,8 @@
 #include "support/widget_program.h"
 
-#include "configure/defaults.h"
 #include "game/lifecycle.h"
 #include "grid/history.h"
+#include "program/defaults.h"
 
 #include <QAbstractButton>
 #include <QApplication>

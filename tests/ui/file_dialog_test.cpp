@@ -1,4 +1,5 @@
-#include "files/file_commands.h"
+#include "commands/file_commands.h"
+#include "commands/restart.h"
 #include "files/file_dialog.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"

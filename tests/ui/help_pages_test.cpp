@@ -1,5 +1,5 @@
 // What the pages of the help promise, held against the game.
-#include "files/text_commands.h"
+#include "commands/text_commands.h"
 #include "game/alert_scan.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"

@@ -1,8 +1,8 @@
-#include "print/print_run.h"
+#include "commands/print_run.h"
 
 #include "board/margin.h"
+#include "commands/new_games.h"
 #include "game/game_in_hand.h"
-#include "game/new_games.h"
 #include "game/search.h"
 #include "generator/generator.h"
 #include "grid/grid.h"

@@ -1,5 +1,6 @@
-#include "files/file_commands.h"
+#include "commands/file_commands.h"
 
+#include "commands/save_question.h"
 #include "files/file_dialog.h"
 #include "files/game_file.h"
 #include "files/text_case.h"

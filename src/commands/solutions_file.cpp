@@ -1,4 +1,4 @@
-#include "files/solutions_file.h"
+#include "commands/solutions_file.h"
 
 #include "files/file_dialog.h"
 #include "game/lifecycle.h"

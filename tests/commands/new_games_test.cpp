@@ -1,6 +1,6 @@
+#include "commands/new_games.h"
 #include "game/clock.h"
 #include "game/lifecycle.h"
-#include "game/new_games.h"
 #include "game/search.h"
 #include "game/undo.h"
 #include "generator/game_number.h"

@@ -1,4 +1,5 @@
 #include "board/geometry.h"
+#include "commands/print_run.h"
 #include "game/game_in_hand.h"
 #include "game/lifecycle.h"
 #include "generator/generator.h"
@@ -6,7 +7,6 @@
 #include "generator/random_source.h"
 #include "logic/driver.h"
 #include "print/page_layout.h"
-#include "print/print_run.h"
 #include "print/print_settings.h"
 #include "support/outside_double.h"
 #include "support/play.h"

@@ -1,8 +1,9 @@
-#include "configure/defaults.h"
+#include "program/defaults.h"
 
 #include "board/geometry.h"
 #include "board/look.h"
 #include "board/margin.h"
+#include "commands/print_run.h"
 #include "configure/configuration.h"
 #include "files/file_dialog.h"
 #include "game/clock.h"
@@ -21,7 +22,6 @@
 #include "input/toolbar.h"
 #include "logic/driver.h"
 #include "print/page_layout.h"
-#include "print/print_run.h"
 #include "print/print_settings.h"
 
 namespace kelvarine {

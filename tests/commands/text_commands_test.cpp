@@ -1,4 +1,4 @@
-#include "files/text_commands.h"
+#include "commands/text_commands.h"
 #include "files/text_format.h"
 #include "game/lifecycle.h"
 #include "generator/game_number.h"

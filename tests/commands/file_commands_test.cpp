@@ -1,4 +1,6 @@
-#include "files/file_commands.h"
+#include "commands/file_commands.h"
+#include "commands/restart.h"
+#include "commands/save_question.h"
 #include "files/file_dialog.h"
 #include "files/game_file.h"
 #include "game/lifecycle.h"

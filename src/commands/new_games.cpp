@@ -1,5 +1,6 @@
-#include "game/new_games.h"
+#include "commands/new_games.h"
 
+#include "commands/save_question.h"
 #include "game/game_in_hand.h"
 #include "game/lifecycle.h"
 #include "generator/game_number.h"

@@ -1,4 +1,4 @@
-#include "input/screen_commands.h"
+#include "commands/screen_commands.h"
 
 #include "game/screens.h"
 #include "outside/help.h"

@@ -1,5 +1,6 @@
+#include "commands/save_question.h"
+#include "commands/solutions_file.h"
 #include "files/file_dialog.h"
-#include "files/solutions_file.h"
 #include "game/lifecycle.h"
 #include "game/solutions.h"
 #include "grid/grid.h"

@@ -1,5 +1,6 @@
-#include "files/text_commands.h"
+#include "commands/text_commands.h"
 
+#include "commands/save_question.h"
 #include "files/text_case.h"
 #include "files/text_format.h"
 #include "game/lifecycle.h"

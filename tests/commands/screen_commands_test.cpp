@@ -1,5 +1,5 @@
+#include "commands/screen_commands.h"
 #include "game/screens.h"
-#include "input/screen_commands.h"
 #include "support/outside_double.h"
 #include "support/play.h"
 
