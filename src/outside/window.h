@@ -5,6 +5,18 @@
 
 namespace kelvarine {
 
+// Makes the main window, which is not on view yet. It stands until the program has ended.
+void MakeMainWindow();
+
+// Puts the main window where it stood last, in reach of the screens that are there, and shows it.
+void ShowMainWindow();
+
+// Brings the main window to the front and gives it the keyboard.
+void ActivateMainWindow();
+
+// Keeps in MainPlace and MainMaximised where the main window stands.
+void KeepMainPlace();
+
 // Sets the title, in UTF-8.
 void SetWindowTitle(std::string_view title);
 

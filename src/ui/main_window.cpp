@@ -4,19 +4,15 @@
 #include "board/geometry.h"
 #include "board/look.h"
 #include "board/margin_painter.h"
-#include "commands/save_question.h"
-#include "configure/configuration.h"
 #include "game/clock.h"
-#include "game/lifecycle.h"
 #include "game/screens.h"
-#include "game/search.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
 #include "input/keys.h"
 #include "input/mouse.h"
 #include "input/toolbar.h"
 #include "outside/board.h"
-#include "outside/sound.h"
+#include "program/program.h"
 #include "ui/board_widget.h"
 #include "ui/key_decoder.h"
 #include "ui/menus.h"
@@ -136,16 +132,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
 {
     const QScopedValueRollback nowAsking(asking, true);
     event->ignore();
-    if (SearchActive != False) {
-        ReadyForCommand(); // asks whether to stop it
-        return;
-    }
-    QuerySaveGame();
-    if (LastAnswer != AnsweredCancel) {
-        StopSound();
-        KeepPlace();
-        // Before the other screens go, so that those open now count as open.
-        WriteConfiguration();
+    if (EndProgram()) {
         event->accept();
     }
 }

@@ -49,6 +49,9 @@ public:
     // Puts the window where it last stood, in reach of the screens that are there, and shows it.
     void ShowAtItsPlace();
 
+    // Keeps where the window stands, unless it is not on view.
+    void KeepPlace();
+
     // Closes the window as the player does. While a closing before waits for its answer, that one
     // decides and nothing happens. True when the window is gone.
     bool CloseUnlessAsking();
@@ -63,7 +66,6 @@ protected:
 
 private:
     void BuildMenus();
-    void KeepPlace();
 
     bool asking = false; // a closing waits for the player's answer
     QMenuBar *timeBar;   // the clock, at the far right end of the menu bar

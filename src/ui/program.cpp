@@ -1,16 +1,8 @@
 #include "ui/program.h"
 
-#include "commands/file_commands.h"
-#include "configure/configuration.h"
-#include "files/sound_files.h"
-#include "game/lifecycle.h"
-#include "game/screens.h"
-#include "game/statistics.h"
-#include "generator/random_source.h"
-#include "grid/history.h"
-#include "input/toolbar.h"
 #include "outside/events.h"
-#include "outside/screens.h"
+#include "outside/window.h"
+#include "program/program.h"
 #include "ui/help_key.h"
 #include "ui/main_window.h"
 #include "ui/session.h"
@@ -19,50 +11,56 @@
 #include <QDate>
 #include <QTimer>
 
+#include <memory>
+#include <utility>
+
 namespace kelvarine {
 
 namespace {
 
-// The screens that were open when the program ended last. The solutions screen is none of them:
-// there is no search to show.
-void OpenFormerScreens()
-{
-    if (ConfigureOpen != False) {
-        ShowConfigureScreen();
-    }
-    if (StatisticsOpen != False) {
-        mnuStatistics();
-    }
-}
+std::unique_ptr<MainWindow> theWindow;
 
 } // namespace
 
-int RunProgram(const std::string &gameFile)
+void MakeMainWindow()
 {
-    const QDate today = QDate::currentDate();
-    init_genrand(StartSeed(today.year(), today.month(), today.day(), SecondsSinceMidnight()));
-
-    FindSoundFiles();
-    ReadConfiguration();
-    SolutionsOpen = False;
-    UpdateToolTips();
-
-    MainWindow window;
+    theWindow = std::make_unique<MainWindow>();
     WatchForTheEnd();
     WatchForHelpKey();
-    StartGame(NewGame);
-    GameModified = False;
-    window.ShowAtItsPlace();
-    OpenFormerScreens();
-    window.activateWindow(); // the first keys are for the board, not for a screen that came back
-    // Within the event loop, for only there does the end of the program take a message away.
-    QTimer firstTurn;
-    firstTurn.setSingleShot(true);
-    QObject::connect(&firstTurn, &QTimer::timeout, &window, [&] { OpenGameFile(gameFile); });
-    if (!gameFile.empty()) {
-        firstTurn.start(0);
-    }
-    return QApplication::exec();
+}
+
+void ShowMainWindow()
+{
+    Window()->ShowAtItsPlace();
+}
+
+void ActivateMainWindow()
+{
+    Window()->activateWindow();
+}
+
+void KeepMainPlace()
+{
+    Window()->KeepPlace();
+}
+
+Day Today()
+{
+    const QDate today = QDate::currentDate();
+    return {today.year(), today.month(), today.day()};
+}
+
+void CallFromEventLoop(std::function<void()> deed)
+{
+    QTimer::singleShot(0, Window(), std::move(deed));
+}
+
+int RunProgram(const std::string &gameFile)
+{
+    StartProgram(gameFile);
+    const int result = QApplication::exec();
+    theWindow.reset();
+    return result;
 }
 
 } // namespace kelvarine

@@ -1,4 +1,4 @@
-// The program from its first window to its end.
+// The program over the toolkit, from its first window to its end.
 #pragma once
 
 #include <string>

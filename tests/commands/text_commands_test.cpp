@@ -50,7 +50,7 @@ void OpenTyped(std::string text)
 // The state as it is now, apart from what the record holds.
 std::string StateApartFromCalls()
 {
-    const PresentationRecord record = Seen;
+    const OutsideRecord record = Seen;
     ForgetRecord();
     Seen.Clipboard.clear();
     std::string state = ProgramState();

@@ -4,6 +4,16 @@
 #include "game/screens.h"
 #include "game/solutions.h"
 #include "logic/driver.h"
+#include "outside/clipboard.h"
+#include "outside/events.h"
+#include "outside/file_dialog.h"
+#include "outside/help.h"
+#include "outside/messages.h"
+#include "outside/printer.h"
+#include "outside/screens.h"
+#include "outside/sound.h"
+#include "outside/timers.h"
+#include "outside/window.h"
 #include "program/defaults.h"
 #include "support/settings_folder.h"
 
@@ -15,7 +25,7 @@ namespace kelvarine {
 
 namespace testing {
 
-PresentationRecord Seen;
+OutsideRecord Seen;
 
 namespace {
 
@@ -180,6 +190,16 @@ void SetWaitCursor(bool on)
     Seen.WaitCursorDepth += on ? 1 : -1;
 }
 
+void CallFromEventLoop(std::function<void()> deed)
+{
+    Seen.LaterDeeds.push_back(std::move(deed));
+}
+
+Day Today()
+{
+    return {2026, 11, 22};
+}
+
 double SecondsSinceMidnight()
 {
     return Seen.Now;
@@ -219,6 +239,26 @@ std::string ClipboardText()
 void SetClipboardText(std::string_view text)
 {
     Seen.Clipboard = text;
+}
+
+void MakeMainWindow()
+{
+    Record("window made", "");
+}
+
+void ShowMainWindow()
+{
+    Record("window shown", "");
+}
+
+void ActivateMainWindow()
+{
+    Record("window in front", "");
+}
+
+void KeepMainPlace()
+{
+    Record("place kept", "");
 }
 
 void SetWindowTitle(std::string_view title)

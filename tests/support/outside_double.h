@@ -23,7 +23,7 @@ struct PrintedThing {
     std::int32_t SearchedFor = 0; // SearchKind
 };
 
-struct PresentationRecord {
+struct OutsideRecord {
     std::vector<std::string> Calls;    // every call in order, such as "message: text"
     std::vector<std::string> Messages; // texts of ShowMessage
     std::vector<std::string> Titles;   // their titles
@@ -45,6 +45,7 @@ struct PresentationRecord {
     int WinInterval = 0;
     std::uint32_t SoundVolume = 0;
     std::function<void()> OnYield;
+    std::vector<std::function<void()>> LaterDeeds; // for the event loop, to be done by the test
     std::function<void()> OnBox;       // runs once, while the next box, question or dialog stands
     std::deque<std::string> FileNames; // typed into the file dialog, OK after each; then Cancel
     std::size_t FileTypeSelected = 0;
@@ -60,7 +61,7 @@ struct PresentationRecord {
     std::function<void(const PrintedThing &)> OnPrint;
 };
 
-extern PresentationRecord Seen;
+extern OutsideRecord Seen;
 
 // Puts the program and the record to the state of a start, with empty folders for what the program
 // keeps, unless the test has SettingsFolders of its own.

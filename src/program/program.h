@@ -1,0 +1,18 @@
+// The program from its start to its end: the order of the steps, whatever front end stands around
+// them.
+#pragma once
+
+#include <string>
+
+namespace kelvarine {
+
+// Starts the program, whose state must have its defaults: reads the player's settings, opens the
+// main window on an empty grid with the screens that were open, and lets the event loop open a game
+// file, given by its full path, unless that is empty.
+void StartProgram(const std::string &gameFile);
+
+// Does what is due before the main window goes: asks whether to stop a search, or whether to save,
+// and keeps the settings. False when the player would rather stay.
+bool EndProgram();
+
+} // namespace kelvarine
