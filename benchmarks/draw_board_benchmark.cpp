@@ -1,9 +1,9 @@
 // How long a full painting of the board takes, by the width of the window and by what is on it.
-#include "board/board_painter.h"
 #include "board/geometry.h"
 #include "board/look.h"
 #include "grid/grid.h"
 #include "outside/board.h"
+#include "paint/board_painter.h"
 #include "program/defaults.h"
 
 #include <QGuiApplication>

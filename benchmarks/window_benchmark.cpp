@@ -10,9 +10,9 @@
 #include "outside/printer.h"
 #include "outside/sound.h"
 #include "program/defaults.h"
-#include "ui/configure_screen.h"
-#include "ui/main_window.h"
-#include "ui/printer_qt.h"
+#include "ui/configure/configure_screen.h"
+#include "ui/outside/printer_qt.h"
+#include "ui/window/main_window.h"
 
 #include <QAbstractButton>
 #include <QApplication>

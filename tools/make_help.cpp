@@ -7,19 +7,19 @@
 //                                             PAGE with FRAME in place of @EXAMPLE@, and the
 //                                             picture of its position with the marks of the first
 //                                             hint
-#include "board/board_painter.h"
 #include "board/geometry.h"
 #include "board/look.h"
 #include "board/margin.h"
-#include "board/margin_painter.h"
 #include "files/text_format.h"
 #include "game/alert_scan.h"
 #include "grid/grid.h"
 #include "input/menu_table.h"
 #include "logic/rating.h"
 #include "outside/whole_file.h"
+#include "paint/board_painter.h"
+#include "paint/margin_painter.h"
 #include "program/defaults.h"
-#include "ui/help_page.h"
+#include "ui/screens/help_page.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #include "program/defaults.h"
-#include "ui/program.h"
-#include "ui/program_icon.h"
+#include "ui/window/program.h"
+#include "ui/window/program_icon.h"
 
 #include <QApplication>
 #include <QFile>

@@ -2,7 +2,7 @@
 // them on the Logic tab.
 #include "grid/grid.h"
 #include "program/defaults.h"
-#include "ui/program.h"
+#include "ui/window/program.h"
 
 #include <QApplication>
 

@@ -1,7 +1,7 @@
 // The program with wishes that no game can meet, so that a search goes on until it is stopped.
 #include "generator/generator.h"
 #include "program/defaults.h"
-#include "ui/program.h"
+#include "ui/window/program.h"
 
 #include <QApplication>
 

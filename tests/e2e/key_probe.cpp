@@ -1,5 +1,5 @@
 // A window that prints, for every key, the code and the modifier sum that the board would get.
-#include "ui/key_decoder.h"
+#include "ui/window/key_decoder.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,9 +1,9 @@
 #include "fuzz/fuzz.h"
 
-#include "board/board_painter.h"
 #include "board/geometry.h"
 #include "grid/grid.h"
 #include "outside/board.h"
+#include "paint/board_painter.h"
 #include "support/outside_double.h"
 
 #include <QGuiApplication>

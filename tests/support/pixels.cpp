@@ -1,7 +1,7 @@
 #include "support/pixels.h"
 
-#include "board/board_painter.h"
 #include "grid/colour.h"
+#include "paint/board_painter.h"
 #include "support/outside_double.h"
 
 #include <algorithm>

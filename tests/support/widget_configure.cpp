@@ -1,6 +1,5 @@
 #include "support/widget_configure.h"
 
-#include "board/board_painter.h"
 #include "board/geometry.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
@@ -8,6 +7,7 @@
 #include "grid/history.h"
 #include "outside/board.h"
 #include "outside/screens.h"
+#include "paint/board_painter.h"
 #include "support/positions.h"
 
 #include <QAbstractButton>

@@ -5,7 +5,7 @@
 #include "grid/colour.h"
 #include "grid/houses.h"
 #include "support/widget_program.h"
-#include "ui/configure_screen.h"
+#include "ui/configure/configure_screen.h"
 
 #include <QScrollBar>
 #include <QtTest>

@@ -1,7 +1,7 @@
 // Events as the window system sends them, and what the player would see of the program.
 #pragma once
 
-#include "ui/main_window.h"
+#include "ui/window/main_window.h"
 
 #include <QEvent>
 #include <QPoint>

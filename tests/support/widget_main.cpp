@@ -1,5 +1,5 @@
 // main of the tests that open windows.
-#include "ui/help_window.h"
+#include "ui/screens/help_window.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>

@@ -2,10 +2,10 @@
 
 #include "board/look.h"
 #include "input/keys.h"
+#include "paint/print_painter.h"
 #include "print/page_layout.h"
-#include "print/print_painter.h"
 #include "support/widget_program.h"
-#include "ui/printer_qt.h"
+#include "ui/outside/printer_qt.h"
 
 #include <QApplication>
 #include <QDir>

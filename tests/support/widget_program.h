@@ -2,7 +2,7 @@
 // opens.
 #pragma once
 
-#include "ui/main_window.h"
+#include "ui/window/main_window.h"
 
 #include <QMessageBox>
 

@@ -1,0 +1,94 @@
+#include "paint/cell_painter.h"
+
+#include "board/fill.h"
+#include "board/look.h"
+#include "grid/grid.h"
+#include "paint/frame_painter.h"
+#include "paint/texture_painter.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr int FrameThickness = 2; // also the inset, so the frame ends at the edge of the cell
+constexpr int RingPen = 2;
+
+// The alert ring in a cell of a size, kept because all cells of a board share it.
+struct RingPicture {
+    int Width = 0; // logical pixels
+    int Height = 0;
+    double Ratio = 0;
+    Mask Shape;
+};
+
+RingPicture ringPicture; // picture cache
+
+Mask PaintRing(double ratio)
+{
+    QImage picture(static_cast<int>(std::ceil(CellWidth * ratio)),
+                   static_cast<int>(std::ceil(CellHeight * ratio)),
+                   QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    const int radius = std::max(1, std::max(CellWidth, CellHeight) / 2) - 1;
+    if (radius > 0) {
+        const auto [across, down] = CellEllipse(radius);
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(Qt::black, RingPen));
+        const QPoint centre(CellWidth / 2, CellHeight / 2);
+        painter.drawEllipse(QPointF(centre), across, down);
+    }
+    return MaskOf(picture);
+}
+
+const Mask &RingFor(double ratio)
+{
+    RingPicture &ring = ringPicture;
+    if (ring.Width != CellWidth || ring.Height != CellHeight || ring.Ratio != ratio) {
+        ring = {CellWidth, CellHeight, ratio, PaintRing(ratio)};
+    }
+    return ring.Shape;
+}
+
+void FillCell(const Canvas &canvas, Cell cell, int x, int y)
+{
+    const CellFill fill = FillOf(cell);
+    if (fill.Paint.has_value()) {
+        FillCorners(canvas, {x, y}, {x + CellWidth - 1, y + CellHeight - 1}, *fill.Paint);
+    }
+    TextureRectangle(canvas, {x, y, CellWidth, CellHeight}, fill.Texture);
+}
+
+void FrameCell(const Canvas &canvas, CellWord word, int x, int y)
+{
+    const bool selected = (word & SelectedBit) != 0;
+    const bool given = (word & GivenBit) != 0;
+    const Flag shown = selected ? SelectedCells3D : given ? GivenCells3D : UnknownCells3D;
+    if (shown != False) {
+        DrawFrame3D(canvas, selected ? Sunken : Raised, FrameThickness, x + FrameThickness,
+                    CellWidth - 2 * FrameThickness, y + FrameThickness,
+                    CellHeight - 2 * FrameThickness);
+    }
+}
+
+} // namespace
+
+void DrawCell(const Canvas &canvas, Cell cell)
+{
+    const CellWord word = WordAt(cell);
+    const int x = CellX(cell.Column);
+    const int y = CellY(cell.Row);
+    FillCell(canvas, cell, x, y);
+    FrameCell(canvas, word, x, y);
+    if ((word & AlertBit) != 0) {
+        BlendMask(canvas, RingFor(canvas.Ratio), {x, y}, ColourTable[AlertColour]);
+    }
+}
+
+} // namespace kelvarine

@@ -1,0 +1,129 @@
+#include "paint/grid_painter.h"
+
+#include "board/geometry.h"
+#include "board/look.h"
+#include "grid/colour.h"
+#include "grid/houses.h"
+#include "paint/frame_painter.h"
+#include "paint/texture_painter.h"
+
+#include <array>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr std::array<int, 3> BoxLines{1, 4, 7};
+
+int BoxWidth()
+{
+    return 3 * CellWidth + 2 * SecondaryThickness;
+}
+
+int BoxHeight()
+{
+    return 3 * CellHeight + 2 * SecondaryThickness;
+}
+
+bool BeginsBox(int line)
+{
+    return BoxStart[static_cast<std::size_t>(line)] == line;
+}
+
+void DrawBoxLines(const Canvas &canvas, int x, int y)
+{
+    const int thickness = PrimaryThickness;
+    if (PrimaryGrid3D != False) {
+        DrawBoxFrame3D(canvas, false, thickness / 2, x, BoxWidth(), y, BoxHeight());
+        return;
+    }
+    const Colour colour = ColourTable[PrimaryLineColour];
+    FillCorners(canvas, {x - thickness, y - 1}, {x + BoxWidth() + thickness - 1, y - thickness},
+                colour);
+    FillCorners(canvas, {x - 1, y - thickness}, {x - thickness, y + BoxHeight() + thickness - 1},
+                colour);
+}
+
+// Flat lines run through a whole box and are drawn at its first cell of their row or column;
+// lines in 3D are drawn cell by cell.
+void DrawSecondaryLines(const Canvas &canvas, Cell cell)
+{
+    const int x = CellX(cell.Column);
+    const int y = CellY(cell.Row);
+    const int half = SecondaryThickness / 2;
+    const bool flat = SecondaryGrid3D == False;
+    const bool left = BeginsBox(cell.Column);
+    const bool top = BeginsBox(cell.Row);
+    const Colour colour = ColourTable[SecondaryLineColour];
+    if (left && !top && flat) {
+        FillCorners(canvas, {x, y - SecondaryThickness}, {x + BoxWidth() - 1, y - 1}, colour);
+    }
+    if (!left && !flat) {
+        DrawVerticalSecondaryLine3D(canvas, half, x, y);
+    }
+    if (top && !left && flat) {
+        FillCorners(canvas, {x - SecondaryThickness, y}, {x - 1, y + BoxHeight() - 1}, colour);
+    }
+    if (!top && !flat) {
+        DrawHorizontalSecondaryLine3D(canvas, half, x, y);
+    }
+}
+
+} // namespace
+
+void DrawPrimaryGrid(const Canvas &canvas)
+{
+    if (PrimaryThickness <= 0) {
+        return;
+    }
+    for (const int column : BoxLines) {
+        for (const int row : BoxLines) {
+            DrawBoxLines(canvas, CellX(column), CellY(row));
+        }
+    }
+}
+
+void CloseGrid(const Canvas &canvas)
+{
+    const int thickness = PrimaryThickness;
+    if (thickness <= 0) {
+        return;
+    }
+    if (PrimaryGrid3D != False) {
+        const int origin = thickness / 2 + BorderThickness;
+        DrawBoxFrame3D(canvas, true, thickness / 2, origin, 3 * (BoxWidth() + thickness), origin,
+                       3 * (BoxHeight() + thickness));
+        return;
+    }
+    const int begin = BorderThickness + thickness;
+    const int right = begin + 3 * (BoxWidth() + thickness) - 1;
+    const int bottom = begin + 3 * (BoxHeight() + thickness) - 1;
+    const Colour colour = ColourTable[PrimaryLineColour];
+    FillCorners(canvas, {begin, bottom}, {right, bottom - thickness + 1}, colour);
+    FillCorners(canvas, {right, begin}, {right - thickness + 1, bottom}, colour);
+}
+
+void DrawSecondaryGrid(const Canvas &canvas)
+{
+    if (SecondaryThickness <= 0) {
+        return;
+    }
+    for (const Cell cell : Cells) {
+        DrawSecondaryLines(canvas, cell);
+    }
+}
+
+void TextureBackground(const Canvas &canvas)
+{
+    TextureRectangle(canvas, {BorderThickness, BorderThickness, canvas.Width, canvas.Height},
+                     GridTexture);
+}
+
+void DrawExteriorBorder(const Canvas &canvas)
+{
+    DrawFrame3D(canvas, Raised, BorderThickness, BorderThickness,
+                canvas.Width - 2 * BorderThickness, BorderThickness,
+                canvas.Height - 2 * BorderThickness);
+}
+
+} // namespace kelvarine

@@ -1,0 +1,24 @@
+// The lines of the board: those between boxes and between cells, the texture under them, and the
+// border round it all.
+#pragma once
+
+#include "paint/pixel_painter.h"
+
+namespace kelvarine {
+
+// Lines above and left of every box. Nothing with a PrimaryThickness of 0.
+void DrawPrimaryGrid(const Canvas &canvas);
+
+// Lines right of and below the last boxes.
+void CloseGrid(const Canvas &canvas);
+
+// Lines between the cells of a box.
+void DrawSecondaryGrid(const Canvas &canvas);
+
+// Texture over everything inside the border.
+void TextureBackground(const Canvas &canvas);
+
+// The raised border round the board.
+void DrawExteriorBorder(const Canvas &canvas);
+
+} // namespace kelvarine

@@ -1,0 +1,56 @@
+#include "paint/link_painter.h"
+
+#include "board/links.h"
+#include "board/look.h"
+#include "game/win_display.h"
+#include "grid/grid.h"
+
+#include <QImage>
+#include <QPainter>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr int LinkPen = 2;
+
+void DrawLines(QPainter &painter, const std::vector<Line> &lines)
+{
+    for (const Line &line : lines) {
+        painter.drawLine(line.From.X, line.From.Y, line.To.X, line.To.Y);
+    }
+}
+
+void DrawDiscs(QPainter &painter, const std::vector<Disc> &discs)
+{
+    painter.setBrush(painter.pen().color());
+    painter.setPen(Qt::NoPen);
+    for (const Disc &disc : discs) {
+        const auto [across, down] = CellEllipse(disc.Radius);
+        painter.drawEllipse(QPointF(disc.Centre.X, disc.Centre.Y), across, down);
+    }
+}
+
+} // namespace
+
+void DrawLinks(QImage &picture)
+{
+    const bool links = ShowsStrongLinks();
+    const bool chain = ChainColumns[0] > 0;
+    if (WinDisplayRunning != False || (!links && !chain)) {
+        return;
+    }
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor::fromRgb(ColourTable[AlertColour]), LinkPen));
+    if (links) {
+        DrawLines(painter, StrongLinks());
+    }
+    if (chain) {
+        const ChainDrawing drawing = ChainOnBoard();
+        DrawLines(painter, drawing.Lines);
+        DrawDiscs(painter, drawing.Discs);
+    }
+}
+
+} // namespace kelvarine

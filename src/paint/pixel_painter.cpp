@@ -1,0 +1,158 @@
+#include "paint/pixel_painter.h"
+
+#include "grid/colour.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr std::uint32_t Opaque = 0xFF000000;
+
+std::uint32_t *LineOf(const Canvas &canvas, int y)
+{
+    return canvas.Pixels + y * canvas.Stride;
+}
+
+void FillDeviceArea(const Canvas &canvas, const DeviceArea &area, Colour colour)
+{
+    for (int y = area.Top; y < area.Bottom; ++y) {
+        std::fill(LineOf(canvas, y) + area.Left, LineOf(canvas, y) + area.Right, Opaque | colour);
+    }
+}
+
+// The part of an area that lies in the picture.
+DeviceArea Cut(const Canvas &canvas, const DeviceArea &area)
+{
+    const int left = std::clamp(area.Left, 0, canvas.DeviceWidth);
+    const int top = std::clamp(area.Top, 0, canvas.DeviceHeight);
+    return {left, top, std::clamp(area.Right, left, canvas.DeviceWidth),
+            std::clamp(area.Bottom, top, canvas.DeviceHeight)};
+}
+
+// (below * (255 - cover) + above * cover) / 255 for the four bytes of a pixel, two at a time.
+std::uint32_t Blend(std::uint32_t below, std::uint32_t above, std::uint32_t cover)
+{
+    constexpr std::uint32_t pairs = 0x00FF00FF;
+    constexpr std::uint32_t halves = 0x00800080;
+    const auto mix = [cover](std::uint32_t low, std::uint32_t high) {
+        const std::uint32_t sum = low * (255 - cover) + high * cover + halves;
+        return ((sum + (sum >> 8 & pairs)) >> 8) & pairs;
+    };
+    return mix(below & pairs, above & pairs) | mix(below >> 8 & pairs, above >> 8 & pairs) << 8;
+}
+
+} // namespace
+
+Canvas CanvasOf(QImage &picture)
+{
+    if (picture.format() != QImage::Format_RGB32) {
+        return {};
+    }
+    Canvas canvas;
+    canvas.Pixels = reinterpret_cast<std::uint32_t *>(picture.bits());
+    canvas.Stride = picture.bytesPerLine() / static_cast<qsizetype>(sizeof(std::uint32_t));
+    canvas.DeviceWidth = picture.width();
+    canvas.DeviceHeight = picture.height();
+    canvas.Ratio = picture.devicePixelRatio();
+    canvas.Width = static_cast<int>(std::lround(picture.width() / canvas.Ratio));
+    canvas.Height = static_cast<int>(std::lround(picture.height() / canvas.Ratio));
+    return canvas;
+}
+
+Canvas PaperCanvas(QPainter &paper, QImage &beneath)
+{
+    Canvas canvas = CanvasOf(beneath);
+    canvas.Paper = &paper;
+    return canvas;
+}
+
+int DeviceEdge(const Canvas &canvas, int position)
+{
+    constexpr double farthest = 1e8; // keeps sums of edges within their type
+    const double edge = std::round(position * canvas.Ratio);
+    return static_cast<int>(std::clamp(edge, -farthest, farthest));
+}
+
+DeviceArea DevicePart(const Canvas &canvas, const Rectangle &rectangle)
+{
+    return Cut(canvas, {DeviceEdge(canvas, rectangle.X), DeviceEdge(canvas, rectangle.Y),
+                        DeviceEdge(canvas, rectangle.X + rectangle.Width),
+                        DeviceEdge(canvas, rectangle.Y + rectangle.Height)});
+}
+
+void FillCorners(const Canvas &canvas, Point a, Point b, Colour colour)
+{
+    const int left = std::min(a.X, b.X);
+    const int top = std::min(a.Y, b.Y);
+    const Rectangle all{left, top, std::max(a.X, b.X) - left + 1, std::max(a.Y, b.Y) - top + 1};
+    const DeviceArea area = DevicePart(canvas, all);
+    FillDeviceArea(canvas, area, colour);
+    if (canvas.Paper != nullptr) {
+        canvas.Paper->fillRect(
+            QRectF(area.Left, area.Top, area.Right - area.Left, area.Bottom - area.Top),
+            QColor::fromRgb(colour));
+    }
+}
+
+void DrawLine(const Canvas &canvas, Point from, Point to, Colour colour)
+{
+    if (from.X == to.X || from.Y == to.Y) {
+        FillCorners(canvas, from, to, colour);
+        return;
+    }
+    if (canvas.Paper != nullptr) {
+        const QPointF middle(0.5, 0.5); // of a pixel
+        canvas.Paper->setPen(QPen(QColor::fromRgb(colour), 1, Qt::SolidLine, Qt::FlatCap));
+        canvas.Paper->drawLine(QPointF(from.X, from.Y) + middle, QPointF(to.X, to.Y) + middle);
+        return;
+    }
+    const int x = DeviceEdge(canvas, from.X);
+    const int y = DeviceEdge(canvas, from.Y);
+    const int width = DeviceEdge(canvas, to.X) - x;
+    const int height = DeviceEdge(canvas, to.Y) - y;
+    const int steps = std::max(std::abs(width), std::abs(height));
+    const int pen = std::max(1, static_cast<int>(std::lround(canvas.Ratio)));
+    for (int step = 0; step <= steps; ++step) {
+        const double part = static_cast<double>(step) / std::max(steps, 1);
+        const int left = x + static_cast<int>(std::lround(width * part));
+        const int top = y + static_cast<int>(std::lround(height * part));
+        FillDeviceArea(canvas, Cut(canvas, {left, top, left + pen, top + pen}), colour);
+    }
+}
+
+Mask MaskOf(const QImage &painted)
+{
+    Mask mask{painted.width(), painted.height(), {}};
+    mask.Coverage.reserve(static_cast<std::size_t>(mask.Width) *
+                          static_cast<std::size_t>(mask.Height));
+    for (int y = 0; y < mask.Height; ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(painted.constScanLine(y));
+        for (int x = 0; x < mask.Width; ++x) {
+            mask.Coverage.push_back(static_cast<std::uint8_t>(qAlpha(line[x])));
+        }
+    }
+    return mask;
+}
+
+void BlendMask(const Canvas &canvas, const Mask &mask, Point place, Colour colour)
+{
+    const int x = DeviceEdge(canvas, place.X);
+    const int y = DeviceEdge(canvas, place.Y);
+    const DeviceArea area = Cut(canvas, {x, y, x + mask.Width, y + mask.Height});
+    for (int line = area.Top; line < area.Bottom; ++line) {
+        const std::uint8_t *covers =
+            mask.Coverage.data() + static_cast<std::ptrdiff_t>(line - y) * mask.Width;
+        std::uint32_t *pixels = LineOf(canvas, line);
+        for (int column = area.Left; column < area.Right; ++column) {
+            if (const std::uint8_t cover = covers[column - x]; cover != 0) {
+                pixels[column] = Blend(pixels[column], Opaque | colour, cover);
+            }
+        }
+    }
+}
+
+} // namespace kelvarine

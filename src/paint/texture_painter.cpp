@@ -1,0 +1,120 @@
+#include "paint/texture_painter.h"
+
+#include "board/fill.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+// The macro declares a function of the global namespace, so it cannot stand in ours.
+static void OpenResources()
+{
+    Q_INIT_RESOURCE(kelvarine);
+}
+
+namespace kelvarine {
+
+namespace {
+
+QImage TextureStrip()
+{
+    OpenResources();
+    return QImage(":/textures.png").convertToFormat(QImage::Format_RGB32);
+}
+
+// The tiles at the size that they have on a screen, and for which device pixel ratio that is.
+struct TileSet {
+    double Ratio = 0;
+    std::array<QImage, TileCount> Tiles;
+};
+
+TileSet tileSet; // picture cache
+
+void CutTiles(double ratio)
+{
+    const QImage strip = TextureStrip();
+    const int side = std::max(1, static_cast<int>(std::lround(TileSide * ratio)));
+    for (int tile = 0; tile < TileCount; ++tile) {
+        const QImage cut = strip.copy(0, tile * TileSide, TileSide, TileSide);
+        // Not smoothed: greys between those of the tiles would tint the colours beneath.
+        tileSet.Tiles[static_cast<std::size_t>(tile)] = cut.scaled(side, side);
+    }
+    tileSet.Ratio = ratio;
+}
+
+const QImage &TileFor(std::int32_t texture, double ratio)
+{
+    if (tileSet.Ratio != ratio) {
+        CutTiles(ratio);
+    }
+    return tileSet.Tiles[static_cast<std::size_t>(texture)];
+}
+
+// ANDs a line of a tile, repeated, onto the pixels from left to right; the tile began at origin.
+void TextureLine(std::uint32_t *pixels, int left, int right, const std::uint32_t *tile, int side,
+                 int origin)
+{
+    while (left < right) {
+        const int begin = (left - origin) % side;
+        const int length = std::min(side - begin, right - left);
+        for (int k = 0; k < length; ++k) {
+            pixels[left + k] &= tile[begin + k];
+        }
+        left += length;
+    }
+}
+
+// Pictures drawn on paper latest. Most cells of a page look alike, and a picture that is drawn
+// again takes no room in a document.
+constexpr std::size_t KeptPictures = 8;
+std::array<QImage, KeptPictures> paperPictures; // picture cache
+std::size_t oldestPicture;
+
+const QImage &KeptPicture(const QImage &picture)
+{
+    const auto *known = std::find(paperPictures.begin(), paperPictures.end(), picture);
+    if (known != paperPictures.end()) {
+        return *known;
+    }
+    QImage &kept = paperPictures[oldestPicture];
+    oldestPicture = (oldestPicture + 1) % KeptPictures;
+    kept = picture.copy();
+    return kept;
+}
+
+// Shows a part of the pixels on paper, each a sharp square.
+void ShowOnPaper(const Canvas &canvas, const DeviceArea &area)
+{
+    const auto *begin =
+        reinterpret_cast<const uchar *>(canvas.Pixels + area.Top * canvas.Stride + area.Left);
+    const QImage part(begin, area.Right - area.Left, area.Bottom - area.Top,
+                      canvas.Stride * static_cast<qsizetype>(sizeof(std::uint32_t)),
+                      QImage::Format_RGB32);
+    canvas.Paper->drawImage(QRectF(area.Left, area.Top, part.width(), part.height()),
+                            KeptPicture(part));
+}
+
+} // namespace
+
+void TextureRectangle(const Canvas &canvas, const Rectangle &rectangle, std::int32_t texture)
+{
+    const DeviceArea area = DevicePart(canvas, rectangle);
+    if (texture <= NoTexture || texture >= TileCount || area.Left == area.Right ||
+        area.Top == area.Bottom) {
+        return;
+    }
+    const QImage &tile = TileFor(texture, canvas.Ratio);
+    const int originX = DeviceEdge(canvas, rectangle.X);
+    const int originY = DeviceEdge(canvas, rectangle.Y);
+    for (int y = area.Top; y < area.Bottom; ++y) {
+        const int tileLine = (y - originY) % tile.height();
+        TextureLine(canvas.Pixels + y * canvas.Stride, area.Left, area.Right,
+                    reinterpret_cast<const std::uint32_t *>(tile.constScanLine(tileLine)),
+                    tile.width(), originX);
+    }
+    if (canvas.Paper != nullptr) {
+        ShowOnPaper(canvas, area);
+    }
+}
+
+} // namespace kelvarine

@@ -1,0 +1,130 @@
+#include "ui/configure/sound_tab.h"
+
+#include "configure/sound_settings.h"
+#include "ui/controls/configure_controls.h"
+
+#include <QAudioDevice>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMediaDevices>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+#include <array>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr BarSteps VolumeSteps{255, 1, 20};
+constexpr int Volumes = 4;
+
+// What one event has on the tab. A row without a list of files has one that stays empty.
+struct SoundRow {
+    std::string_view List;
+    std::string_view Button;
+    std::string_view Caption;
+    const SoundList *Files;
+    std::int32_t *Setting;
+    void (*Test)();
+    std::size_t Volume;
+};
+
+void TestNothing()
+{
+}
+
+constexpr std::array SoundRows{
+    SoundRow{"cmbSoundAlert", "cmdTestAlert", "Alert", &AlertFiles, &AlertSound, TestAlertSound,
+             AlertVolume},
+    SoundRow{"cmbSoundWin", "cmdTestWin", "Win", &WinFiles, &WinSound, TestWinSound, WinVolume},
+};
+
+// Out of the player's sight: the settings are kept, but no event plays these sounds.
+constexpr std::array HiddenSoundRows{
+    SoundRow{"cmbSoundAnnouncer", "cmdTestAnnouncer", "Announcer", &AnnouncerFiles, &AnnouncerSound,
+             TestNothing, 0},
+    SoundRow{"cmbDiceSound", "cmdTestClicks", "Cell Clicks", nullptr, nullptr, TestNothing, 1},
+};
+
+QStringList Entries(const SoundList *files)
+{
+    QStringList entries;
+    if (files != nullptr) {
+        entries << TextOf(NoSoundCaption);
+        for (std::size_t k = 1; k < files->size(); ++k) {
+            entries << TextOf(SoundCaption((*files)[k]));
+        }
+    }
+    return entries;
+}
+
+void AddRow(QGridLayout *grid, int row, const SoundRow &sound, bool visible)
+{
+    QWidget *parent = grid->parentWidget();
+    const QString spoken = TextOf(sound.Caption);
+    auto *list =
+        MakeList(parent, TextOf(sound.List), spoken + " sound", Entries(sound.Files),
+                 sound.Setting != nullptr ? *sound.Setting : 0, [setting = sound.Setting](int k) {
+                     if (setting != nullptr) {
+                         *setting = k;
+                     }
+                 });
+    auto *button = MakeButton(parent, TextOf(sound.Button), sound.Caption, sound.Test);
+    auto *bar = MakeBar(parent, IndexedName("hsbVolume", static_cast<int>(sound.Volume)),
+                        spoken + " volume", VolumeSteps, 0,
+                        [volume = sound.Volume](int value) { SetVolume(volume, value); });
+    if (visible) {
+        grid->addWidget(list, row, 0);
+        grid->addWidget(button, row, 1);
+        grid->addWidget(bar, row, 2);
+    }
+    for (QWidget *control : std::array<QWidget *, 3>{list, button, bar}) {
+        control->setVisible(visible);
+    }
+}
+
+} // namespace
+
+QWidget *MakeSoundTab(QWidget *parent)
+{
+    auto *panel = new QWidget(parent);
+    auto *rows = new QVBoxLayout(panel);
+    auto *part = new QWidget(panel);
+    auto *grid = new QGridLayout(part);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(12);
+    grid->addWidget(new QLabel(TextOf("Volume"), part), 0, 2, Qt::AlignHCenter);
+    int row = 1;
+    for (const SoundRow &sound : SoundRows) {
+        AddRow(grid, row++, sound, true);
+    }
+    for (const SoundRow &sound : HiddenSoundRows) {
+        AddRow(grid, row++, sound, false);
+    }
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(2, 1);
+    rows->addWidget(part);
+    rows->addSpacing(16);
+    rows->addWidget(MakeCheckBox(panel, TextOf("chkDisableAllSound"), " Disable all game sounds",
+                                 SoundDisabled != False,
+                                 [](bool on) { SoundDisabled = on ? True : False; }));
+    rows->addStretch();
+    ShowVolumes(*panel, !QMediaDevices::defaultAudioOutput().isNull());
+    return panel;
+}
+
+void ShowVolumes(const QWidget &panel, bool readable)
+{
+    const QScopedValueRollback loading(LoadingControls, true);
+    for (int k = 0; k < Volumes; ++k) {
+        auto *bar = panel.findChild<QScrollBar *>(IndexedName("hsbVolume", k));
+        bar->setEnabled(readable);
+        bar->setValue(readable ? VolumeBar(static_cast<std::size_t>(k)) : 0);
+    }
+}
+
+} // namespace kelvarine

@@ -1,0 +1,155 @@
+#include "ui/configure/tab_strip.h"
+
+#include "game/screens.h"
+#include "ui/configure/tab_strip_access.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <utility>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr int EdgeRoom = 2; // kept free at the right end of the window
+constexpr int Corner = 3;   // cut off at the upper corners of a tab
+
+// The tab that an arrow key leads to, round the strip.
+int NeighbourOf(int tab, int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return (tab + TabCount - 1) % TabCount;
+    case Qt::Key_Right:
+        return (tab + 1) % TabCount;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        return (tab + TabsInRow) % TabCount;
+    case Qt::Key_Home:
+        return 0;
+    case Qt::Key_End:
+        return TabCount - 1;
+    default:
+        return -1;
+    }
+}
+
+// Between the colours of window and text, so that it shows on light and on dark windows.
+QColor EdgeColour(const QPalette &colours)
+{
+    const QColor window = colours.color(QPalette::Window);
+    const QColor text = colours.color(QPalette::WindowText);
+    const auto mix = [](int near, int far) {
+        return (2 * near + far) / 3;
+    };
+    return {mix(window.red(), text.red()), mix(window.green(), text.green()),
+            mix(window.blue(), text.blue())};
+}
+
+void DrawEdges(QPainter &painter, const QRect &place, const QPalette &colours)
+{
+    const int left = place.left();
+    const int right = place.right();
+    const int top = place.top();
+    const int bottom = place.bottom();
+    painter.setPen(EdgeColour(colours));
+    painter.drawLine(left, bottom, left, top + Corner);
+    painter.drawLine(left, top + Corner, left + Corner, top);
+    painter.drawLine(left + Corner, top, right - Corner, top);
+    painter.drawLine(right - Corner, top, right, top + Corner);
+    painter.drawLine(right, top + Corner, right, bottom);
+}
+
+} // namespace
+
+TabStrip::TabStrip(QWidget *parent, std::array<QString, TabCount> texts,
+                   std::function<void(std::int32_t)> choose)
+    : QWidget(parent), tabTexts(std::move(texts)), chooseTab(std::move(choose))
+{
+    InstallTabStripAccess();
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(tr("Tabs"));
+}
+
+const QString &TabStrip::TextOfTab(int tab) const
+{
+    return tabTexts[static_cast<std::size_t>(tab)];
+}
+
+QRect TabStrip::PlaceOfTab(int tab) const
+{
+    const int tabWidth = TabWidthFor(width());
+    const bool front = IsInFront(tab, CurrentTab);
+    const int left = TabLeft(tab, CurrentTab, tabWidth);
+    const int top = front ? FrontRowTop : RearRowTop;
+    // Four quarters of a wide window and the strip's own edges are more than the window: the last
+    // tab of a row ends with it.
+    const int last = width() - EdgeRoom - (front ? RearRowShift : 0);
+    const int right = std::min(left + tabWidth - 2, last);
+    return {QPoint(left, top), QPoint(right, front ? TabBaseline : FrontRowTop - 1)};
+}
+
+void TabStrip::Choose(int tab)
+{
+    if (tab != CurrentTab) {
+        chooseTab(tab);
+    }
+}
+
+void TabStrip::ShowCurrent()
+{
+    update();
+}
+
+void TabStrip::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    const QPalette colours = palette();
+    painter.setPen(EdgeColour(colours));
+    painter.drawLine(0, TabBaseline, width(), TabBaseline);
+    // The rear row comes first, so that the front one covers its lower edge.
+    for (const bool front : {false, true}) {
+        for (int tab = 0; tab < TabCount; ++tab) {
+            if (IsInFront(tab, CurrentTab) != front) {
+                continue;
+            }
+            const QRect place = PlaceOfTab(tab);
+            const bool current = tab == CurrentTab;
+            // The current tab has the panel's colour and no lower edge, the others lie in shade.
+            painter.fillRect(place.adjusted(1, 1, 0, current ? 0 : -1),
+                             current ? colours.window().color()
+                                     : colours.window().color().darker(106));
+            DrawEdges(painter, place, colours);
+            painter.setPen(colours.color(QPalette::WindowText));
+            painter.drawText(place.adjusted(0, 0, 0, front ? -2 : 0), Qt::AlignCenter,
+                             TextOfTab(tab));
+            if (current && hasFocus()) {
+                painter.setPen(QPen(colours.color(QPalette::Highlight), 2));
+                painter.drawRect(place.adjusted(6, 4, -5, -4));
+            }
+        }
+    }
+}
+
+void TabStrip::mousePressEvent(QMouseEvent *event)
+{
+    const QPointF place = event->position();
+    if (const auto tab = TabAt(place.x(), place.y(), CurrentTab, TabWidthFor(width()))) {
+        Choose(*tab);
+    }
+}
+
+void TabStrip::keyPressEvent(QKeyEvent *event)
+{
+    const int tab = NeighbourOf(CurrentTab, event->key());
+    if (tab < 0) {
+        event->ignore();
+        return;
+    }
+    Choose(tab);
+}
+
+} // namespace kelvarine

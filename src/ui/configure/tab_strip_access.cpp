@@ -1,0 +1,169 @@
+#include "ui/configure/tab_strip_access.h"
+
+#include "game/screens.h"
+#include "ui/configure/tab_strip.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+
+#include <array>
+#include <memory>
+
+namespace kelvarine {
+
+namespace {
+
+class TabAccess : public QAccessibleInterface, public QAccessibleActionInterface {
+public:
+    TabAccess(TabStrip *tabStrip, int tabNumber) : strip(tabStrip), tab(tabNumber)
+    {
+    }
+
+    [[nodiscard]] bool isValid() const override
+    {
+        return true;
+    }
+    [[nodiscard]] QObject *object() const override
+    {
+        return nullptr;
+    }
+    [[nodiscard]] QAccessibleInterface *childAt(int /*x*/, int /*y*/) const override
+    {
+        return nullptr;
+    }
+    [[nodiscard]] QAccessibleInterface *parent() const override
+    {
+        return QAccessible::queryAccessibleInterface(strip);
+    }
+    [[nodiscard]] QAccessibleInterface *child(int /*index*/) const override
+    {
+        return nullptr;
+    }
+    [[nodiscard]] int childCount() const override
+    {
+        return 0;
+    }
+    int indexOfChild(const QAccessibleInterface * /*child*/) const override
+    {
+        return -1;
+    }
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? strip->TextOfTab(tab) : QString();
+    }
+    void setText(QAccessible::Text /*kind*/, const QString & /*text*/) override
+    {
+    }
+    [[nodiscard]] QRect rect() const override
+    {
+        const QRect place = strip->PlaceOfTab(tab);
+        return {strip->mapToGlobal(place.topLeft()), place.size()};
+    }
+    [[nodiscard]] QAccessible::Role role() const override
+    {
+        return QAccessible::PageTab;
+    }
+    [[nodiscard]] QAccessible::State state() const override
+    {
+        QAccessible::State state;
+        state.selectable = true;
+        state.focusable = true;
+        state.selected = tab == CurrentTab;
+        state.focused = tab == CurrentTab && strip->hasFocus();
+        return state;
+    }
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::ActionInterface
+                   ? static_cast<QAccessibleActionInterface *>(this)
+                   : nullptr;
+    }
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return {pressAction()};
+    }
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction()) {
+            strip->Choose(tab);
+        }
+    }
+    [[nodiscard]] QStringList keyBindingsForAction(const QString & /*name*/) const override
+    {
+        return {};
+    }
+
+private:
+    TabStrip *strip;
+    int tab;
+};
+
+class TabStripAccess : public QAccessibleWidget {
+public:
+    explicit TabStripAccess(TabStrip *strip) : QAccessibleWidget(strip, QAccessible::PageTabList)
+    {
+        for (int tab = 0; tab < TabCount; ++tab) {
+            tabs[static_cast<std::size_t>(tab)] =
+                QAccessible::registerAccessibleInterface(new TabAccess(strip, tab));
+        }
+    }
+    TabStripAccess(const TabStripAccess &) = delete;
+    TabStripAccess &operator=(const TabStripAccess &) = delete;
+    ~TabStripAccess() override
+    {
+        for (const QAccessible::Id id : tabs) {
+            QAccessible::deleteAccessibleInterface(id);
+        }
+    }
+
+    [[nodiscard]] int childCount() const override
+    {
+        return TabCount;
+    }
+    [[nodiscard]] QAccessibleInterface *child(int index) const override
+    {
+        return index >= 0 && index < TabCount
+                   ? QAccessible::accessibleInterface(tabs[static_cast<std::size_t>(index)])
+                   : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface *wanted) const override
+    {
+        for (int tab = 0; tab < TabCount; ++tab) {
+            if (child(tab) == wanted) {
+                return tab;
+            }
+        }
+        return -1;
+    }
+    [[nodiscard]] QAccessibleInterface *childAt(int x, int y) const override
+    {
+        for (int tab = 0; tab < TabCount; ++tab) {
+            if (child(tab)->rect().contains(x, y)) {
+                return child(tab);
+            }
+        }
+        return nullptr;
+    }
+
+private:
+    std::array<QAccessible::Id, TabCount> tabs{};
+};
+
+QAccessibleInterface *MakeAccess(const QString & /*className*/, QObject *object)
+{
+    auto *strip = qobject_cast<TabStrip *>(object);
+    return strip != nullptr ? new TabStripAccess(strip) : nullptr;
+}
+
+} // namespace
+
+void InstallTabStripAccess()
+{
+    static bool installed = false;
+    if (!installed) {
+        QAccessible::installFactory(MakeAccess);
+        installed = true;
+    }
+}
+
+} // namespace kelvarine

@@ -1,0 +1,147 @@
+#include "ui/controls/configure_controls.h"
+
+#include "configure/box_number.h"
+#include "grid/grid.h"
+#include "ui/controls/digit_box.h"
+#include "ui/controls/focus_bar.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace kelvarine {
+
+bool LoadingControls;
+bool ShowingValues;
+
+bool ChangesCount()
+{
+    return !LoadingControls && !ShowingValues && SearchActive == False;
+}
+
+QString TextOf(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString IndexedName(std::string_view name, int index)
+{
+    return TextOf(name) + QString::number(index);
+}
+
+QString SpokenText(std::string_view caption)
+{
+    return TextOf(caption).trimmed().replace(QStringLiteral("&&"), QStringLiteral("&"));
+}
+
+namespace {
+
+template <typename Control>
+Control *Named(Control *control, const QString &name, const QString &spoken)
+{
+    control->setObjectName(name);
+    control->setAccessibleName(spoken);
+    return control;
+}
+
+} // namespace
+
+QCheckBox *MakeCheckBox(QWidget *parent, const QString &name, std::string_view caption, bool on,
+                        const std::function<void(bool)> &change)
+{
+    auto *box = Named(new QCheckBox(TextOf(caption), parent), name, SpokenText(caption));
+    box->setChecked(on);
+    QObject::connect(box, &QCheckBox::toggled, box, [change](bool checked) {
+        if (ChangesCount()) {
+            change(checked);
+        }
+    });
+    return box;
+}
+
+QPushButton *MakeButton(QWidget *parent, const QString &name, std::string_view caption,
+                        const std::function<void()> &act)
+{
+    auto *button = Named(new QPushButton(TextOf(caption), parent), name, SpokenText(caption));
+    button->setAutoDefault(false);
+    QObject::connect(button, &QPushButton::clicked, button, [act] {
+        if (ChangesCount()) {
+            act();
+        }
+    });
+    return button;
+}
+
+QScrollBar *MakeBar(QWidget *parent, const QString &name, const QString &spoken,
+                    const BarSteps &steps, int value, const std::function<void(int)> &change)
+{
+    auto *bar = Named(new FocusBar(parent), name, spoken);
+    bar->setRange(0, steps.Highest);
+    bar->setSingleStep(steps.Small);
+    bar->setPageStep(steps.Large);
+    bar->setValue(value);
+    QObject::connect(bar, &QScrollBar::valueChanged, bar, [change](int moved) {
+        if (ChangesCount()) {
+            change(moved);
+        }
+    });
+    return bar;
+}
+
+QLineEdit *MakeNumberBox(QWidget *parent, const QString &name, const QString &spoken, int number,
+                         const std::function<void(std::int32_t)> &change)
+{
+    auto *box = Named(new DigitBox(parent), name, spoken);
+    box->setText(QString::number(number));
+    QObject::connect(box, &QLineEdit::textChanged, box, [change](const QString &text) {
+        if (ChangesCount()) {
+            change(NumberIn(text.toStdString()));
+        }
+    });
+    return box;
+}
+
+QGroupBox *MakeOptions(QWidget *parent, std::string_view name, std::string_view frame,
+                       std::span<const std::string_view> captions, std::int32_t current,
+                       const std::function<void(std::int32_t)> &change)
+{
+    auto *box = new QGroupBox(TextOf(frame), parent);
+    auto *column = new QVBoxLayout(box);
+    auto *group = new QButtonGroup(box);
+    for (int k = 0; k < static_cast<int>(captions.size()); ++k) {
+        const std::string_view caption = captions[static_cast<std::size_t>(k)];
+        auto *option = Named(new QRadioButton(TextOf(caption), box), IndexedName(name, k),
+                             TextOf(frame) + ' ' + SpokenText(caption));
+        option->setChecked(k == current);
+        group->addButton(option, k);
+        column->addWidget(option);
+    }
+    column->addStretch();
+    QObject::connect(group, &QButtonGroup::idToggled, box, [change](int id, bool checked) {
+        if (checked && ChangesCount()) {
+            change(id);
+        }
+    });
+    return box;
+}
+
+QComboBox *MakeList(QWidget *parent, const QString &name, const QString &spoken,
+                    const QStringList &entries, std::int32_t current,
+                    const std::function<void(std::int32_t)> &change)
+{
+    auto *list = Named(new QComboBox(parent), name, spoken);
+    list->addItems(entries);
+    list->setCurrentIndex(current < entries.size() ? std::max(current, -1) : -1);
+    QObject::connect(list, &QComboBox::currentIndexChanged, list, [change](int index) {
+        if (index >= 0 && ChangesCount()) {
+            change(index);
+        }
+    });
+    return list;
+}
+
+} // namespace kelvarine

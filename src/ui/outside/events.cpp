@@ -1,0 +1,83 @@
+// The event loop, its two timers and the time.
+#include "outside/events.h"
+
+#include "outside/timers.h"
+#include "ui/window/main_window.h"
+
+#include <QApplication>
+#include <QDate>
+#include <QTime>
+#include <QTimer>
+
+#include <chrono>
+#include <utility>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr int ClockInterval = 1000; // milliseconds
+constexpr std::chrono::milliseconds YieldInterval{10};
+
+void SwitchTimer(QTimer &timer, bool on, int milliseconds)
+{
+    if (on) {
+        timer.start(milliseconds);
+    } else {
+        timer.stop();
+    }
+}
+
+} // namespace
+
+void YieldToEvents()
+{
+    static std::chrono::steady_clock::time_point last;
+    const auto now = std::chrono::steady_clock::now();
+    if (now - last >= YieldInterval) {
+        QCoreApplication::processEvents();
+        last = std::chrono::steady_clock::now();
+    }
+}
+
+void RunPendingEvents()
+{
+    QCoreApplication::processEvents();
+}
+
+void SetWaitCursor(bool on)
+{
+    if (on) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+double SecondsSinceMidnight()
+{
+    return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+}
+
+Day Today()
+{
+    const QDate today = QDate::currentDate();
+    return {today.year(), today.month(), today.day()};
+}
+
+void CallFromEventLoop(std::function<void()> deed)
+{
+    QTimer::singleShot(0, Window(), std::move(deed));
+}
+
+void SetClockTimer(bool on)
+{
+    SwitchTimer(Window()->ClockTimer, on, ClockInterval);
+}
+
+void SetWinTimer(bool on, int milliseconds)
+{
+    SwitchTimer(Window()->WinTimer, on, milliseconds);
+}
+
+} // namespace kelvarine

@@ -1,0 +1,101 @@
+// Messages and questions, in boxes beside the board.
+#include "outside/messages.h"
+
+#include "paint/text.h"
+#include "ui/window/board_widget.h"
+#include "ui/window/box_place.h"
+#include "ui/window/main_window.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QScreen>
+
+#include <optional>
+
+namespace kelvarine {
+
+namespace {
+
+// Boxes break lines as the toolkit does.
+QString BoxText(std::string_view text)
+{
+    return Text(text).replace(u'\r', u'\n');
+}
+
+// Size of a box with its frame, as it will be on view.
+QSize SizeOnView(QMessageBox &box)
+{
+    // A box works out its size when it is shown, and it has to stand in its place before that.
+    box.setAttribute(Qt::WA_DontShowOnScreen);
+    box.show();
+    const QSize inner = box.size();
+    box.hide();
+    box.setAttribute(Qt::WA_DontShowOnScreen, false);
+    return inner + (Window()->frameSize() - Window()->size());
+}
+
+// Beside the whole window, so that the coordinates stay in view as well, or else beside the board.
+void MoveBesideBoard(QMessageBox &box)
+{
+    const QWidget &board = *Window()->Client->Board;
+    const QRect cells(board.mapToGlobal(QPoint(0, 0)), board.size());
+    const QRect screen = Window()->screen()->availableGeometry();
+    const QSize size = SizeOnView(box);
+    for (const QRect &area : {Window()->frameGeometry(), cells}) {
+        if (const std::optional<QPoint> corner = BoxBeside(area, size, screen)) {
+            box.move(*corner);
+            return;
+        }
+    }
+}
+
+QMessageBox::StandardButton RunBox(QMessageBox::Icon icon, const QString &text,
+                                   std::string_view title, QMessageBox::StandardButtons buttons,
+                                   QMessageBox::StandardButton defaultButton)
+{
+    QWidget *above = QApplication::activeModalWidget();
+    QMessageBox box(icon, BoxText(title.empty() ? ProgramName : title), text, buttons,
+                    above != nullptr ? above : Window());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(defaultButton);
+    if (above == nullptr) {
+        MoveBesideBoard(box);
+    }
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+} // namespace
+
+void ShowMessage(std::string_view text, std::string_view title)
+{
+    RunBox(QMessageBox::NoIcon, BoxText(text), title, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+bool AskYesNo(std::string_view text, std::string_view title)
+{
+    // Questions are worded for boxes that show a doubled "&" as one.
+    const QString shown = BoxText(text).replace(QStringLiteral("&&"), QStringLiteral("&"));
+    return RunBox(QMessageBox::Question, shown, title, QMessageBox::Yes | QMessageBox::No,
+                  QMessageBox::No) == QMessageBox::Yes;
+}
+
+Answer AskYesNoCancel(std::string_view text)
+{
+    switch (RunBox(QMessageBox::Question, BoxText(text), ProgramName,
+                   QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes)) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    default:
+        return Answer::Cancel;
+    }
+}
+
+std::string AskText(std::string_view prompt)
+{
+    return QInputDialog::getText(Window(), BoxText(ProgramName), BoxText(prompt)).toStdString();
+}
+
+} // namespace kelvarine

@@ -1,0 +1,222 @@
+#include "ui/outside/printer_qt.h"
+
+#include "grid/colour.h"
+#include "outside/messages.h"
+#include "outside/printer.h"
+#include "outside/whole_file.h"
+#include "paint/print_painter.h"
+#include "paint/text_painter.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QFile>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr double PdfMargin = 0.25; // inches; no printer that the file may go to prints farther out
+constexpr double LabelPoints = 10; // of 72 to the inch
+constexpr double ScreenPixelsPerInch = 96; // that the board's typeface counts its points by
+
+// The document in hand. A PDF file is collected here and written whole when it ends.
+struct Document {
+    QBuffer Bytes;
+    std::unique_ptr<QPdfWriter> Pdf;
+    QPainter Pen;
+    std::string Failure;
+};
+
+std::unique_ptr<QPrinter> chosenPrinter;
+std::unique_ptr<Document> document;
+
+bool WritesPdf()
+{
+    return ChosenPrinter().outputFormat() == QPrinter::PdfFormat;
+}
+
+// A printer prints as far out as it can; the margins asked for are too wide for that.
+void TakeWidestArea(QPrinter &printer)
+{
+    QPageLayout layout = printer.pageLayout();
+    layout.setMargins(layout.minimumMargins());
+    printer.setPageLayout(layout);
+}
+
+void PreparePdf(QPrinter &printer)
+{
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setPageLayout(QPageLayout(UsualPaper(QLocale()), QPageLayout::Portrait,
+                                      QMarginsF(PdfMargin, PdfMargin, PdfMargin, PdfMargin),
+                                      QPageLayout::Inch));
+}
+
+QPagedPaintDevice &Device()
+{
+    if (document->Pdf != nullptr) {
+        return *document->Pdf;
+    }
+    return ChosenPrinter();
+}
+
+void OpenPdf()
+{
+    document->Bytes.open(QIODevice::WriteOnly);
+    document->Pdf = std::make_unique<QPdfWriter>(&document->Bytes);
+    document->Pdf->setResolution(ChosenPrinter().resolution());
+    document->Pdf->setPageLayout(ChosenPrinter().pageLayout());
+    document->Pdf->setTitle(QString::fromLatin1(ProgramName.data()));
+}
+
+bool Fail()
+{
+    document->Failure = "The printer does not answer.";
+    return false;
+}
+
+// True when the document is open, after opening it where it is not.
+bool IsOpen()
+{
+    if (document == nullptr) {
+        document = std::make_unique<Document>();
+        if (WritesPdf()) {
+            OpenPdf();
+        }
+        if (!document->Pen.begin(&Device())) {
+            return Fail();
+        }
+    }
+    return document->Failure.empty();
+}
+
+Face LabelFace()
+{
+    return BoardFace(LabelPoints * ChosenPrinter().resolution() / ScreenPixelsPerInch);
+}
+
+// A place in whole pixels. No printer comes near the bounds, so what lies beyond is off the page.
+double WholePixels(double position)
+{
+    constexpr double farthest = 1e7;
+    return std::clamp(std::round(position), -farthest, farthest);
+}
+
+std::string WriteDocument()
+{
+    std::string failure = document->Failure;
+    if (failure.empty() && document->Pdf != nullptr) {
+        const QByteArray path = QFile::encodeName(ChosenPrinter().outputFileName());
+        const QByteArray &bytes = document->Bytes.data();
+        ReplaceWholeFile(path.toStdString(),
+                         {bytes.constData(), static_cast<std::size_t>(bytes.size())}, failure,
+                         MissingFolders::Refused);
+    }
+    return failure;
+}
+
+} // namespace
+
+QPrinter &ChosenPrinter()
+{
+    if (chosenPrinter == nullptr) {
+        chosenPrinter = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        if (QPrinterInfo::defaultPrinter().isNull()) {
+            PreparePdf(*chosenPrinter);
+        } else {
+            TakeWidestArea(*chosenPrinter);
+        }
+        // A printer must not outlive the application.
+        qAddPostRoutine([] { chosenPrinter.reset(); });
+    }
+    return *chosenPrinter;
+}
+
+QPageSize UsualPaper(const QLocale &locale)
+{
+    const bool inches = locale.measurementSystem() == QLocale::ImperialUSSystem;
+    return QPageSize{inches ? QPageSize::Letter : QPageSize::A4};
+}
+
+PrinterPage CurrentPrinterPage()
+{
+    const QPrinter &printer = ChosenPrinter();
+    const double perInch = printer.resolution();
+    const QSizeF area = printer.pageLayout().paintRect(QPageLayout::Inch).size() * perInch;
+    return {std::max(1.0, area.width()), std::max(1.0, area.height()), perInch, perInch};
+}
+
+bool ChoosePrinter()
+{
+    const QString name = ChosenPrinter().printerName();
+    QPrintDialog dialog(&ChosenPrinter(), QApplication::activeWindow());
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    if (dialog.exec() != QDialog::Accepted) {
+        return false;
+    }
+    if (ChosenPrinter().printerName() != name && !WritesPdf()) {
+        TakeWidestArea(ChosenPrinter());
+    }
+    return true;
+}
+
+bool PrintPicture(PrintedPicture picture, const PagePlace &place)
+{
+    if (!IsOpen()) {
+        return false;
+    }
+    const QRectF whole(WholePixels(place.Left), WholePixels(place.Top), WholePixels(place.Width),
+                       WholePixels(place.Height));
+    if (picture == PrintedPicture::Board) {
+        PrintBoard(document->Pen, whole);
+    } else {
+        PrintGrid(document->Pen, whole, true);
+    }
+    return true;
+}
+
+bool PrintText(double left, double top, std::string_view text)
+{
+    if (!IsOpen()) {
+        return false;
+    }
+    const Point corner{static_cast<int>(WholePixels(left)), static_cast<int>(WholePixels(top))};
+    WriteText(document->Pen, LabelFace(), corner, text, StandardColours[0]);
+    return true;
+}
+
+double PrintedTextWidth(std::string_view text)
+{
+    return TextWidth(LabelFace(), text);
+}
+
+bool NewPage()
+{
+    return IsOpen() && (Device().newPage() || Fail());
+}
+
+std::string EndDocument()
+{
+    if (document == nullptr) {
+        return {};
+    }
+    if (document->Pen.isActive() && !document->Pen.end()) {
+        Fail();
+    }
+    std::string failure = WriteDocument();
+    document.reset();
+    return failure;
+}
+
+std::string DecimalSign()
+{
+    return QLocale().decimalPoint().toStdString();
+}
+
+} // namespace kelvarine

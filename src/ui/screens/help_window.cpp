@@ -1,0 +1,337 @@
+#include "ui/screens/help_window.h"
+
+#include "outside/clipboard.h"
+#include "outside/help.h"
+#include "outside/messages.h"
+#include "ui/screens/help_page.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QHelpContentWidget>
+#include <QHelpIndexWidget>
+#include <QHelpLink>
+#include <QHelpSearchResult>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPointer>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QStyle>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <cmath>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr QSize StartSize{900, 700};
+constexpr int SideWidth = 270;
+constexpr int PictureRatio = 2; // pictures hold so many pixels for each logical one
+constexpr int SmallestZoom = -4;
+constexpr int LargestZoom = 12;
+constexpr double PictureStep = 0.1; // by which a step of zoom changes a picture
+constexpr int MostResults = 50;
+constexpr double PageMargin = 16;
+constexpr int MessageTime = 8000; // milliseconds
+
+QPointer<HelpWindow> helpWindow;
+
+// A list or tree with a line of text above it that steers it.
+QWidget *UnderText(QLineEdit *text, const QString &label, QWidget *list)
+{
+    auto *pane = new QWidget;
+    auto *layout = new QVBoxLayout(pane);
+    auto *caption = new QLabel(label, pane);
+    caption->setBuddy(text);
+    layout->addWidget(caption);
+    layout->addWidget(text);
+    layout->addWidget(list);
+    return pane;
+}
+
+} // namespace
+
+// ---- The page --------------------------------------------------------------------------------
+
+HelpBrowser::HelpBrowser(const QHelpEngineCore &helpEngine, QWidget *parent)
+    : QTextBrowser(parent), engine(helpEngine)
+{
+    setOpenLinks(false);
+    setAccessibleName(tr("Help page"));
+    document()->setDocumentMargin(PageMargin);
+}
+
+QVariant HelpBrowser::loadResource(int type, const QUrl &name)
+{
+    // All pages lie in one folder, and nothing but the help is ever read.
+    const QByteArray bytes = engine.fileData(PageOfContext(engine, 0).resolved(name));
+    if (type == QTextDocument::ImageResource) {
+        return Picture(bytes);
+    }
+    return type == QTextDocument::HtmlResource ? QVariant(QString::fromUtf8(bytes))
+                                               : QVariant(bytes);
+}
+
+// The picture at the size that the zoom asks for, in the pixels of the screen.
+QVariant HelpBrowser::Picture(const QByteArray &bytes) const
+{
+    QImage picture = QImage::fromData(bytes);
+    const double ratio = devicePixelRatioF();
+    const double scale = ratio * (1 + zoom * PictureStep) / PictureRatio;
+    picture = picture.scaledToWidth(static_cast<int>(std::lround(picture.width() * scale)),
+                                    Qt::SmoothTransformation);
+    picture.setDevicePixelRatio(ratio);
+    return picture;
+}
+
+void HelpBrowser::Zoom(int steps)
+{
+    const int wanted = std::clamp(zoom + steps, SmallestZoom, LargestZoom);
+    zoomIn(wanted - zoom);
+    zoom = wanted;
+    reload();
+}
+
+void HelpBrowser::ResetZoom()
+{
+    Zoom(-zoom);
+}
+
+std::string HelpBrowser::Position() const
+{
+    return PositionOf(engine.fileData(source()).toStdString());
+}
+
+// ---- The window ------------------------------------------------------------------------------
+
+HelpWindow::HelpWindow(std::unique_ptr<HelpCollection> opened)
+    : Browser(new HelpBrowser(*opened->Engine, this)), Tabs(new QTabWidget(this)),
+      IndexText(new QLineEdit(this)), SearchText(new QLineEdit(this)),
+      SearchResults(new QListWidget(this)), help(std::move(opened)), searcher(help->Engine.get())
+{
+    setObjectName(QStringLiteral("frmHelp"));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    BuildToolBar();
+    Tabs->addTab(BuildContents(), tr("&Contents"));
+    Tabs->addTab(BuildIndex(), tr("&Index"));
+    Tabs->addTab(BuildSearch(), tr("&Search"));
+    Tabs->setAccessibleName(tr("Ways into the help"));
+
+    auto *splitter = new QSplitter(this);
+    splitter->addWidget(Tabs);
+    splitter->addWidget(Browser);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({SideWidth, StartSize.width() - SideWidth});
+    setCentralWidget(splitter);
+    statusBar();
+    resize(StartSize);
+
+    connect(Browser, &QTextBrowser::anchorClicked, this, &HelpWindow::OpenLink);
+    connect(Browser, &QTextBrowser::sourceChanged, this, &HelpWindow::PageChanged);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+}
+
+HelpWindow::~HelpWindow() = default;
+
+void HelpWindow::BuildToolBar()
+{
+    auto *bar = addToolBar(tr("Help"));
+    bar->setMovable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    const auto add = [&](const QString &text, const QList<QKeySequence> &keys, const auto &run) {
+        QAction *action = bar->addAction(text);
+        action->setShortcuts(keys);
+        action->setToolTip(text + QStringLiteral(" (") +
+                           keys.front().toString(QKeySequence::NativeText) + u')');
+        connect(action, &QAction::triggered, this, run);
+        return action;
+    };
+    QAction *back =
+        add(tr("Back"), {QKeySequence(Qt::ALT | Qt::Key_Left)}, [this] { Browser->backward(); });
+    QAction *forward =
+        add(tr("Forward"), {QKeySequence(Qt::ALT | Qt::Key_Right)}, [this] { Browser->forward(); });
+    QAction *home = add(tr("Home"), {QKeySequence(Qt::ALT | Qt::Key_Home)},
+                        [this] { Browser->setSource(PageOfContext(*help->Engine, 0)); });
+    bar->addSeparator();
+    add(tr("Larger"),
+        QKeySequence::keyBindings(QKeySequence::ZoomIn) +
+            QList{QKeySequence(Qt::CTRL | Qt::Key_Equal)},
+        [this] { Browser->Zoom(1); });
+    add(tr("Smaller"), QKeySequence::keyBindings(QKeySequence::ZoomOut),
+        [this] { Browser->Zoom(-1); });
+    add(tr("Usual size"), {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { Browser->ResetZoom(); });
+
+    back->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
+    forward->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
+    home->setIcon(style()->standardIcon(QStyle::SP_DirHomeIcon));
+    back->setEnabled(false);
+    forward->setEnabled(false);
+    connect(Browser, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    connect(Browser, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+}
+
+QWidget *HelpWindow::BuildContents()
+{
+    QHelpContentWidget *contents = help->Engine->contentWidget();
+    contents->setAccessibleName(tr("Contents of the help"));
+    connect(contents, &QHelpContentWidget::linkActivated, Browser,
+            [this](const QUrl &page) { Browser->setSource(page); });
+    connect(contents, &QAbstractItemView::clicked, contents,
+            [contents](const QModelIndex &index) { emit contents->activated(index); });
+    connect(help->Engine->contentModel(), &QHelpContentModel::contentsCreated, contents, [=, this] {
+        contents->expandToDepth(0);
+        PageChanged(Browser->source());
+    });
+    return contents;
+}
+
+QWidget *HelpWindow::BuildIndex()
+{
+    QHelpIndexWidget *index = help->Engine->indexWidget();
+    index->setAccessibleName(tr("Words of the index"));
+    IndexText->setClearButtonEnabled(true);
+    connect(IndexText, &QLineEdit::textChanged, index,
+            [index](const QString &text) { index->filterIndices(text, text + u'*'); });
+    connect(IndexText, &QLineEdit::returnPressed, index, &QHelpIndexWidget::activateCurrentItem);
+    connect(index, &QHelpIndexWidget::documentActivated, Browser,
+            [this](const QHelpLink &page) { Browser->setSource(page.url); });
+    connect(index, &QHelpIndexWidget::documentsActivated, Browser,
+            [this](const QList<QHelpLink> &pages) { Browser->setSource(pages.front().url); });
+    return UnderText(IndexText, tr("&Look for:"), index);
+}
+
+QWidget *HelpWindow::BuildSearch()
+{
+    SearchResults->setAccessibleName(tr("Pages found"));
+    SearchText->setClearButtonEnabled(true);
+    SearchText->setEnabled(help->Searchable);
+    connect(SearchText, &QLineEdit::returnPressed, this, &HelpWindow::Search);
+    connect(&searcher, &QHelpSearchEngine::searchingFinished, this, &HelpWindow::ShowSearchResults);
+    connect(&searcher, &QHelpSearchEngine::indexingFinished, this, [this] {
+        indexed = true;
+        Search();
+    });
+    const auto open = [this](const QListWidgetItem *item) {
+        if (item->data(Qt::UserRole).isValid()) {
+            Browser->setSource(item->data(Qt::UserRole).toUrl());
+        }
+    };
+    connect(SearchResults, &QListWidget::itemClicked, Browser, open);
+    connect(SearchResults, &QListWidget::itemActivated, Browser, open);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+        Tabs->setCurrentIndex(2);
+        SearchText->setFocus(Qt::ShortcutFocusReason);
+        SearchText->selectAll();
+    });
+    if (help->Searchable) {
+        searcher.reindexDocumentation();
+    } else {
+        SearchResults->addItem(tr("There is no room on the disk to search in."));
+    }
+    return UnderText(SearchText, tr("&Words, then Enter:"), SearchResults);
+}
+
+void HelpWindow::OpenLink(const QUrl &link)
+{
+    if (link.scheme() == QLatin1String("copy")) {
+        CopyPosition();
+    } else {
+        Browser->setSource(Browser->source().resolved(link));
+    }
+}
+
+void HelpWindow::CopyPosition()
+{
+    SetClipboardText(Browser->Position());
+    statusBar()->showMessage(tr("The position is copied. Press Ctrl+V on the board."), MessageTime);
+}
+
+void HelpWindow::PageChanged(const QUrl &page)
+{
+    setWindowTitle(Browser->documentTitle() + QStringLiteral(" - Kelvarine Help"));
+    QHelpContentWidget *contents = help->Engine->contentWidget();
+    const QModelIndex place = contents->indexOf(page);
+    if (place.isValid()) {
+        contents->setCurrentIndex(place);
+        contents->scrollTo(place);
+    }
+}
+
+void HelpWindow::Search()
+{
+    // While the words are still being gathered the search waits for them.
+    if (indexed && !SearchText->text().trimmed().isEmpty()) {
+        searcher.search(SearchText->text());
+    }
+}
+
+void HelpWindow::ShowSearchResults()
+{
+    SearchResults->clear();
+    for (const QHelpSearchResult &result : searcher.searchResults(0, MostResults)) {
+        auto *item = new QListWidgetItem(result.title(), SearchResults);
+        item->setData(Qt::UserRole, result.url());
+    }
+    if (SearchResults->count() == 0) {
+        SearchResults->addItem(tr("No page holds these words."));
+    }
+}
+
+// A modal window blocks all others but those that belong to it.
+void HelpWindow::StandBesideModalWindow()
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    QWindow *owner = modal != nullptr ? modal->window()->windowHandle() : nullptr;
+    winId(); // makes the window's handle
+    if (owner != windowHandle()->transientParent()) {
+        hide();
+        windowHandle()->setTransientParent(owner);
+    }
+}
+
+void HelpWindow::ShowTopic(int context)
+{
+    StandBesideModalWindow();
+    Browser->setSource(PageOfContext(*help->Engine, context));
+    Browser->setFocus();
+    show();
+    raise();
+    activateWindow();
+}
+
+// ---- The seam --------------------------------------------------------------------------------
+
+HelpWindow *OpenHelpWindow()
+{
+    return helpWindow;
+}
+
+void ShowHelpOf(const QString &folder, int context)
+{
+    if (helpWindow == nullptr) {
+        std::unique_ptr<HelpCollection> help = OpenHelp(folder);
+        if (help == nullptr) {
+            ShowMessage("The help can't be shown, because its files are missing or damaged.\r\r"
+                        "Installing Kelvarine again brings them back.");
+            return;
+        }
+        helpWindow = new HelpWindow(std::move(help));
+        QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [] { delete helpWindow; });
+    }
+    helpWindow->ShowTopic(context);
+}
+
+void ShowHelpTopic(int context)
+{
+    ShowHelpOf(HelpFolder(), context);
+}
+
+} // namespace kelvarine

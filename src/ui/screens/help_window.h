@@ -1,0 +1,82 @@
+// The window of the help: contents, index and search on the left, the page on the right. It stands
+// beside the game, and beside a modal window that asked for it, without blocking anything.
+#pragma once
+
+#include "ui/screens/help_collection.h"
+
+#include <QHelpSearchEngine>
+#include <QMainWindow>
+#include <QTextBrowser>
+
+class QLineEdit;
+class QListWidget;
+class QSplitter;
+class QTabWidget;
+
+namespace kelvarine {
+
+// The pages, read out of the compiled help.
+class HelpBrowser : public QTextBrowser {
+    Q_OBJECT
+
+public:
+    HelpBrowser(const QHelpEngineCore &helpEngine, QWidget *parent);
+
+    // Makes text and pictures larger or smaller by a step, or puts them back to where they were.
+    void Zoom(int steps);
+    void ResetZoom();
+
+    // The position that the page on view offers; empty when it offers none.
+    [[nodiscard]] std::string Position() const;
+
+protected:
+    QVariant loadResource(int type, const QUrl &name) override;
+
+private:
+    [[nodiscard]] QVariant Picture(const QByteArray &bytes) const;
+
+    const QHelpEngineCore &engine;
+    int zoom = 0;
+};
+
+class HelpWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit HelpWindow(std::unique_ptr<HelpCollection> opened);
+    ~HelpWindow() override;
+
+    // Comes to the front and shows the topic of a context number.
+    void ShowTopic(int context);
+
+    HelpBrowser *const Browser;
+    QTabWidget *const Tabs;
+    QLineEdit *const IndexText;
+    QLineEdit *const SearchText;
+    QListWidget *const SearchResults;
+
+private:
+    void BuildToolBar();
+    QWidget *BuildContents();
+    QWidget *BuildIndex();
+    QWidget *BuildSearch();
+    void OpenLink(const QUrl &link);
+    void CopyPosition();
+    void PageChanged(const QUrl &page);
+    void Search();
+    void ShowSearchResults();
+    void StandBesideModalWindow();
+
+    std::unique_ptr<HelpCollection> help;
+    QHelpSearchEngine searcher;
+    bool indexed = false;
+};
+
+// The one help window, or null before it is first asked for.
+HelpWindow *OpenHelpWindow();
+
+// Shows the help that lies in a folder at the topic of a context number; a message when it is not
+// there.
+void ShowHelpOf(const QString &folder, int context);
+
+} // namespace kelvarine

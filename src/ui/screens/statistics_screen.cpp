@@ -1,0 +1,181 @@
+#include "ui/screens/statistics_screen.h"
+
+#include "outside/screens.h"
+#include "paint/text.h"
+#include "ui/window/main_window.h"
+#include "ui/window/placing.h"
+
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr int ColumnGap = 24;
+constexpr int RowGap = 6;
+
+QPointer<StatisticsScreen> statisticsScreen;
+
+// Name of the label of a row in a table, such as lblVeryHardSession0.
+QString LabelName(std::size_t table, std::size_t row, std::size_t column)
+{
+    const QString name = Text(StatisticsRowNames[row]).remove(u' ');
+    return QStringLiteral("lbl%1%2%3")
+        .arg(name, table == SessionTable ? QStringLiteral("Session") : QStringLiteral("Total"))
+        .arg(column);
+}
+
+// What a screen reader says of a label: where it stands and what it shows.
+QString SpokenName(std::size_t table, std::size_t row, std::size_t column)
+{
+    QString place =
+        QStringLiteral("%1, %2").arg(Text(StatisticsTitles[table]), Text(StatisticsRowNames[row]));
+    if (column == 0) {
+        return place;
+    }
+    return QStringLiteral("%1, %2: %3")
+        .arg(place, Text(StatisticsColumns[column].Heading),
+             Text(StatisticsLabels[table][row][column]).trimmed());
+}
+
+Qt::Alignment AlignmentOf(std::size_t column)
+{
+    return (column == 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter;
+}
+
+// A time has a blank behind it. What stands in the column of times without one leaves room for it,
+// so that all of them align.
+void LeaveRoomForBlank(QLabel &label, std::size_t column)
+{
+    const bool among = column == 3 || column == 4;
+    const bool has = label.text().endsWith(u' ');
+    const int blank = label.fontMetrics().horizontalAdvance(u' ');
+    label.setContentsMargins(0, 0, among && !has ? blank : 0, 0);
+}
+
+void MakeBold(QLabel &label)
+{
+    QFont font = label.font();
+    font.setBold(true);
+    label.setFont(font);
+}
+
+} // namespace
+
+StatisticsScreen::StatisticsScreen(QWidget *parent) : QDialog(parent)
+{
+    setObjectName(QStringLiteral("frmStatistics"));
+    setWindowTitle(tr("Statistics"));
+    auto *layout = new QGridLayout(this);
+    layout->addWidget(BuildTable(SessionTable), 0, 0);
+    layout->addWidget(BuildTable(AllSessionsTable), 0, 1);
+    auto *clear = new QPushButton(tr("&Clear"), this);
+    clear->setObjectName(QStringLiteral("cmdClearStats"));
+    clear->setAccessibleName(tr("Clear statistics"));
+    clear->setAutoDefault(false); // Enter alone must not come near it
+    connect(clear, &QPushButton::clicked, this, cmdClearStats);
+    layout->addWidget(clear, 1, 1, Qt::AlignRight);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QWidget *StatisticsScreen::BuildTable(std::size_t table)
+{
+    auto *box = new QGroupBox(Text(StatisticsTitles[table]), this);
+    auto *grid = new QGridLayout(box);
+    grid->setHorizontalSpacing(ColumnGap);
+    grid->setVerticalSpacing(RowGap);
+    AddHeadings(*grid);
+    for (std::size_t row = 0; row < StatisticsRowNames.size(); ++row) {
+        AddRow(*grid, table, row);
+    }
+    return box;
+}
+
+void StatisticsScreen::AddHeadings(QGridLayout &grid)
+{
+    for (std::size_t column = 0; column < StatisticsColumns.size(); ++column) {
+        if (!StatisticsColumns[column].Visible) {
+            continue;
+        }
+        auto *heading = new QLabel(Text(StatisticsColumns[column].Heading), this);
+        MakeBold(*heading);
+        LeaveRoomForBlank(*heading, column);
+        grid.addWidget(heading, 0, static_cast<int>(column), AlignmentOf(column));
+    }
+}
+
+void StatisticsScreen::AddRow(QGridLayout &grid, std::size_t table, std::size_t row)
+{
+    for (std::size_t column = 0; column < StatisticsColumns.size(); ++column) {
+        auto *label = new QLabel(this);
+        label->setObjectName(LabelName(table, row, column));
+        if (row == TotalRow) {
+            MakeBold(*label);
+        }
+        grid.addWidget(label, static_cast<int>(row) + 1, static_cast<int>(column),
+                       AlignmentOf(column));
+        label->setVisible(StatisticsColumns[column].Visible);
+        labels[table][row][column] = label;
+    }
+}
+
+void StatisticsScreen::Refresh()
+{
+    for (std::size_t table = 0; table < labels.size(); ++table) {
+        for (std::size_t row = 0; row < labels[table].size(); ++row) {
+            for (std::size_t column = 0; column < labels[table][row].size(); ++column) {
+                QLabel &label = *labels[table][row][column];
+                label.setText(Text(StatisticsLabels[table][row][column]));
+                label.setAccessibleName(SpokenName(table, row, column));
+                LeaveRoomForBlank(label, column);
+            }
+        }
+    }
+}
+
+void StatisticsScreen::reject()
+{
+    close();
+}
+
+void StatisticsScreen::closeEvent(QCloseEvent *event)
+{
+    KeepPlace(*this, StatisticsPlace);
+    // At the program's end the main window goes first; what was open then stays noted.
+    if (Window()->isVisible()) {
+        StatisticsOpen = False;
+    }
+    event->accept();
+}
+
+void StatisticsScreen::moveEvent(QMoveEvent * /*event*/)
+{
+    KeepPlace(*this, StatisticsPlace);
+}
+
+void ShowStatisticsScreen()
+{
+    if (statisticsScreen == nullptr) {
+        statisticsScreen = new StatisticsScreen(Window());
+    }
+    statisticsScreen->Refresh();
+    if (!statisticsScreen->isVisible()) {
+        statisticsScreen->adjustSize();
+        OpenAt(*statisticsScreen, {StatisticsPlace.Left, StatisticsPlace.Top, 0, 0});
+    }
+    BringToFront(*statisticsScreen);
+}
+
+void RefreshStatisticsScreen()
+{
+    if (statisticsScreen != nullptr) {
+        statisticsScreen->Refresh();
+    }
+}
+
+} // namespace kelvarine

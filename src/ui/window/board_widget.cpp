@@ -1,0 +1,113 @@
+#include "ui/window/board_widget.h"
+
+#include "game/search.h"
+#include "input/keys.h"
+#include "input/mouse.h"
+#include "paint/board_painter.h"
+#include "ui/window/board_accessible.h"
+#include "ui/window/key_decoder.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <utility>
+
+namespace kelvarine {
+
+namespace {
+
+// The keys that the toolbar shows the sign of.
+bool IsSignKey(std::int32_t code)
+{
+    return code == ShiftCode || code == CtrlCode;
+}
+
+bool IsTabulator(int key)
+{
+    return key == Qt::Key_Tab || key == Qt::Key_Backtab;
+}
+
+} // namespace
+
+BoardWidget::BoardWidget(QWidget *parent) : QWidget(parent)
+{
+    DescribeBoardToTools(); // before anything asks for the description, because that is kept
+    setFocusPolicy(Qt::StrongFocus);
+    // The picture covers all of it, so there is nothing to erase.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(tr("Sudoku board"));
+}
+
+void BoardWidget::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.drawImage(0, 0, BoardPicture());
+}
+
+void BoardWidget::mousePressEvent(QMouseEvent *event)
+{
+    const std::int32_t button = event->button() == Qt::RightButton ? RightButton : LeftButton;
+    const QPoint place = event->position().toPoint();
+    BoardPressed(button, ModifiersOf(event->modifiers()), place.x(), place.y());
+}
+
+void BoardWidget::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // Quick presses of the right button are presses.
+    if (event->button() == Qt::RightButton) {
+        mousePressEvent(event);
+    } else {
+        BoardDoubleClicked();
+    }
+}
+
+void BoardWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    // Only the left button alone drags.
+    const std::int32_t button = event->buttons() == Qt::LeftButton ? LeftButton : NoButton;
+    const QPoint place = event->position().toPoint();
+    BoardMoved(button, ModifiersOf(event->modifiers()), place.x(), place.y());
+}
+
+bool BoardWidget::event(QEvent *event)
+{
+    // The toolkit takes the tabulator for itself; it is a key of the board all the same.
+    if (event->type() == QEvent::KeyPress && IsTabulator(static_cast<QKeyEvent *>(event)->key()) &&
+        !ReadyForCommand()) {
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void BoardWidget::keyPressEvent(QKeyEvent *event)
+{
+    if (IsDesktopKey(event->key())) {
+        event->ignore();
+        return;
+    }
+    // A key without a code has no command, but like all others it ends the win display and brings
+    // the question during a search.
+    const std::int32_t code = KeyCodeOf(*event);
+    modifierHeld = modifierHeld || IsSignKey(code);
+    KeyDown(code, ModifiersOf(event->modifiers()));
+}
+
+void BoardWidget::keyReleaseEvent(QKeyEvent *event)
+{
+    const std::int32_t code = KeyCodeOf(*event);
+    // Another key that comes up leaves the modifier down.
+    modifierHeld = modifierHeld && !IsSignKey(code);
+    KeyUp(code);
+}
+
+void BoardWidget::focusOutEvent(QFocusEvent *event)
+{
+    // A modifier that opens a dialog is let go there.
+    if (std::exchange(modifierHeld, false)) {
+        KeyUp(ShiftCode);
+    }
+    QWidget::focusOutEvent(event);
+}
+
+} // namespace kelvarine

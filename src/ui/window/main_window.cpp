@@ -1,0 +1,201 @@
+#include "ui/window/main_window.h"
+
+#include "board/geometry.h"
+#include "board/look.h"
+#include "game/clock.h"
+#include "game/screens.h"
+#include "game/win_display.h"
+#include "grid/grid.h"
+#include "input/keys.h"
+#include "input/mouse.h"
+#include "input/toolbar.h"
+#include "outside/board.h"
+#include "paint/board_painter.h"
+#include "paint/margin_painter.h"
+#include "program/program.h"
+#include "ui/window/board_widget.h"
+#include "ui/window/key_decoder.h"
+#include "ui/window/menus.h"
+#include "ui/window/placing.h"
+#include "ui/window/toolbar_widget.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr QSize StartSize{760, 830};
+constexpr QSize SmallestSize{160, 160};
+
+MainWindow *mainWindow = nullptr;
+
+} // namespace
+
+MainWindow *Window()
+{
+    return mainWindow;
+}
+
+// ---- Client area ---------------------------------------------------------------------------
+
+ClientArea::ClientArea(QWidget *parent)
+    : QWidget(parent), Toolbar(new ToolbarWidget(this)), Board(new BoardWidget(this))
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusProxy(Board);
+}
+
+void ClientArea::Layout()
+{
+    const bool toolbar = ToolbarVisible != False;
+    Toolbar->setVisible(toolbar);
+    Toolbar->setGeometry(1, 0, std::max(1, width() - 2), ToolbarHeight);
+    LayoutToolbar(Toolbar->width());
+    Toolbar->Update();
+    LayoutBoard(width(), height(), toolbar ? ToolbarHeight : 0);
+    Board->setGeometry(BoardPlace.X, BoardPlace.Y, BoardPlace.Width, BoardPlace.Height);
+    SetBoardPictureSize(BoardPlace.Width, BoardPlace.Height, devicePixelRatioF());
+}
+
+void ClientArea::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    PaintWindowTexts(painter, width(), height());
+}
+
+void ClientArea::resizeEvent(QResizeEvent * /*event*/)
+{
+    Layout();
+    DrawBoard();
+    update();
+}
+
+void ClientArea::mousePressEvent(QMouseEvent *event)
+{
+    BoardPressed(NoButton, ModifiersOf(event->modifiers()), -1, -1);
+    Board->setFocus(Qt::MouseFocusReason);
+}
+
+// ---- Main window ---------------------------------------------------------------------------
+
+MainWindow::MainWindow() : Client(new ClientArea(this)), timeBar(new QMenuBar(this))
+{
+    mainWindow = this;
+    connect(&ClockTimer, &QTimer::timeout, this, ClockTick);
+    connect(&WinTimer, &QTimer::timeout, this, WinDisplayTick);
+    setCentralWidget(Client);
+    BuildMenus();
+    setMinimumSize(SmallestSize);
+    resize(StartSize);
+    Client->Board->setFocus();
+}
+
+MainWindow::~MainWindow()
+{
+    hide(); // while all that follows the focus still stands
+    mainWindow = nullptr;
+}
+
+void MainWindow::BuildMenus()
+{
+    timeBar->setNativeMenuBar(false);
+    kelvarine::BuildMenus(menuBar(), timeBar);
+    menuBar()->setCornerWidget(timeBar, Qt::TopRightCorner);
+}
+
+void MainWindow::UpdateMenuCaptions()
+{
+    UpdateMenus(timeBar);
+    // The corner keeps the size that it had when it was set, so a longer caption needs this.
+    menuBar()->setCornerWidget(timeBar, Qt::TopRightCorner);
+    timeBar->show();
+}
+
+bool MainWindow::CloseUnlessAsking()
+{
+    // The toolkit would take a second closing for agreed and close the window under the question.
+    if (isVisible() && !asking) {
+        close();
+    }
+    return !isVisible();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    const QScopedValueRollback nowAsking(asking, true);
+    event->ignore();
+    if (EndProgram()) {
+        event->accept();
+    }
+}
+
+void MainWindow::ShowAtItsPlace()
+{
+    if (MainPlace.Width > 0 && MainPlace.Height > 0) {
+        const QSize screens = screen()->virtualSize();
+        const WindowPlace place =
+            MainMaximised != False ? MainPlace
+                                   : ReachablePlace(MainPlace, screens.width(), screens.height());
+        resize(QSize(place.Width, place.Height).boundedTo(screens));
+        move(place.Left, place.Top);
+    }
+    if (MainMaximised != False) {
+        showMaximized();
+    } else {
+        show();
+    }
+}
+
+void MainWindow::KeepPlace()
+{
+    if (!isVisible() || isMinimized()) {
+        return;
+    }
+    MainMaximised = isMaximized() ? True : False;
+    if (!isMaximized() && !isFullScreen()) {
+        kelvarine::KeepPlace(*this, MainPlace);
+    }
+}
+
+void MainWindow::moveEvent(QMoveEvent * /*event*/)
+{
+    KeepPlace();
+}
+
+void MainWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    KeepPlace();
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        KeepPlace();
+    }
+}
+
+void MainWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (IsDesktopKey(event->key())) {
+        event->ignore();
+        return;
+    }
+    KeyDown(KeyCodeOf(*event), ModifiersOf(event->modifiers()));
+}
+
+void MainWindow::keyReleaseEvent(QKeyEvent *event)
+{
+    KeyUp(KeyCodeOf(*event));
+}
+
+} // namespace kelvarine

@@ -1,0 +1,88 @@
+#include "ui/window/placing.h"
+
+#include "ui/window/main_window.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr int FarAway = 1'000'000;
+
+// The part of a screen that windows may take: of the one that a point lies on, else of the one
+// that the main window stands on.
+QRect ScreenAt(const QPoint &point)
+{
+    const QScreen *screen = QGuiApplication::screenAt(point);
+    return (screen != nullptr ? screen : Window()->screen())->availableGeometry();
+}
+
+// Size of a window with its frame. Before a window is shown, its frame is taken for as large as
+// that of the main window.
+QSize FramedSize(const QWidget &window)
+{
+    return window.size() + Window()->frameGeometry().size() - Window()->size();
+}
+
+} // namespace
+
+QPoint PlaceBeside(const QRect &other, const QSize &size, const QRect &screen)
+{
+    const int right = other.right() + 1;
+    const int left = other.left() - size.width();
+    int x = right;
+    if (right + size.width() > screen.right() + 1 && left >= screen.left()) {
+        x = left;
+    }
+    return KeptOnScreen({QPoint(x, other.top()), size}, screen);
+}
+
+QPoint KeptOnScreen(const QRect &window, const QRect &screen)
+{
+    const int x = std::min(window.left(), screen.right() + 1 - window.width());
+    const int y = std::min(window.top(), screen.bottom() + 1 - window.height());
+    return {std::max(x, screen.left()), std::max(y, screen.top())};
+}
+
+void OpenAt(QWidget &window, const WindowPlace &place)
+{
+    // Any number may stand in a file; no screen reaches this far.
+    const QPoint corner(std::clamp(place.Left, -FarAway, FarAway),
+                        std::clamp(place.Top, -FarAway, FarAway));
+    if (place.Width > 0 && place.Height > 0) {
+        const QSize screen = ScreenAt(corner).size();
+        window.resize(QSize(place.Width, place.Height).boundedTo(screen));
+    }
+    const QSize size = FramedSize(window);
+    if (place == WindowPlace{}) {
+        const QRect main = Window()->frameGeometry();
+        window.move(PlaceBeside(main, size, ScreenAt(main.center())));
+    } else {
+        const QRect wanted(corner, size);
+        window.move(KeptOnScreen(wanted, ScreenAt(wanted.center())));
+    }
+}
+
+void BringToFront(QWidget &window)
+{
+    if (window.isMinimized()) {
+        window.showNormal();
+    } else {
+        window.show();
+    }
+    window.raise();
+    window.activateWindow();
+}
+
+void KeepPlace(const QWidget &window, WindowPlace &place)
+{
+    if (window.isVisible() && !window.isMinimized()) {
+        place = {window.x(), window.y(), window.width(), window.height()};
+    }
+}
+
+} // namespace kelvarine

@@ -1,0 +1,133 @@
+#include "ui/window/toolbar_widget.h"
+
+#include "input/toolbar.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <cmath>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr int EdgeShade = 170; // percent, as the toolkit darkens colours
+constexpr int PressedShade = 125;
+constexpr qreal Rounding = 3; // pixels
+
+// How light a colour looks, 0 black to 1 white.
+double Lightness(const QColor &colour)
+{
+    constexpr double gamma = 2.2;
+    return 0.2126 * std::pow(colour.redF(), gamma) + 0.7152 * std::pow(colour.greenF(), gamma) +
+           0.0722 * std::pow(colour.blueF(), gamma);
+}
+
+// Black or white, whichever reads better on a colour.
+QColor InkOn(const QColor &background)
+{
+    constexpr double even = 0.18; // as far from black as from white, to the eye
+    return Lightness(background) < even ? Qt::white : Qt::black;
+}
+
+// A button without a caption has its colour for one; for those who don't see it, its number.
+QString SpokenName(std::int32_t index, const ToolButton &button)
+{
+    if (!button.Caption.empty()) {
+        return QString::fromStdString(button.Caption);
+    }
+    return QObject::tr("Highlight color %1").arg(index);
+}
+
+} // namespace
+
+ToolButtonWidget::ToolButtonWidget(std::int32_t index, QWidget *parent)
+    : QPushButton(parent), number(index)
+{
+    setObjectName(QStringLiteral("cmdTool%1").arg(index));
+    setFocusPolicy(Qt::TabFocus);
+    setMouseTracking(true);
+    setAutoDefault(false);
+}
+
+void ToolButtonWidget::Update()
+{
+    const ToolButton &button = ToolButtons[static_cast<std::size_t>(number)];
+    setText(QString::fromStdString(button.Caption));
+    setToolTip(QString::fromStdString(button.Tip));
+    setAccessibleName(SpokenName(number, button));
+    setAccessibleDescription(QString::fromStdString(button.Tip));
+    const QColor background = QColor::fromRgb(button.Background);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Button, background);
+    colours.setColor(QPalette::ButtonText, InkOn(background));
+    setPalette(colours);
+    setGeometry(button.Place.X, button.Place.Y, button.Place.Width, button.Place.Height);
+}
+
+void ToolButtonWidget::paintEvent(QPaintEvent * /*event*/)
+{
+    // Painted here because the styles of the toolkit either shade the colour of a button or leave
+    // it out, and in highlight mode it has to be the very colour that a cell will get.
+    const QColor background = palette().color(QPalette::Button);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor ink = palette().color(QPalette::ButtonText);
+    painter.setPen(underMouse() ? ink : background.darker(EdgeShade));
+    painter.setBrush(isDown() ? background.darker(PressedShade) : background);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Rounding, Rounding);
+    painter.setPen(ink);
+    painter.drawText(rect(), Qt::AlignCenter, text());
+    if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 1, 1);
+    }
+}
+
+void ToolButtonWidget::mousePressEvent(QMouseEvent * /*event*/)
+{
+    setDown(true);
+    ToolPressed(number);
+    // A question that came up meanwhile has taken the release.
+    setDown(QGuiApplication::mouseButtons() != Qt::NoButton);
+}
+
+void ToolButtonWidget::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    mousePressEvent(event);
+}
+
+void ToolButtonWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    SlideToolbar(mapToParent(event->position().toPoint()).x(), parentWidget()->width());
+}
+
+void ToolButtonWidget::mouseReleaseEvent(QMouseEvent * /*event*/)
+{
+    setDown(false);
+}
+
+void ToolButtonWidget::keyPressEvent(QKeyEvent * /*event*/)
+{
+    ToolPressed(number);
+}
+
+ToolbarWidget::ToolbarWidget(QWidget *parent) : QWidget(parent)
+{
+    setObjectName(QStringLiteral("picToolbar"));
+    setAutoFillBackground(true);
+    for (std::size_t index = 0; index < ToolButtonCount; ++index) {
+        buttons.push_back(new ToolButtonWidget(static_cast<std::int32_t>(index), this));
+    }
+}
+
+void ToolbarWidget::Update()
+{
+    for (ToolButtonWidget *button : buttons) {
+        button->Update();
+    }
+}
+
+} // namespace kelvarine

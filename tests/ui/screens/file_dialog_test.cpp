@@ -1,0 +1,500 @@
+#include "commands/file_commands.h"
+#include "commands/restart.h"
+#include "files/file_dialog.h"
+#include "game/lifecycle.h"
+#include "game/screens.h"
+#include "grid/history.h"
+#include "support/positions.h"
+#include "support/temporary_folder.h"
+#include "support/widget_program.h"
+#include "ui/screens/file_dialog_qt.h"
+#include "ui/screens/help_window.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScreen>
+#include <QTreeView>
+#include <QtTest>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace kelvarine::testing {
+namespace {
+
+// A showing of the dialog in a folder of the test's own.
+class FileDialogWindow : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        DialogFolder = Folder.Path();
+    }
+
+    // Opens a showing, in place of one before.
+    void Show(std::string_view caption, std::size_t fileType = SudokuFiles)
+    {
+        Dialog.reset();
+        DialogCaption = caption;
+        SelectFileType(fileType);
+        Dialog = std::make_unique<FileDialog>(Running.Main.get(), fileType);
+        Dialog->open();
+        QCoreApplication::processEvents();
+    }
+
+    template <typename Control>
+    Control *Find(const char *name) const
+    {
+        return Dialog->findChild<Control *>(QString::fromLatin1(name));
+    }
+
+    [[nodiscard]] QLineEdit *Name() const
+    {
+        return Find<QLineEdit>("txtFileName");
+    }
+
+    [[nodiscard]] QListWidget *Files() const
+    {
+        return Find<QListWidget>("filFiles");
+    }
+
+    // Types into the name, whatever stands there, and presses Enter.
+    void Type(const char *text) const
+    {
+        Name()->setFocus();
+        Name()->selectAll();
+        QTest::keyClicks(Name(), QString::fromUtf8(text));
+    }
+
+    void TypeAndEnter(const char *text) const
+    {
+        Type(text);
+        QTest::keyClick(Name(), Qt::Key_Return);
+    }
+
+    [[nodiscard]] std::vector<std::string> Listed() const
+    {
+        std::vector<std::string> names;
+        names.reserve(static_cast<std::size_t>(Files()->count()));
+        for (int row = 0; row < Files()->count(); ++row) {
+            names.push_back(Files()->item(row)->text().toStdString());
+        }
+        return names;
+    }
+
+    void ClickEntry(int row, bool twice = false) const
+    {
+        const QPoint place = Files()->visualItemRect(Files()->item(row)).center();
+        QTest::mouseClick(Files()->viewport(), Qt::LeftButton, {}, place);
+        if (twice) {
+            QTest::mouseDClick(Files()->viewport(), Qt::LeftButton, {}, place);
+        }
+    }
+
+    [[nodiscard]] bool InView(int row) const
+    {
+        return Files()->viewport()->rect().contains(
+            Files()->visualItemRect(Files()->item(row)).center());
+    }
+
+    Program Running;
+    TemporaryFolder Folder;
+    std::unique_ptr<FileDialog> Dialog;
+};
+
+// Runs an action that opens one message box, and presses a key in it. Its text.
+std::string PressInBox(const std::function<void()> &action, Qt::Key key)
+{
+    std::string text;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            box != nullptr && box->isVisible()) {
+            text = box->text().toStdString();
+            QTest::keyClick(box, key);
+        }
+    });
+    watch.start(1);
+    action();
+    return text;
+}
+
+TEST_F(FileDialogWindow, HasItsCaptionItsTypesAndTheFocusInTheName)
+{
+    Show(SaveSolutionsCaption, TextFiles);
+    EXPECT_EQ(Dialog->windowTitle().toStdString(), "Save Solution(s) As Text File");
+    const auto *types = Find<QComboBox>("cmbFileTypes");
+    ASSERT_EQ(types->count(), 3);
+    EXPECT_EQ(types->itemText(0).toStdString(), "Sudoku files (*.sdk)");
+    EXPECT_EQ(types->itemText(1).toStdString(), "Text files (*.txt)");
+    EXPECT_EQ(types->itemText(2).toStdString(), "All files (*.*)");
+    EXPECT_EQ(types->currentIndex(), 1);
+    EXPECT_EQ(Dialog->focusWidget(), Name());
+    EXPECT_TRUE(Find<QPushButton>("cmdOK")->isDefault());
+}
+
+TEST_F(FileDialogWindow, TabGoesThroughTheControlsInTheirOrder)
+{
+    Show(OpenGameCaption);
+    std::vector<std::string> order;
+    for (int i = 0; i < 7; ++i) {
+        order.push_back(Dialog->focusWidget()->objectName().toStdString());
+        QTest::keyClick(Dialog->focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(order, (std::vector<std::string>{"txtFileName", "cmbFileTypes", "cmdOK", "cmdCancel",
+                                               "cmdHelp", "dirDirectory", "filFiles"}));
+    EXPECT_EQ(Dialog->focusWidget(), Name());
+}
+
+TEST_F(FileDialogWindow, ControlsHaveNamesForThoseWhoDoNotSee)
+{
+    Show(OpenGameCaption);
+    EXPECT_EQ(Find<QTreeView>("dirDirectory")->accessibleName().toStdString(), "Folders");
+    EXPECT_EQ(Files()->accessibleName().toStdString(), "Files");
+    EXPECT_EQ(Name()->accessibleName().toStdString(), "File name");
+    EXPECT_EQ(Find<QComboBox>("cmbFileTypes")->accessibleName().toStdString(), "File types");
+}
+
+// ---- OK ------------------------------------------------------------------------------------
+
+TEST_F(FileDialogWindow, EnterOpensTheTypedName)
+{
+    Folder.Write("game.sdk", "");
+    Show(OpenGameCaption);
+    TypeAndEnter("game");
+    EXPECT_FALSE(Dialog->isVisible());
+    EXPECT_EQ(Dialog->result(), QDialog::Accepted);
+    EXPECT_EQ(ChosenFilePath, Folder.Path("game.sdk"));
+}
+
+TEST_F(FileDialogWindow, EmptyNameIsToldAndTheDialogStays)
+{
+    Show(SaveGameCaption);
+    const BoxRecord boxes = AnswerBoxes([&] { TypeAndEnter("  "); }, {QMessageBox::Ok});
+    EXPECT_EQ(boxes.Texts, std::vector<std::string>{"Please enter a file name."});
+    EXPECT_TRUE(Dialog->isVisible());
+    EXPECT_EQ(Dialog->result(), QDialog::Rejected);
+}
+
+TEST_F(FileDialogWindow, MissingFileIsToldAndAnotherTryOpens)
+{
+    Folder.Write("game.sdk", "");
+    Show(OpenGameCaption);
+    const BoxRecord boxes = AnswerBoxes([&] { TypeAndEnter("gone"); }, {QMessageBox::Ok});
+    EXPECT_EQ(boxes.Texts, std::vector<std::string>{"File not found\n\nCheck path and file name"});
+    ASSERT_TRUE(Dialog->isVisible());
+    TypeAndEnter("game.sdk");
+    EXPECT_FALSE(Dialog->isVisible());
+    EXPECT_EQ(Dialog->result(), QDialog::Accepted);
+}
+
+TEST_F(FileDialogWindow, EnterInTheOverwriteQuestionIsNo)
+{
+    Folder.Write("a & b.sdk", "");
+    Show(SaveGameCaption);
+    EXPECT_EQ(PressInBox([&] { TypeAndEnter("a & b"); }, Qt::Key_Return),
+              Folder.Path("a & b.sdk") + "\nalready exists.\n\nDo you want to overwrite it?");
+    EXPECT_TRUE(Dialog->isVisible());
+    EXPECT_EQ(Dialog->result(), QDialog::Rejected);
+    EXPECT_EQ(GameFilePath, "");
+    const BoxRecord boxes = AnswerBoxes([&] { TypeAndEnter("a & b"); }, {QMessageBox::Yes});
+    EXPECT_EQ(boxes.Titles, std::vector<std::string>{"Overwrite?"});
+    EXPECT_FALSE(Dialog->isVisible());
+    EXPECT_EQ(GameFilePath, Folder.Path("a & b.sdk"));
+}
+
+// ---- Cancel and help -----------------------------------------------------------------------
+
+TEST_F(FileDialogWindow, EscapeCancelButtonAndClosingCancel)
+{
+    for (int way = 0; way < 3; ++way) {
+        Show(SaveGameCaption);
+        Type("some name");
+        if (way == 0) {
+            QTest::keyClick(Dialog.get(), Qt::Key_Escape);
+        } else if (way == 1) {
+            QTest::mouseClick(Find<QPushButton>("cmdCancel"), Qt::LeftButton);
+        } else {
+            Dialog->close();
+        }
+        EXPECT_FALSE(Dialog->isVisible());
+        EXPECT_EQ(Dialog->result(), QDialog::Rejected);
+        EXPECT_EQ(DialogName, "some name");
+        DialogName.clear();
+    }
+}
+
+TEST_F(FileDialogWindow, HelpSendsTheFocusBackToTheName)
+{
+    Show(OpenGameCaption);
+    Files()->setFocus();
+    QTest::keyClick(Files(), Qt::Key_F1);
+    ASSERT_NE(OpenHelpWindow(), nullptr);
+    OpenHelpWindow()->close();
+    EXPECT_EQ(Dialog->focusWidget(), Name());
+    auto *help = Find<QPushButton>("cmdHelp");
+    help->setFocus();
+    QTest::keyClick(help, Qt::Key_Space);
+    ASSERT_NE(OpenHelpWindow(), nullptr);
+    EXPECT_TRUE(OpenHelpWindow()->isVisible());
+    OpenHelpWindow()->close();
+    EXPECT_EQ(Dialog->focusWidget(), Name());
+    EXPECT_TRUE(Dialog->isVisible());
+}
+
+// ---- The lists -----------------------------------------------------------------------------
+
+TEST_F(FileDialogWindow, TypeFiltersTheList)
+{
+    for (const std::string_view name : {"b.sdk", "A.SDK", "c.txt", "plain"}) {
+        Folder.Write(name, "");
+    }
+    std::filesystem::create_directory(Folder.Path("folder.sdk"));
+    Show(OpenGameCaption);
+    EXPECT_EQ(Listed(), (std::vector<std::string>{"A.SDK", "b.sdk"}));
+    auto *types = Find<QComboBox>("cmbFileTypes");
+    QTest::keyClick(types, Qt::Key_Down);
+    EXPECT_EQ(Listed(), std::vector<std::string>{"c.txt"});
+    EXPECT_EQ(DefaultExtension, ".txt");
+    QTest::keyClick(types, Qt::Key_Down);
+    EXPECT_EQ(Listed(), (std::vector<std::string>{"A.SDK", "b.sdk", "c.txt", "plain"}));
+    EXPECT_EQ(DefaultExtension, ".sdk");
+}
+
+TEST_F(FileDialogWindow, ClickAndArrowsCopyTheNameAndDoubleClickOpens)
+{
+    Folder.Write("a.sdk", "");
+    Folder.Write("b.sdk", "");
+    Show(OpenGameCaption);
+    ClickEntry(0);
+    EXPECT_EQ(Name()->text().toStdString(), "a.sdk");
+    QTest::keyClick(Files(), Qt::Key_Down);
+    EXPECT_EQ(Name()->text().toStdString(), "b.sdk");
+    Type("other");
+    ClickEntry(1);
+    EXPECT_EQ(Name()->text().toStdString(), "b.sdk");
+    ClickEntry(0, true);
+    EXPECT_FALSE(Dialog->isVisible());
+    EXPECT_EQ(ChosenFilePath, Folder.Path("a.sdk"));
+}
+
+TEST_F(FileDialogWindow, TypingBringsTheFirstEntryThatBeginsSoIntoView)
+{
+    for (int i = 100; i < 300; ++i) {
+        Folder.Write("Game " + std::to_string(i) + ".sdk", "");
+    }
+    Show(OpenGameCaption);
+    ASSERT_EQ(Files()->count(), 200);
+    ASSERT_FALSE(InView(150));
+    Type("game 25");
+    EXPECT_TRUE(InView(150));
+    EXPECT_FALSE(InView(0));
+    Name()->selectAll();
+    QTest::keyClick(Name(), Qt::Key_Backspace);
+    EXPECT_TRUE(InView(0));
+    Type("game 25");
+    ASSERT_FALSE(InView(0));
+    Type(" ");
+    EXPECT_TRUE(InView(0)) << "all entries begin with blanks that do not count";
+}
+
+TEST_F(FileDialogWindow, DeleteKeyInTheListAsksAndDeletes)
+{
+    Folder.Write("a & b.sdk", "");
+    Folder.Write("c.sdk", "");
+    GameFilePath = Folder.Path("a & b.sdk");
+    Show(OpenGameCaption);
+    ClickEntry(0);
+    EXPECT_EQ(PressInBox([&] { QTest::keyClick(Files(), Qt::Key_Delete); }, Qt::Key_Return),
+              "Are you sure you want to delete:\na & b.sdk");
+    EXPECT_EQ(Folder.Entries(), 2);
+    AnswerBoxes([&] { QTest::keyClick(Files(), Qt::Key_Delete); }, {QMessageBox::Yes});
+    EXPECT_EQ(Folder.Entries(), 1);
+    EXPECT_EQ(Listed(), std::vector<std::string>{"c.sdk"});
+    EXPECT_EQ(Name()->text().toStdString(), "");
+    EXPECT_EQ(GameModified, True);
+}
+
+TEST_F(FileDialogWindow, DeleteKeyIsTheKeyWhateverIsHeldWithIt)
+{
+    Folder.Write("a.sdk", "");
+    Show(OpenGameCaption);
+    ClickEntry(0);
+    EXPECT_EQ(PressInBox([&] { QTest::keyClick(Files(), Qt::Key_D, Qt::ControlModifier); },
+                         Qt::Key_Return),
+              "");
+    for (const Qt::KeyboardModifier held :
+         {Qt::ShiftModifier, Qt::ControlModifier, Qt::KeypadModifier}) {
+        EXPECT_EQ(
+            PressInBox([&] { QTest::keyClick(Files(), Qt::Key_Delete, held); }, Qt::Key_Return),
+            "Are you sure you want to delete:\na.sdk");
+    }
+    EXPECT_EQ(Folder.Entries(), 1);
+}
+
+TEST_F(FileDialogWindow, DeleteKeyElsewhereDeletesNoFile)
+{
+    Folder.Write("a.sdk", "");
+    Show(OpenGameCaption);
+    Files()->setFocus();
+    QTest::keyClick(Files(), Qt::Key_Delete); // nothing is selected
+    ClickEntry(0);
+    Name()->setFocus();
+    Name()->setCursorPosition(0);
+    QTest::keyClick(Name(), Qt::Key_Delete);
+    EXPECT_EQ(Name()->text().toStdString(), ".sdk");
+    EXPECT_EQ(Folder.Entries(), 1);
+}
+
+TEST_F(FileDialogWindow, FolderChosenInTheTreeIsListedAndKept)
+{
+    std::filesystem::create_directory(Folder.Path("inner"));
+    Folder.Write("inner/deep.sdk", "");
+    Show(OpenGameCaption);
+    auto *tree = Find<QTreeView>("dirDirectory");
+    EXPECT_EQ(Find<QLabel>("lblFolder")->text().toStdString(), Folder.Path());
+    const auto *folders = qobject_cast<QFileSystemModel *>(tree->model());
+    const QModelIndex inner = folders->index(QString::fromStdString(Folder.Path("inner")));
+    ASSERT_TRUE(inner.isValid());
+    tree->setCurrentIndex(inner);
+    EXPECT_EQ(DialogFolder, Folder.Path("inner/"));
+    EXPECT_EQ(Find<QLabel>("lblFolder")->text().toStdString(), Folder.Path("inner/"));
+    EXPECT_EQ(Listed(), std::vector<std::string>{"deep.sdk"});
+    TypeAndEnter("deep");
+    EXPECT_EQ(ChosenFilePath, Folder.Path("inner/deep.sdk"));
+    Show(SaveGameCaption);
+    EXPECT_EQ(Listed(), std::vector<std::string>{"deep.sdk"});
+    EXPECT_EQ(Name()->text().toStdString(), "deep");
+}
+
+TEST_F(FileDialogWindow, TreeShowsTheFolderInHand)
+{
+    for (int i = 100; i < 200; ++i) {
+        std::filesystem::create_directory(Folder.Path(std::to_string(i)));
+    }
+    DialogFolder = Folder.Path("190/");
+    Show(OpenGameCaption);
+    const auto *tree = Find<QTreeView>("dirDirectory");
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            return tree->viewport()->rect().contains(
+                tree->visualRect(tree->currentIndex()).center());
+        },
+        Patience));
+    EXPECT_EQ(tree->currentIndex().data().toString().toStdString(), "190");
+}
+
+TEST_F(FileDialogWindow, ArrowsWalkTheTree)
+{
+    std::filesystem::create_directory(Folder.Path("inner"));
+    Folder.Write("inner/deep.sdk", "");
+    Show(OpenGameCaption);
+    auto *tree = Find<QTreeView>("dirDirectory");
+    tree->setFocus();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tree->model()->rowCount(tree->currentIndex()) == 1; },
+                                Patience));
+    QTest::keyClick(tree, Qt::Key_Down);
+    EXPECT_EQ(DialogFolder, Folder.Path("inner/"));
+    QTest::keyClick(tree, Qt::Key_Left);
+    EXPECT_EQ(DialogFolder, Folder.Path());
+}
+
+// ---- Its place -----------------------------------------------------------------------------
+
+TEST_F(FileDialogWindow, ComesBackWhereItStood)
+{
+    Show(OpenGameCaption);
+    Dialog->resize(431, 377);
+    Dialog->move(57, 43);
+    Dialog->reject();
+    EXPECT_EQ(FileDialogPlace, (WindowPlace{57, 43, 431, 377}));
+    Show(OpenGameCaption);
+    EXPECT_EQ(Dialog->size(), QSize(431, 377));
+    EXPECT_EQ(Dialog->pos(), QPoint(57, 43));
+}
+
+TEST_F(FileDialogWindow, NeverOpensOffTheScreen)
+{
+    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    for (const WindowPlace place : {WindowPlace{-3000, 20, 400, 300},
+                                    {20, 5000, 400, 300},
+                                    {most, -most - 1, most, most},
+                                    {-most - 1, most, 1, 1},
+                                    {700, 700, 400, 400}}) {
+        FileDialogPlace = place;
+        Show(OpenGameCaption);
+        EXPECT_TRUE(screen.contains(QRect(Dialog->pos(), Dialog->size()))) << place.Left;
+    }
+}
+
+TEST_F(FileDialogWindow, KeepsASmallestSize)
+{
+    FileDialogPlace = {10, 10, 50, 50};
+    Show(OpenGameCaption);
+    EXPECT_GE(Dialog->width(), 290);
+    EXPECT_GE(Dialog->height(), 290);
+}
+
+// ---- From the commands ---------------------------------------------------------------------
+
+// Does something in the file dialog as soon as it is on view.
+void InDialog(const std::function<void(FileDialog &)> &act)
+{
+    auto *watch = new QTimer(qApp);
+    QObject::connect(watch, &QTimer::timeout, watch, [watch, act] {
+        if (auto *dialog = qobject_cast<FileDialog *>(QApplication::activeModalWidget())) {
+            watch->deleteLater();
+            watch->stop();
+            act(*dialog);
+        }
+    });
+    watch->start(1);
+}
+
+void EnterName(FileDialog &dialog, const char *name)
+{
+    auto *field = dialog.findChild<QLineEdit *>(QStringLiteral("txtFileName"));
+    field->clear();
+    QTest::keyClicks(field, QString::fromUtf8(name));
+    QTest::keyClick(field, Qt::Key_Return);
+}
+
+TEST_F(FileDialogWindow, GameIsSavedAndOpenedThroughTheDialog)
+{
+    Grid[5][5] = BitTable[3] | GivenBit;
+    StartGame(NewGame);
+    InDialog([](FileDialog &dialog) { EnterName(dialog, "Mine"); });
+    mnuSaveAs();
+    EXPECT_EQ(Running.Main->windowTitle().toStdString(), "Kelvarine (mine.sdk)");
+    EXPECT_EQ(GameModified, False);
+    mnuGameBlankGrid();
+    EXPECT_EQ(GivenCount, 0);
+    GameModified = False;
+    InDialog([](FileDialog &dialog) { EnterName(dialog, "Mine.sdk"); });
+    mnuOpen();
+    EXPECT_EQ(GivenCount, 1);
+    EXPECT_EQ(GameFilePath, Folder.Path("Mine.sdk"));
+}
+
+TEST_F(FileDialogWindow, EscapeInTheDialogHoldsTheClosing)
+{
+    GameModified = True;
+    InDialog([](FileDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    AnswerBoxes([&] { Running.Main->close(); }, {QMessageBox::Yes});
+    EXPECT_TRUE(Running.Main->isVisible());
+}
+
+TEST_F(FileDialogWindow, SavedGameLetsTheWindowClose)
+{
+    GameModified = True;
+    InDialog([](FileDialog &dialog) { EnterName(dialog, "last"); });
+    AnswerBoxes([&] { Running.Main->close(); }, {QMessageBox::Yes});
+    EXPECT_FALSE(Running.Main->isVisible());
+    EXPECT_EQ(Folder.Read("last.sdk").size(), 41360U);
+}
+
+} // namespace
+} // namespace kelvarine::testing

@@ -1,0 +1,269 @@
+// What the pages of the help promise, held against the game.
+#include "commands/text_commands.h"
+#include "game/alert_scan.h"
+#include "game/lifecycle.h"
+#include "grid/grid.h"
+#include "input/keys.h"
+#include "input/menu_table.h"
+#include "logic/technique_table.h"
+#include "outside/clipboard.h"
+#include "support/positions.h"
+#include "support/widget_program.h"
+#include "ui/screens/help_collection.h"
+#include "ui/screens/help_page.h"
+
+#include <QFile>
+#include <QHelpLink>
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace kelvarine::testing {
+
+namespace {
+
+struct HelpPages : ::testing::Test {
+    std::unique_ptr<HelpCollection> Help = OpenHelp(HelpFolder());
+
+    [[nodiscard]] QUrl UrlOf(const QString &file) const
+    {
+        return PageOfContext(*Help->Engine, 0).resolved(QUrl(file));
+    }
+
+    [[nodiscard]] QString Page(const QString &file) const
+    {
+        return QString::fromUtf8(Help->Engine->fileData(UrlOf(file)));
+    }
+
+    [[nodiscard]] QStringList Files() const
+    {
+        QStringList names;
+        for (const QUrl &url : Help->Engine->files(QStringLiteral("kelvarine"), QStringList(),
+                                                   QStringLiteral("html"))) {
+            names += url.fileName();
+        }
+        return names;
+    }
+};
+
+QStringList Captures(const QString &text, const char *pattern)
+{
+    QStringList found;
+    auto matches = QRegularExpression(QString::fromLatin1(pattern)).globalMatch(text);
+    while (matches.hasNext()) {
+        found += matches.next().captured(1);
+    }
+    return found;
+}
+
+QString Project()
+{
+    QFile file(HelpFolder() + QStringLiteral("kelvarine.qhp"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return QString::fromUtf8(file.readAll());
+}
+
+// The page of each technique.
+const std::map<int, const char *> techniquePages{
+    {1, "naked-single.html"}, {2, "hidden-single.html"}, {3, "naked-pair.html"},
+    {4, "hidden-pair.html"},  {5, "naked-triple.html"},  {6, "hidden-triple.html"},
+    {7, "naked-quad.html"},   {8, "hidden-quad.html"},   {9, "intersection.html"},
+    {10, "x-wing.html"},      {11, "swordfish.html"},    {12, "jellyfish.html"},
+    {13, "xy-wing.html"},     {14, "remote-pairs.html"}, {15, "xy-chain.html"},
+    {16, "xyz-wing.html"},    {17, "hinge-wing.html"},   {18, "singles-chain.html"},
+};
+
+// The words that the game gives on Grid in a stage of a hint.
+std::string HintOf(std::int32_t mode)
+{
+    ClearCellBits(SelectedBit | HintCellBit | HintDomainBit | ScratchMarks);
+    ScanAlerts(mode);
+    return HintText;
+}
+
+QString Word(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// A key as the page of the keyboard names it.
+QString KeyName(std::int32_t code)
+{
+    static const std::map<std::int32_t, const char *> names{
+        {27, "Esc"},
+        {ShiftCode, "Shift"},
+        {CtrlCode, "Ctrl"},
+        {LeftCode, "Left"},
+        {UpCode, "Up"},
+        {RightCode, "Right"},
+        {DownCode, "Down"},
+        {PageUpCode, "Page Up"},
+        {PageDownCode, "Page Down"},
+        {InsertCode, "Insert"},
+        {DeleteCode, "Delete"},
+        {KeypadMinusCode, "-"},
+        {MinusCode, "-"},
+    };
+    const auto name = names.find(code);
+    if (name != names.end()) {
+        return QString::fromLatin1(name->second);
+    }
+    const bool letter = code >= 'A' && code <= 'Z';
+    return letter ? QString(QChar(static_cast<char16_t>(code))) : QString();
+}
+
+} // namespace
+
+TEST_F(HelpPages, EveryLinkAndPictureLeadsSomewhere)
+{
+    ASSERT_NE(Help, nullptr);
+    int links = 0;
+    for (const QString &file : Files()) {
+        for (const QString &link : Captures(Page(file), "(?:href|src)=\"([^\"]*)\"")) {
+            ++links;
+            if (link != QStringLiteral("copy:position")) {
+                EXPECT_FALSE(Help->Engine->fileData(UrlOf(link)).isEmpty())
+                    << file.toStdString() << " leads to " << link.toStdString();
+            }
+        }
+    }
+    EXPECT_GT(links, 150);
+}
+
+TEST_F(HelpPages, ContentsAndIndexLeadToPagesAndNoPageIsForgotten)
+{
+    ASSERT_NE(Help, nullptr);
+    const QString project = Project();
+    for (const QString &page : Captures(project, "ref=\"([^\"]*)\"")) {
+        EXPECT_FALSE(Page(page).isEmpty()) << page.toStdString();
+    }
+    QStringList contents = Captures(project, "<section [^>]*ref=\"([^\"]*)\"");
+    contents.removeDuplicates();
+    for (const QString &file : Files()) {
+        EXPECT_TRUE(contents.contains(file)) << file.toStdString() << " is not in the contents";
+    }
+    EXPECT_EQ(Files().size(), contents.size());
+}
+
+TEST_F(HelpPages, EveryWordOfTheIndexLeadsToOnePage)
+{
+    ASSERT_NE(Help, nullptr);
+    const QStringList words = Captures(Project(), "<keyword name=\"([^\"]*)\"");
+    EXPECT_GT(words.size(), 80);
+    for (const QString &word : words) {
+        EXPECT_EQ(Help->Engine->documentsForKeyword(word).size(), 1) << word.toStdString();
+    }
+}
+
+TEST_F(HelpPages, EveryPageHasATitleOfItsOwn)
+{
+    ASSERT_NE(Help, nullptr);
+    QStringList titles;
+    for (const QString &file : Files()) {
+        const QStringList title = Captures(Page(file), "<title>([^<]+)</title>");
+        ASSERT_EQ(title.size(), 1) << file.toStdString();
+        EXPECT_TRUE(Page(file).contains(QStringLiteral("<h1>%1</h1>").arg(title.front())));
+        titles += title;
+    }
+    titles.removeDuplicates();
+    EXPECT_EQ(titles.size(), Files().size());
+}
+
+TEST_F(HelpPages, EveryContextHasItsTopic)
+{
+    ASSERT_NE(Help, nullptr);
+    const std::map<int, const char *> pages{
+        {0, "index.html"},
+        {202, "settings-new-games.html"},
+        {204, "settings-sound.html"},
+        {206, "settings-print.html"},
+        {208, "settings-logic.html"},
+        {210, "settings-preset-grids.html"},
+        {212, "settings-grid.html"},
+        {214, "settings-colors.html"},
+        {216, "settings-coordinates.html"},
+        {600, "files.html"},
+        {201, "index.html"}, // no topic has this number
+        {-1, "index.html"},
+    };
+    for (const auto &[context, page] : pages) {
+        EXPECT_EQ(PageOfContext(*Help->Engine, context).fileName().toStdString(), page);
+    }
+}
+
+TEST_F(HelpPages, PastedPositionOfATechniquePageShowsThatTechnique)
+{
+    ASSERT_NE(Help, nullptr);
+    ASSERT_EQ(techniquePages.size(), Techniques.size());
+    for (const auto &[number, file] : techniquePages) {
+        SCOPED_TRACE(file);
+        const Program program;
+        const QString page = Page(QLatin1String(file));
+        SetClipboardText(PositionOf(page.toStdString()));
+        mnuGameClipboard();
+        EXPECT_GE(GameRating, 1);
+        EXPECT_LE(GameRating, 5) << "the position has one solution";
+
+        const std::uint32_t alone = BitTable[static_cast<std::size_t>(number)];
+        AlertMask = alone;
+        ScanAlerts(1);
+        EXPECT_NE(CellsWith(AlertBit), "") << "the technique finds nothing";
+
+        // The hint that the page tells is that of the technique, also among all the others.
+        const std::string full = HintOf(5);
+        const std::string title = HintTitle;
+        EXPECT_NE(full, "");
+        LevelTable.fill(0);
+        LevelTable[1] = alone;
+        EXPECT_EQ(HintOf(5), full);
+        EXPECT_EQ(HintTitle, title);
+        EXPECT_TRUE(page.contains(QString::fromStdString("<b>" + title + "</b>")));
+        const QStringList picture = Captures(page, "src=\"([^\"]*)\"");
+        ASSERT_EQ(picture.size(), 1);
+        EXPECT_EQ(picture.front().section(u'.', 0, 0),
+                  QString::fromLatin1(file).section(u'.', 0, 0));
+    }
+}
+
+TEST_F(HelpPages, KeyboardPageHoldsEveryShortcutOfTheMenus)
+{
+    ASSERT_NE(Help, nullptr);
+    const QString page = Page(QStringLiteral("keyboard.html"));
+    int shortcuts = 0;
+    for (const MenuRow &row : MenuTable) {
+        if (row.Shortcut.empty()) {
+            continue;
+        }
+        ++shortcuts;
+        const auto filled = [](std::string_view text, std::int32_t number) {
+            return QRegularExpression::escape(Word(WithNumber(text, number)).remove(u'&'));
+        };
+        const QString keys = filled(row.Shortcut, row.First);
+        const QString words = filled(row.Caption, row.First);
+        const QRegularExpression line(
+            QStringLiteral("<tr><td>%1(?: to %2)?</td><td>[^<]*%3[^<]*</td>")
+                .arg(keys, filled(row.Shortcut, row.Last), words));
+        EXPECT_TRUE(page.contains(line)) << row.Name << ": " << row.Shortcut;
+    }
+    EXPECT_GT(shortcuts, 20);
+}
+
+TEST_F(HelpPages, KeyboardPageNamesEveryKeyOfTheBoard)
+{
+    ASSERT_NE(Help, nullptr);
+    const QString cells = Captures(Page(QStringLiteral("keyboard.html")), "<tr><td>([^<]*)</td>")
+                              .join(QStringLiteral(", "));
+    for (const KeyRow &row : KeyTable) {
+        if (row.Run == nullptr) {
+            continue; // a combination that is kept from doing anything
+        }
+        const QString key = KeyName(row.Code);
+        ASSERT_FALSE(key.isEmpty()) << "no name for key " << row.Code;
+        const QRegularExpression word(
+            QStringLiteral("(^|[ +,])%1($|[ ,])").arg(QRegularExpression::escape(key)));
+        EXPECT_TRUE(cells.contains(word)) << key.toStdString();
+    }
+}
+
+} // namespace kelvarine::testing

@@ -1,0 +1,76 @@
+#include "outside/messages.h"
+#include "support/widget_program.h"
+#include "ui/window/board_widget.h"
+#include "ui/window/box_place.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace kelvarine::testing {
+namespace {
+
+constexpr QRect Screen{0, 30, 1000, 800}; // under a panel of 30 pixels
+
+TEST(BoxPlace, IsToTheRightWhereThereIsRoom)
+{
+    EXPECT_EQ(BoxBeside({100, 130, 500, 500}, {392, 100}, Screen), QPoint(608, 329));
+}
+
+TEST(BoxPlace, IsToTheLeftWhenTheRightIsOnePixelShort)
+{
+    EXPECT_EQ(BoxBeside({450, 130, 150, 500}, {393, 100}, Screen), QPoint(49, 329));
+}
+
+TEST(BoxPlace, IsBelowWhenNeitherSideHasRoom)
+{
+    EXPECT_EQ(BoxBeside({300, 130, 400, 500}, {393, 192}, Screen), QPoint(303, 638));
+}
+
+TEST(BoxPlace, IsNowhereWhenThereIsNoRoom)
+{
+    EXPECT_EQ(BoxBeside({300, 130, 400, 500}, {393, 193}, Screen), std::nullopt);
+    EXPECT_EQ(BoxBeside({0, 30, 1000, 800}, {1, 1}, Screen), std::nullopt);
+}
+
+TEST(BoxPlace, StaysOnTheScreen)
+{
+    EXPECT_EQ(BoxBeside({0, 30, 100, 100}, {200, 400}, Screen), QPoint(108, 30));
+    EXPECT_EQ(BoxBeside({0, 700, 100, 100}, {200, 400}, Screen), QPoint(108, 430));
+    EXPECT_EQ(BoxBeside({-50, 30, 900, 300}, {900, 400}, Screen), QPoint(0, 338));
+    EXPECT_EQ(BoxBeside({0, 30, 100, 100}, {200, 900}, Screen), QPoint(108, 30))
+        << "a box that is too tall starts at the top";
+}
+
+TEST(BoxPlace, MessagesOpenBesideTheBoard)
+{
+    const Program program;
+    program.Main->resize(300, 380);
+    program.Main->move(10, 10);
+    QCoreApplication::processEvents();
+    const QWidget &board = *program.Main->Client->Board;
+    const QRect cells(board.mapToGlobal(QPoint(0, 0)), board.size());
+    QRect place;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+        if (auto *box = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
+            place = box->frameGeometry();
+            box->reject();
+        }
+    });
+    watch.start(1);
+    const std::string text = "Cell [D9] contains a 3 which conflicts with [D5].";
+    const auto besideTheBoard = [&] {
+        return place.isValid() && !place.intersects(cells) &&
+               program.Main->screen()->availableGeometry().contains(place);
+    };
+    ShowMessage(text, "Hint");
+    EXPECT_TRUE(besideTheBoard());
+    place = {};
+    EXPECT_FALSE(AskYesNo(text, "Hint"));
+    EXPECT_TRUE(besideTheBoard());
+}
+
+} // namespace
+} // namespace kelvarine::testing

@@ -1,0 +1,291 @@
+#include "board/look.h"
+#include "grid/colour.h"
+#include "grid/grid.h"
+#include "input/menu_table.h"
+#include "input/toolbar.h"
+#include "logic/driver.h"
+#include "support/play.h"
+#include "support/positions.h"
+#include "support/widget_events.h"
+#include "support/widget_program.h"
+#include "ui/window/board_widget.h"
+#include "ui/window/toolbar_widget.h"
+
+#include <QPushButton>
+#include <QtTest>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace kelvarine::testing {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+constexpr QPoint Middle{20, 9};
+
+class ToolbarOnView : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        program.Main->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(program.Main.get(), Patience));
+        Board()->setFocus();
+    }
+
+    [[nodiscard]] QPushButton *Button(int index) const
+    {
+        return ToolButtonOf(*program.Main, index);
+    }
+
+    [[nodiscard]] BoardWidget *Board() const
+    {
+        return program.Main->Client->Board;
+    }
+
+    [[nodiscard]] ToolbarWidget *Bar() const
+    {
+        return program.Main->Client->Toolbar;
+    }
+
+    void Press(int index, Qt::MouseButton button = Qt::LeftButton) const
+    {
+        Click(Button(index), Middle, button);
+    }
+
+    Program program;
+};
+
+// A window of 760 pixels has a toolbar of 758.
+TEST_F(ToolbarOnView, ButtonsLieAsLaidOut)
+{
+    EXPECT_EQ(Bar()->geometry(), QRect(1, 0, 758, 54));
+    for (int index = 0; index <= 11; ++index) {
+        EXPECT_EQ(Button(index)->geometry(), QRect(4 + index * 63, 3, 57, 26)) << index;
+    }
+    for (int index = 12; index <= 14; ++index) {
+        EXPECT_EQ(Button(index)->geometry(), QRect(4 + (index - 12) * 252, 32, 246, 18)) << index;
+    }
+}
+
+TEST_F(ToolbarOnView, PressActsAndReleaseDoesNot)
+{
+    SendMouse(Button(14), QEvent::MouseButtonPress, Middle, Qt::LeftButton, Qt::LeftButton);
+    EXPECT_EQ(ToolMode, 20);
+    ToolMode = 0;
+    SendMouse(Button(14), QEvent::MouseButtonRelease, Middle, Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(ToolMode, 0);
+    EXPECT_FALSE(Button(14)->isDown());
+}
+
+TEST_F(ToolbarOnView, ReleaseElsewhereChangesNothing)
+{
+    SendMouse(Button(13), QEvent::MouseButtonPress, Middle, Qt::LeftButton, Qt::LeftButton);
+    SendMouse(Button(13), QEvent::MouseButtonRelease, {-50, 200}, Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(ToolMode, 1);
+}
+
+TEST_F(ToolbarOnView, EveryMouseButtonActs)
+{
+    Press(14, Qt::RightButton);
+    EXPECT_EQ(ToolMode, 20);
+    Press(12, Qt::MiddleButton);
+    EXPECT_EQ(ToolMode, 10);
+}
+
+TEST_F(ToolbarOnView, SecondPressOfADoubleClickActsToo)
+{
+    Press(12);
+    SendMouse(Button(12), QEvent::MouseButtonDblClick, Middle, Qt::LeftButton, Qt::LeftButton);
+    EXPECT_EQ(ToolMode, 11);
+}
+
+TEST_F(ToolbarOnView, PressLeavesTheFocusWithTheBoard)
+{
+    for (int index = 0; index <= 14; ++index) {
+        Press(index);
+        EXPECT_EQ(QApplication::focusWidget(), Board()) << index;
+    }
+}
+
+TEST_F(ToolbarOnView, PressThatMovesNoFocusLeavesItWithTheBoardToo)
+{
+    for (const int mode : {11, 1}) { // nothing happens, and the freeze
+        ToolMode = mode;
+        Board()->setFocus();
+        QTest::mouseClick(Button(11), Qt::LeftButton);
+        EXPECT_EQ(QApplication::focusWidget(), Board()) << mode;
+    }
+}
+
+TEST_F(ToolbarOnView, AnyKeyOnAFocusedButtonActsAndTheFocusGoesBack)
+{
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_X, Qt::Key_F5, Qt::Key_Up,
+                              Qt::Key_Shift, Qt::Key_Escape}) {
+        NumberFilter = CandidateMask;
+        ToolMode = 20;
+        ToolSign = 0;
+        Button(4)->setFocus(Qt::TabFocusReason);
+        ASSERT_EQ(QApplication::focusWidget(), Button(4));
+        QTest::keyPress(Button(4), key);
+        EXPECT_EQ(NumberFilter, BitTable[4]) << key;
+        EXPECT_EQ(QApplication::focusWidget(), Board()) << key;
+    }
+}
+
+TEST_F(ToolbarOnView, TabReachesEveryButton)
+{
+    for (int index = 0; index <= 14; ++index) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), Button(index));
+    }
+}
+
+TEST_F(ToolbarOnView, PressBetweenTheButtonsDropsTheSelection)
+{
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        WordAt({4, 7}) = SelectedBit | HintCellBit;
+        Button(3)->setFocus(Qt::TabFocusReason);
+        Click(Bar(), {100, 30}, button, Qt::ShiftModifier);
+        EXPECT_EQ(CellsWith(SelectedBit), "D7");
+        EXPECT_EQ(QApplication::focusWidget(), Board());
+        Click(Bar(), {100, 30}, button);
+        EXPECT_EQ(CellsWith(SelectedBit), "");
+        EXPECT_EQ(CellsWith(HintCellBit), "D7");
+    }
+}
+
+TEST_F(ToolbarOnView, NumberButtonFillsTheSelectedCell)
+{
+    WordAt({4, 7}) |= SelectedBit;
+    Press(6);
+    EXPECT_EQ(WordAt({4, 7}) & CandidateMask, BitTable[6]);
+    Press(11);
+    Press(8);
+    EXPECT_EQ(WordAt({4, 7}) & CandidateMask, BitTable[6] | BitTable[8]);
+}
+
+TEST_F(ToolbarOnView, ButtonsShowTheirCaptionsColoursAndTips)
+{
+    for (const int press : {11, 11, 11, 13, 12, 12, 12, 12, 11, 14, 11, 13}) {
+        Press(press);
+        for (int index = 0; index <= 14; ++index) {
+            const ToolButton &told = ToolButtons[static_cast<std::size_t>(index)];
+            const QPushButton *button = Button(index);
+            EXPECT_EQ(button->text().toStdString(), told.Caption);
+            EXPECT_EQ(button->toolTip().toStdString(), told.Tip);
+            EXPECT_FALSE(button->accessibleName().isEmpty());
+            const QImage picture = Button(index)->grab().toImage();
+            EXPECT_EQ(picture.pixel(4, picture.height() / 2), QRgb(0xFF000000 | told.Background))
+                << index;
+        }
+    }
+}
+
+// Contrast as those who tell readable from unreadable reckon it.
+double Contrast(const QColor &a, const QColor &b)
+{
+    const auto luminance = [](const QColor &colour) {
+        const auto part = [](double value) {
+            return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
+               0.0722 * part(colour.blueF());
+    };
+    const double light = std::max(luminance(a), luminance(b));
+    const double dark = std::min(luminance(a), luminance(b));
+    return (light + 0.05) / (dark + 0.05);
+}
+
+TEST_F(ToolbarOnView, CaptionsAreReadableOnEveryColour)
+{
+    for (int shade = 0; shade < 4096; shade += 37) {
+        ToolButtons[10].Background = static_cast<Colour>(
+            (shade >> 8) * 0x110000 + (shade >> 4) % 16 * 0x1100 + shade % 16 * 0x11);
+        Bar()->Update();
+        const QPalette colours = Button(10)->palette();
+        EXPECT_GE(Contrast(colours.color(QPalette::Button), colours.color(QPalette::ButtonText)),
+                  4.5)
+            << std::hex << ToolButtons[10].Background;
+    }
+}
+
+TEST_F(ToolbarOnView, HeldModifierShowsItsSign)
+{
+    QTest::keyPress(Board(), Qt::Key_Shift);
+    EXPECT_EQ(Button(1)->text(), "- 1");
+    EXPECT_EQ(Button(10)->text(), "- All");
+    QTest::keyRelease(Board(), Qt::Key_Shift);
+    EXPECT_EQ(Button(1)->text(), "1");
+    QTest::keyPress(Board(), Qt::Key_Control);
+    EXPECT_EQ(Button(1)->text(), "+ 1");
+    QTest::keyRelease(Board(), Qt::Key_Control);
+    EXPECT_EQ(Button(1)->text(), "1");
+}
+
+TEST_F(ToolbarOnView, ModifierThatComesUpInADialogIsPlainAgain)
+{
+    SendKey(Board(), QEvent::KeyPress, Qt::Key_Shift);
+    EXPECT_EQ(Button(1)->text(), "- 1");
+    const Texts boxes =
+        CloseModals([&] { SendKey(Board(), QEvent::KeyPress, Qt::Key_H, Qt::ShiftModifier); });
+    EXPECT_EQ(boxes, Texts{"Kelvarine: There are no cells selected."});
+    EXPECT_EQ(Button(1)->text(), "1");
+}
+
+TEST_F(ToolbarOnView, DigitThatComesUpLeavesShiftHeld)
+{
+    SendKey(Board(), QEvent::KeyPress, Qt::Key_Shift);
+    SendKey(Board(), QEvent::KeyPress, Qt::Key_1, Qt::ShiftModifier);
+    SendKey(Board(), QEvent::KeyRelease, Qt::Key_1, Qt::ShiftModifier);
+    EXPECT_EQ(Button(1)->text(), "- 1");
+    CloseModals([&] { SendKey(Board(), QEvent::KeyPress, Qt::Key_H, Qt::ShiftModifier); });
+    EXPECT_EQ(Button(1)->text(), "1") << "let go in the dialog";
+}
+
+TEST_F(ToolbarOnView, PointerSlidesARowThatSticksOut)
+{
+    program.Main->resize(302, 400);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(Bar()->width(), 300);
+    ASSERT_EQ(Button(0)->x(), -90);
+    const auto moveTo = [&](int index, int px) {
+        const QPoint place(px - Button(index)->x(), 5);
+        SendMouse(Button(index), QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton);
+    };
+    moveTo(6, 150);
+    EXPECT_EQ(Button(0)->x(), -90);
+    moveTo(9, 295);
+    EXPECT_EQ(Button(11)->geometry().right() + 1, 299);
+    EXPECT_EQ(Button(14)->x(), Button(8)->x());
+    moveTo(4, 5);
+    EXPECT_EQ(Button(0)->x(), 1);
+}
+
+TEST_F(ToolbarOnView, HiddenToolbarLeavesItsRoomToTheBoard)
+{
+    const QRect before = Board()->geometry();
+    const auto *row = std::ranges::find(MenuTable, "mnuViewToolBar", &MenuRow::Name).base();
+    row->Run(0);
+    EXPECT_FALSE(Bar()->isVisible());
+    EXPECT_EQ(Board()->height(), before.height() + 54);
+    row->Run(0);
+    EXPECT_TRUE(Bar()->isVisible());
+    EXPECT_EQ(Board()->geometry(), before);
+}
+
+TEST_F(ToolbarOnView, QuestionOfASearchLeavesNoButtonPressedIn)
+{
+    SearchActive = True;
+    SearchKind = 1;
+    const Texts boxes = CloseModals([&] {
+        SendMouse(Button(14), QEvent::MouseButtonPress, Middle, Qt::LeftButton, Qt::LeftButton);
+    });
+    SearchActive = False;
+    EXPECT_EQ(boxes, Texts{"Kelvarine: Would you like to stop searching?"});
+    EXPECT_EQ(ToolMode, 0);
+    EXPECT_FALSE(Button(14)->isDown());
+}
+
+} // namespace
+} // namespace kelvarine::testing
