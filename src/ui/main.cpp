@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <cstdlib>
+
 int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
@@ -17,5 +19,11 @@ int main(int argc, char **argv)
     const QStringList arguments = QApplication::arguments();
     const QString file =
         arguments.size() > 1 ? QFileInfo(arguments[1]).absoluteFilePath() : QString();
-    return kelvarine::RunProgram(QFile::encodeName(file).toStdString());
+    const int result = kelvarine::RunProgram(QFile::encodeName(file).toStdString());
+    // Everything is kept by now. On its way off Wayland the toolkit now and then waits for ever for
+    // a thread of its own, and the player would be left with a program that nobody sees.
+    if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {
+        std::_Exit(result);
+    }
+    return result;
 }
