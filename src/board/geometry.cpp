@@ -3,6 +3,7 @@
 #include "board/look.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace kelvarine {
 
@@ -98,11 +99,13 @@ int LinesAcross()
 
 int CellX(int column)
 {
+    assert(IsLine(column));
     return BorderThickness + LineOffset(column, CellWidth);
 }
 
 int CellY(int row)
 {
+    assert(IsLine(row));
     return BorderThickness + LineOffset(row, CellHeight);
 }
 

@@ -6,6 +6,7 @@
 #include "grid/names.h"
 
 #include <array>
+#include <cassert>
 
 namespace kelvarine {
 
@@ -44,11 +45,13 @@ void PickMarginTextColour()
 
 std::string ColumnLabel(int column)
 {
+    assert(IsLine(column));
     return HasPrefix(ColumnFormat) ? std::to_string(column) : ColumnName(column);
 }
 
 std::string RowLabel(int row)
 {
+    assert(IsLine(row));
     return HasPrefix(RowFormat) ? std::to_string(row) : RowName(row);
 }
 

@@ -6,6 +6,8 @@
 #include "outside/board.h"
 #include "outside/window.h"
 
+#include <cassert>
+
 namespace kelvarine {
 
 const std::array<std::string_view, LogicRows + 1> TechniqueCaptions{
@@ -43,6 +45,7 @@ constexpr std::uint32_t AllRows = 0xFFFFE; // bits 1..19
 
 std::uint32_t BitOf(std::int32_t k)
 {
+    assert(k >= 0 && k < 31);
     return BitTable[static_cast<std::size_t>(k)];
 }
 

@@ -5,6 +5,8 @@
 #include "outside/board.h"
 #include "outside/window.h"
 
+#include <cassert>
+
 namespace kelvarine {
 
 const std::array<std::string_view, 12> ColourCaptions{
@@ -15,6 +17,8 @@ const std::array<std::string_view, 12> ColourCaptions{
 
 void SetColour(std::size_t index, Colour colour)
 {
+    assert(index < ColourTable.size());
+    assert(colour <= 0xFFFFFF);
     ColourTable[index] = colour;
     if (index == MarginColour) {
         PickMarginTextColour();
@@ -25,6 +29,7 @@ void SetColour(std::size_t index, Colour colour)
 
 std::int32_t *TextureOf(std::size_t index)
 {
+    assert(index < ColourTable.size());
     switch (index) {
     case GivenCellColour:
         return &GivenTexture;

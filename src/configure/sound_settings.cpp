@@ -1,5 +1,7 @@
 #include "configure/sound_settings.h"
 
+#include <cassert>
+
 namespace kelvarine {
 
 namespace {
@@ -22,11 +24,14 @@ std::string_view SoundCaption(std::string_view file)
 
 std::int32_t VolumeBar(std::size_t index)
 {
+    assert(index < SoundVolumes.size());
     return SoundVolumes[index] / VolumeStep;
 }
 
 void SetVolume(std::size_t index, std::int32_t bar)
 {
+    assert(index < SoundVolumes.size());
+    assert(bar >= 0 && bar <= 255);
     SoundVolumes[index] = bar * VolumeStep;
 }
 

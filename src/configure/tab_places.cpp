@@ -1,5 +1,9 @@
 #include "configure/tab_places.h"
 
+#include "game/screens.h"
+
+#include <cassert>
+
 namespace kelvarine {
 
 int TabWidthFor(int clientWidth)
@@ -11,6 +15,7 @@ int TabWidthFor(int clientWidth)
 
 bool IsInFront(std::int32_t tab, std::int32_t currentTab)
 {
+    assert(tab >= NewGamesTab && tab <= CoordinatesTab);
     return (tab < TabsInRow) == (currentTab < TabsInRow);
 }
 

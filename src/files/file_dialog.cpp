@@ -7,6 +7,7 @@
 #include "outside/folders.h"
 #include "outside/messages.h"
 
+#include <cassert>
 #include <cerrno>
 #include <cstdint>
 #include <filesystem>
@@ -172,6 +173,7 @@ void ShowFileDialog(std::string_view caption, std::size_t fileType)
 
 void SelectFileType(std::size_t fileType)
 {
+    assert(fileType < FileTypes.size());
     FilePattern = PatternOf(FileTypes[fileType]);
     DefaultExtension = FilePattern == TextPattern ? TextExtension : GameExtension;
 }

@@ -2,6 +2,8 @@
 
 #include "outside/sound.h"
 
+#include <cassert>
+
 namespace kelvarine {
 
 SoundList AnnouncerFiles;
@@ -50,6 +52,7 @@ std::string_view SoundFile(const SoundList &list, std::int32_t index)
 
 void PlayEventSound(std::string_view file, std::size_t volumeIndex, bool loop)
 {
+    assert(volumeIndex < SoundVolumes.size());
     if (file.empty()) {
         return;
     }

@@ -18,6 +18,8 @@
 #include "outside/sound.h"
 #include "outside/window.h"
 
+#include <cassert>
+
 namespace kelvarine {
 
 std::string GameFilePath;
@@ -46,6 +48,7 @@ void ClearPointerState()
 
 void StartGame(std::int32_t mode)
 {
+    assert(mode >= NewGame && mode <= GameFromFile);
     StopSound();
     ChainColumns[0] = 0;
     ClearPointerState();

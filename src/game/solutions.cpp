@@ -7,6 +7,8 @@
 #include "outside/board.h"
 #include "outside/screens.h"
 
+#include <cassert>
+
 namespace kelvarine {
 
 std::string SolutionsOnView;
@@ -120,6 +122,7 @@ void mnuShowSolution()
 
 void optSolutionsFormat(std::int32_t format)
 {
+    assert(format == 0 || format == 1);
     SolutionsFormat = format;
     ShowSolutions();
 }

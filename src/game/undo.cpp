@@ -10,6 +10,8 @@
 #include "outside/sound.h"
 #include "outside/window.h"
 
+#include <cassert>
+
 namespace kelvarine {
 
 Flag SnapshotAvailable;
@@ -19,6 +21,7 @@ namespace {
 // Takes a level of the history back to the board.
 void ShowLevel(std::int32_t level)
 {
+    assert(level >= 1 && level <= HistoryCount);
     HistoryPosition = level;
     Grid = History[static_cast<std::size_t>(level)];
     CountGivens();

@@ -1,6 +1,7 @@
 #include "generator/patterns.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace kelvarine {
 
@@ -104,6 +105,7 @@ constexpr auto PartnerTable = [] {
 
 std::span<const Cell> PartnersOf(std::int32_t pattern, Cell cell)
 {
+    assert(pattern >= 0 && pattern <= 9);
     const Partners &partners =
         PartnerTable[static_cast<std::size_t>(pattern)][static_cast<std::size_t>(CellIndex(cell))];
     return {partners.Cells.data(), partners.Count};

@@ -3,6 +3,7 @@
 #include "grid/names.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace kelvarine {
 
@@ -59,6 +60,7 @@ void SetGridDefaults()
 
 int CountCandidates(int column, int row)
 {
+    assert(IsLine(column) && IsLine(row));
     return CandidatesIn(Grid[static_cast<std::size_t>(column)][static_cast<std::size_t>(row)]);
 }
 

@@ -6,6 +6,7 @@
 #include "grid/houses.h"
 
 #include <array>
+#include <cassert>
 #include <cstdint>
 #include <string>
 
@@ -64,6 +65,7 @@ void SetGridDefaults();
 // The word of a cell.
 inline CellWord &WordAt(Cell cell)
 {
+    assert(cell.Column <= 9 && cell.Row <= 9);
     return Grid[cell.Column][cell.Row];
 }
 

@@ -1,6 +1,7 @@
 #include "grid/history.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace kelvarine {
 
@@ -28,6 +29,8 @@ void SetHistoryDefaults()
 
 void PushUndoState()
 {
+    assert(HistoryCount >= 0 && HistoryCount <= OldestSlot);
+    assert(HistoryPosition >= 0 && HistoryPosition <= HistoryCount);
     if (HistoryPosition < 2) {
         std::move_backward(History.begin() + NewestSlot, History.begin() + OldestSlot,
                            History.begin() + OldestSlot + 1);

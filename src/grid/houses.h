@@ -7,9 +7,16 @@
 #include "grid/cell_word.h"
 
 #include <array>
+#include <cassert>
 #include <cstdint>
 
 namespace kelvarine {
+
+// True for a number of a column or a row.
+constexpr bool IsLine(int line)
+{
+    return line >= 1 && line <= 9;
+}
 
 // A cell by column and row, both 1..9.
 struct Cell {
@@ -32,6 +39,7 @@ inline constexpr std::array<std::uint8_t, 10> BoxStart{0, 1, 1, 1, 4, 4, 4, 7, 7
 // Place of a cell in the scan with the column outer and the row inner, 0..80.
 constexpr int CellIndex(int column, int row)
 {
+    assert(IsLine(column) && IsLine(row));
     return (column - 1) * 9 + row - 1;
 }
 
@@ -43,6 +51,7 @@ constexpr int CellIndex(Cell cell)
 // Number of a box, 0..8: left column outer, top row inner.
 constexpr int BoxIndex(int column, int row)
 {
+    assert(IsLine(column) && IsLine(row));
     return (column - 1) / 3 * 3 + (row - 1) / 3;
 }
 

@@ -1,6 +1,9 @@
 #include "grid/names.h"
 
+#include "grid/houses.h"
+
 #include <array>
+#include <cassert>
 #include <string_view>
 
 namespace kelvarine {
@@ -58,16 +61,19 @@ void SetNamingDefaults()
 
 std::string ColumnName(int column)
 {
+    assert(IsLine(column));
     return LineName(column, ColumnFormat, "C", "c");
 }
 
 std::string RowName(int row)
 {
+    assert(IsLine(row));
     return LineName(row, RowFormat, "R", "r");
 }
 
 std::string CellName(int column, int row)
 {
+    assert(IsLine(column) && IsLine(row));
     constexpr std::array<std::string_view, 5> openings{"", "(", "{", "[", "<"};
     constexpr std::array<std::string_view, 5> closings{"", ")", "}", "]", ">"};
     constexpr std::array<std::string_view, 4> separators{"", ",", "-", "/"};
@@ -81,6 +87,7 @@ std::string CellName(int column, int row)
 
 std::string BoxName(int column, int row)
 {
+    assert(IsLine(column) && IsLine(row));
     constexpr std::array<std::string_view, 3> verticals{"upper", "center", "lower"};
     constexpr std::array<std::string_view, 3> horizontals{"-left", "-center", "-right"};
 

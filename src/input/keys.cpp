@@ -6,6 +6,7 @@
 #include "commands/screen_commands.h"
 #include "commands/text_commands.h"
 #include "game/assistance.h"
+#include "game/check_state.h"
 #include "game/lifecycle.h"
 #include "game/logic_report.h"
 #include "game/search.h"
@@ -20,6 +21,7 @@
 #include "input/toolbar.h"
 
 #include <array>
+#include <cassert>
 
 namespace kelvarine {
 
@@ -171,11 +173,10 @@ void TypeDigit(std::int32_t digit, std::int32_t shift)
 
 const std::span<const KeyRow> KeyTable(Rows);
 
-void KeyDown(std::int32_t code, std::int32_t shift)
+namespace {
+
+void RunKey(std::int32_t code, std::int32_t shift)
 {
-    if (!ReadyForCommand()) {
-        return;
-    }
     if (code >= KeypadCode && code <= KeypadCode + 9) {
         code += DigitCode - KeypadCode;
     }
@@ -190,6 +191,17 @@ void KeyDown(std::int32_t code, std::int32_t shift)
             }
             return;
         }
+    }
+}
+
+} // namespace
+
+void KeyDown(std::int32_t code, std::int32_t shift)
+{
+    assert(shift >= 0 && shift <= 7);
+    if (ReadyForCommand()) {
+        RunKey(code, shift);
+        AssertStateIsSound();
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "board/geometry.h"
 #include "board/look.h"
+#include "game/check_state.h"
 #include "game/lifecycle.h"
 #include "game/search.h"
 #include "grid/grid.h"
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cassert>
 
 namespace kelvarine {
 
@@ -162,6 +164,7 @@ void BoardPressed(std::int32_t button, std::int32_t shift, int x, int y)
     } else {
         PressCell(*cell, shift);
     }
+    AssertStateIsSound();
 }
 
 void BoardDoubleClicked()
@@ -179,10 +182,12 @@ void BoardDoubleClicked()
     }
     const CellWord bit = BitTable[static_cast<std::size_t>(number)];
     ChangeCellsWith(bit, [=](CellWord word) { return (word & ~CandidateMask) | bit; });
+    AssertStateIsSound();
 }
 
 std::int32_t NumberAtPoint(std::int32_t column, std::int32_t row, int x, int y)
 {
+    assert(IsLine(column) && IsLine(row));
     const CellWord candidates = CandidatesOf(MakeCell(column, row));
     const int count = std::popcount(candidates);
     const int acrossCell = x - CellX(column);
@@ -227,6 +232,7 @@ void BoardMoved(std::int32_t button, std::int32_t shift, int x, int y)
         SelectRectangle(shift);
     }
     DrawBoard();
+    AssertStateIsSound();
 }
 
 void StepSelection(Arrow arrow, std::int32_t shift)

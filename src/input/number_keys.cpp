@@ -5,6 +5,8 @@
 #include "logic/technique.h"
 #include "outside/board.h"
 
+#include <cassert>
+
 namespace kelvarine {
 
 namespace {
@@ -139,6 +141,7 @@ void ChangeView(std::int32_t number, std::int32_t shiftStat, Flag &update)
 
 void ProcessNumKey(std::int32_t number, std::int32_t mode, std::int32_t shiftStat, Flag &update)
 {
+    assert(number >= 0 && number <= 9);
     switch (mode) {
     case EditMode:
         Edit(number, shiftStat, update);

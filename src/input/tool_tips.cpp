@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 
 namespace kelvarine {
 
@@ -85,6 +86,7 @@ std::string SignTip(std::int32_t mode)
 
 std::string ToolTip(std::int32_t index, std::int32_t mode, std::int32_t sign)
 {
+    assert(index >= 0 && index <= 11);
     if (index == EscapeButton) {
         return "View all, select all, & clear all highlights";
     }

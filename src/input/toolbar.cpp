@@ -2,6 +2,7 @@
 
 #include "board/look.h"
 #include "game/alert_scan.h"
+#include "game/check_state.h"
 #include "game/lifecycle.h"
 #include "game/search.h"
 #include "grid/colour.h"
@@ -15,6 +16,7 @@
 #include "outside/window.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace kelvarine {
 
@@ -262,11 +264,13 @@ void ToolPressed(std::int32_t index)
 {
     if (ReadyForCommand()) {
         ProcessToolbar(index);
+        AssertStateIsSound();
     }
 }
 
 void ProcessToolbar(std::int32_t index)
 {
+    assert(index >= 0 && index <= 14);
     if (index == EscapeButton) {
         PressEscape();
     } else if (index <= AllButton) {

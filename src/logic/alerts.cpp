@@ -6,6 +6,7 @@
 #include "outside/events.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace kelvarine {
 
@@ -62,6 +63,7 @@ bool MarksMoreThan(const GridTable &before)
 
 bool RunAlertScan(std::int32_t mode)
 {
+    assert(mode >= ModeAlert && mode <= ModeFull);
     ChainColumns[0] = 0;
     const GridTable before = Grid;
     if (mode == ModeAlert) {
@@ -85,6 +87,7 @@ bool RunAlertScan(std::int32_t mode)
 
 bool FindGivenConflicts(std::int32_t mode)
 {
+    assert(mode >= ModeChange && mode <= ModeFull);
     // Mode 0 asks for the result alone and runs as the mode that looks at a selection.
     const std::int32_t actingMode = mode == ModeChange ? ModeExplain : mode;
     bool conflict = false;

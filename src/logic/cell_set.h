@@ -6,6 +6,7 @@
 
 #include <array>
 #include <bit>
+#include <cassert>
 #include <cstdint>
 
 namespace kelvarine {
@@ -40,6 +41,7 @@ struct CellSet {
     // The first cell in scan order; the set must have one.
     [[nodiscard]] constexpr int First() const
     {
+        assert(Low != 0 || High != 0);
         return Low != 0 ? std::countr_zero(Low) : 64 + std::countr_zero(High);
     }
 

@@ -6,6 +6,7 @@
 #include "logic/technique.h"
 
 #include <array>
+#include <cassert>
 #include <cstdint>
 #include <string_view>
 
@@ -123,6 +124,7 @@ CellSet MarkTwos(CellWord mark);
 // must be one.
 inline int FirstPeer(int cell, CellSet peers)
 {
+    assert(peers.Any());
     const CellSet inColumn = peers & HouseSetOf(CellOf(cell), HouseKind::Column);
     if (inColumn.Any()) {
         return inColumn.First();

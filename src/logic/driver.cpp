@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <set>
 #include <vector>
 
@@ -356,6 +357,7 @@ void SetDriverDefaults()
 
 std::int32_t ApplyLogic(std::int32_t mode)
 {
+    assert(mode >= SolveAsPlayer && mode <= ListSolutions25);
     SearchActive = True;
     UsedMask = 0;
     SolutionCount = 0;

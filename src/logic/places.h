@@ -9,6 +9,7 @@
 
 #include <array>
 #include <bit>
+#include <cassert>
 #include <cstdint>
 #include <vector>
 
@@ -57,12 +58,14 @@ constexpr Places PlacesBefore(Places some)
 // Whether the cell k, 0..8, is among some.
 constexpr bool HasPlace(Places some, std::size_t k)
 {
+    assert(k < 9);
     return (some >> k & 1) != 0;
 }
 
 // The first cell, 0..8, of some that are not none.
 constexpr std::size_t FirstPlace(Places some)
 {
+    assert(some != 0);
     return static_cast<std::size_t>(std::countr_zero(some));
 }
 

@@ -5,6 +5,7 @@
 #include "logic/technique.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace kelvarine {
 
@@ -89,7 +90,9 @@ Tally InDomain(const HouseTallies &tallies, std::size_t index)
 template <typename Test>
 Cell FirstCell(const House &house, const Test &test)
 {
-    return *std::ranges::find_if(house.Cells, test);
+    const auto *const cell = std::ranges::find_if(house.Cells, test);
+    assert(cell != house.Cells.end());
+    return *cell;
 }
 
 // Candidates that may be hidden singles, and those that stand in the way of one in their houses:

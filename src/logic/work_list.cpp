@@ -1,6 +1,7 @@
 #include "logic/work_list.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace kelvarine {
 
@@ -20,6 +21,7 @@ void WriteElement(std::size_t length, const PlacesByHouse &round)
 {
     std::size_t h = Houses.size() - 1;
     while (CountPlaces(round[h]) < length) {
+        assert(h > 0);
         --h;
     }
     const Cell cell = CellNumber(length, Houses[h], round[h]);

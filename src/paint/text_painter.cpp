@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <cmath>
 #include <string>
 
@@ -121,6 +122,8 @@ void WriteText(QPainter &painter, const Face &face, Point place, std::string_vie
 
 const DigitPicture &DigitAt(double points, double ratio, int digit)
 {
+    assert(digit >= 0 && digit <= 9);
+    assert(points > 0 && ratio > 0);
     return DigitSetFor(points, ratio).Pictures[static_cast<std::size_t>(digit)];
 }
 

@@ -5,6 +5,7 @@
 #include "print/print_settings.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 
 namespace kelvarine {
@@ -220,6 +221,7 @@ int GamesInBatch()
 
 PageLayout LayoutOfGames(std::size_t index, double pageWidth, double pageHeight)
 {
+    assert(pageWidth > 0 && pageHeight > 0);
     return LayOut(GameLayouts[std::min(index, GameLayouts.size() - 1)], pageWidth, pageHeight);
 }
 
@@ -230,6 +232,7 @@ PageLayout LayoutOfSolutions(double pageWidth, double pageHeight)
 
 PagePlace PlaceOf(const PageLayout &layout, int index)
 {
+    assert(index >= 0 && index < layout.Columns * layout.Rows);
     const int column = index % layout.Columns;
     const int row = index / layout.Columns;
     return {(layout.Side + layout.GapAcross) * column + layout.GapAcross,

@@ -94,6 +94,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     for (const std::int32_t mode : {1, 2, 3, 4, 5}) {
         ScanAlerts(mode);
     }
+    testing::RequireSoundState();
     testing::LookAtBoard();
     UseSettings(size > 0 ? data[0] : 0, size > 1 ? data[size - 1] : 0);
     return 0;

@@ -1,6 +1,7 @@
 #include "fuzz/fuzz.h"
 
 #include "board/geometry.h"
+#include "game/check_state.h"
 #include "grid/grid.h"
 #include "outside/board.h"
 #include "paint/board_painter.h"
@@ -59,6 +60,12 @@ void Require(bool kept, const char *promise)
         std::cerr << "broken: " << promise << std::endl;
         std::abort();
     }
+}
+
+void RequireSoundState()
+{
+    const std::string_view broken = CheckState();
+    Require(broken.empty(), broken.data());
 }
 
 } // namespace testing

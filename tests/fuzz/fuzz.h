@@ -28,6 +28,9 @@ void LookAtBoard();
 // Ends the process when a promise is broken.
 void Require(bool kept, const char *promise);
 
+// Ends the process when CheckState has something to tell.
+void RequireSoundState();
+
 // The bytes of an input as text.
 inline std::string_view TextOf(const std::uint8_t *data, std::size_t size)
 {

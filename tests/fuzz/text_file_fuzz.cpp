@@ -35,11 +35,13 @@ void OpenAndSave(std::string_view text)
 {
     SetGivens(EasyGame);
     StartGame(NewGame);
+    GameFilePath = "any.txt";
     const GridTable before = Grid;
     if (!ReadGame(text)) {
         Require(Grid == before, "what is no game leaves the grid alone");
         return;
     }
+    RequireSoundState();
     LookAtBoard();
     NumberFilter = CandidateMask;
     WriteAndRead(TextFileText, ReadGame, "a text file comes back");

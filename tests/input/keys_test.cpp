@@ -7,6 +7,7 @@
 #include "files/text_format.h"
 #include "game/alert_scan.h"
 #include "game/assistance.h"
+#include "game/check_state.h"
 #include "game/clock.h"
 #include "game/event_sound.h"
 #include "game/lifecycle.h"
@@ -550,6 +551,7 @@ TEST_F(RandomPlay, NeverBreaksTheHistory)
             PressAnyKey();
         }
         ASSERT_NO_FATAL_FAILURE(ExpectSoundHistory(step));
+        ASSERT_EQ(CheckState(), "") << "after step " << step;
         ForgetRecord();
     }
 }

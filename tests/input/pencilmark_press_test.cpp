@@ -43,6 +43,7 @@ Point Ninth(int column, int row, int number)
 void Hold(int column, int row, CellWord candidates, CellWord others = 0)
 {
     WordAt(MakeCell(column, row)) = candidates | others;
+    CountGivens();
 }
 
 CellWord CandidatesAt(int column, int row)
@@ -64,6 +65,7 @@ void SetMarks()
     Hold(9, 1, Seven, SelectedBit);
     Hold(1, 9, Seven, SelectedBit | GivenBit);
     HistoryCount = 0;
+    HistoryPosition = 0;
     PushUndoState();
     ForgetRecord();
 }
@@ -146,7 +148,8 @@ TEST_F(PencilmarkPress, RightPressKeepsHintMarksAndChain)
 {
     SetMarks();
     Grid[3][3] |= HintCellBit | HintDomainBit;
-    ChainColumns[0] = 2;
+    ChainColumns = {2, 1, 2};
+    ChainRows = {0, 1, 1};
     RightPressOn(5, 5, 1);
     EXPECT_EQ(CellsWith(HintCellBit), "C3");
     EXPECT_EQ(ChainColumns[0], 2);
@@ -236,6 +239,8 @@ TEST_F(PencilmarkPress, GivenOfSeveralNumbersIsSkippedByADoubleClick)
 {
     SetMarks();
     WordAt({5, 5}) |= GivenBit; // only a file can hold such a word
+    GameFilePath = "such.sdk";
+    CountGivens();
     DoubleClickOn(5, 5, 7);
     EXPECT_EQ(CandidatesAt(5, 5), Two | Seven);
     EXPECT_EQ(Seen.Calls, Texts{"board: "});

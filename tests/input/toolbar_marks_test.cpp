@@ -68,7 +68,9 @@ TEST_F(ToolbarMarks, EscapeClearsNothingElse)
     for (const Cell cell : Cells) {
         WordAt(cell) = ~CellWord{0};
     }
-    ToolPressed(14); // no scan follows in this mode
+    CountGivens();
+    GameFilePath = "such.sdk"; // only a file can hold such words
+    ToolPressed(14);           // no scan follows in this mode
     ToolPressed(0);
     for (const Cell cell : Cells) {
         EXPECT_EQ(WordAt(cell), 0xF09FFFFF);

@@ -1,5 +1,6 @@
 #include "ui/window/menus.h"
 
+#include "game/check_state.h"
 #include "game/search.h"
 #include "input/menu_table.h"
 #include "paint/text.h"
@@ -79,6 +80,7 @@ void LetRun(QAction *action, const MenuRow &row, std::int32_t number)
     QObject::connect(action, &QAction::triggered, action, [run = row.Run, number] {
         if (ReadyForCommand()) {
             run(number);
+            AssertStateIsSound();
         }
     });
 }
