@@ -6,6 +6,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
+#include "logic/technique_masks.h"
 #include "support/outside_double.h"
 #include "support/positions.h"
 

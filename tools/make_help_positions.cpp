@@ -10,6 +10,7 @@
 #include "files/text_format.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
+#include "logic/technique_masks.h"
 #include "logic/technique_table.h"
 #include "program/defaults.h"
 
@@ -31,8 +32,6 @@ namespace kelvarine {
 namespace {
 
 constexpr std::size_t Kept = 4; // positions kept for each technique
-constexpr int HiddenQuad = 8;
-constexpr int Jellyfish = 12;
 constexpr int Trial = 0;
 
 std::mt19937 source;

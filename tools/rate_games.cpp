@@ -4,6 +4,7 @@
 #include "game/logic_report.h"
 #include "grid/grid.h"
 #include "logic/rating.h"
+#include "logic/technique_masks.h"
 #include "logic/technique_table.h"
 #include "program/defaults.h"
 

@@ -10,6 +10,7 @@
 #include "grid/grid.h"
 #include "grid/names.h"
 #include "grid/rounding.h"
+#include "logic/technique_masks.h"
 #include "outside/folders.h"
 #include "outside/messages.h"
 #include "outside/whole_file.h"
@@ -334,7 +335,7 @@ const std::array Layout{
     Row{10, 2, Mask{&LevelTable[3]}},
     Row{10, 3, Mask{&LevelTable[4]}},
     Row{10, 4, Mask{&LevelTable[5], LevelFiveInsteadOfNone}},
-    Row{10, 5, Mask{&LevelTable[6]}},
+    Row{10, 5, Mask{&LevelTable[RequiredRow]}},
     Row{10, 6, CorrectedNumber{&MaxSinglesLinks, MostLinks, MostLinks}},
     Row{10, 7, CorrectedNumber{&MaxRPLinks, MostLinks, MostLinks}},
     Row{10, 8, CorrectedNumber{&MaxXYLinks, MostLinks, MostLinks}},
@@ -376,10 +377,9 @@ void PutWord(std::string &bytes, std::size_t offset, std::uint32_t word)
 // ever goes from level to level, and without these two no count of solutions comes to an end.
 void KeepSinglesInALevel()
 {
-    const std::uint32_t singles = BitTable[1] | BitTable[2];
     const std::uint32_t inLevels = std::accumulate(LevelTable.begin() + 1, LevelTable.begin() + 6,
                                                    std::uint32_t{0}, std::bit_or());
-    LevelTable[1] |= singles & ~inLevels;
+    LevelTable[1] |= SinglesMask & ~inLevels;
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "game/alert_scan.h"
 #include "grid/grid.h"
 #include "logic/rating.h"
+#include "logic/technique.h"
+#include "logic/technique_table.h"
 #include "outside/board.h"
 #include "outside/window.h"
 
@@ -10,38 +12,12 @@
 
 namespace kelvarine {
 
-const std::array<std::string_view, LogicRows + 1> TechniqueCaptions{
-    "",
-    "   Naked singles",
-    "   Hidden singles",
-    "   Naked pairs",
-    "   Hidden pairs",
-    "   Naked triples",
-    "   Hidden triples",
-    "   Naked quads",
-    "   Hidden quads",
-    "   Col-row-box intersections",
-    "   X-wing",
-    "   Swordfish",
-    "   Jellyfish",
-    "   XY-wing",
-    "   Remote pairs",
-    "   XY-chains",
-    "   XYZ-wing",
-    "   WXYZ-wing", // the logic report calls it by another name; both stand
-    "   Singles chains",
-    "   Inference chains",
-};
-
 const std::array<std::string_view, Levels + 1> LevelWords{"",     "Easy",      "Medium",
                                                           "Hard", "Very hard", "Extreme"};
 
 namespace {
 
-constexpr std::int32_t AlertMode = 1;
-constexpr std::size_t RequiredRow = 6;
 constexpr std::string_view RequiredMark = "*  ";
-constexpr std::uint32_t AllRows = 0xFFFFE; // bits 1..19
 
 std::uint32_t BitOf(std::int32_t k)
 {
@@ -56,7 +32,7 @@ void SetBit(std::uint32_t &mask, std::int32_t k, bool on)
 
 void ScanAndPaint()
 {
-    ScanAlerts(AlertMode);
+    ScanAlerts(ModeAlert);
     DrawBoard();
 }
 
@@ -85,7 +61,7 @@ void SetShowAlerts(std::int32_t k, bool on)
 
 void SelectAllAlerts()
 {
-    AlertMask |= AllRows;
+    AlertMask |= TechniqueRowsMask;
     ScanAndPaint();
 }
 

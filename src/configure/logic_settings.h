@@ -2,7 +2,7 @@
 // of them is, and how long chains may be.
 #pragma once
 
-#include "grid/cell_word.h"
+#include "grid/grid.h"
 
 #include <array>
 #include <cstdint>
@@ -11,18 +11,12 @@
 
 namespace kelvarine {
 
-// Rows of the tab: row k is technique k. No technique stands behind the last one, which is hidden.
-inline constexpr std::int32_t LogicRows = 19;
-inline constexpr std::int32_t HiddenLogicRow = 19;
-
-// Captions by row, 1..19; element 0 is not used.
-extern const std::array<std::string_view, LogicRows + 1> TechniqueCaptions;
-
 // Words of the levels as the tab shows them, 1..5; element 0 is not used.
-inline constexpr std::int32_t Levels = 5;
 extern const std::array<std::string_view, Levels + 1> LevelWords;
 
-// True when the driver, or the alert scan, may use technique k, 1..19.
+// Rows of the tab are those of TechniqueRows; k is the number of a row.
+
+// True when the driver, or the alert scan, may use technique k.
 bool UsesLogic(std::int32_t k);
 bool ShowsAlerts(std::int32_t k);
 
@@ -32,7 +26,7 @@ void SetUseLogic(std::int32_t k, bool on);
 // Lets the alert scan use technique k or not; scans and paints the board.
 void SetShowAlerts(std::int32_t k, bool on);
 
-// Selects the techniques 1..19 for alerts, other bits untouched; scans once and paints once.
+// Selects the techniques of all rows for alerts, other bits untouched; scans once and paints once.
 void SelectAllAlerts();
 
 // Takes every technique and every alert off, and paints the board.

@@ -8,6 +8,7 @@
 #include "logic/driver.h"
 #include "logic/rating.h"
 #include "logic/technique.h"
+#include "logic/technique_masks.h"
 #include "outside/board.h"
 #include "outside/messages.h"
 

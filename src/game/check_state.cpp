@@ -6,6 +6,7 @@
 #include "game/win_display.h"
 #include "grid/history.h"
 #include "logic/driver.h"
+#include "logic/technique_masks.h"
 #include "logic/technique_table.h"
 
 #include <algorithm>

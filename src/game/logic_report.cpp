@@ -3,6 +3,7 @@
 #include "grid/grid.h"
 #include "logic/rating.h"
 #include "logic/technique.h"
+#include "logic/technique_masks.h"
 #include "logic/technique_table.h"
 #include "outside/messages.h"
 

@@ -5,6 +5,7 @@
 #include "grid/grid.h"
 #include "logic/driver.h"
 #include "logic/rating.h"
+#include "logic/technique_masks.h"
 #include "outside/board.h"
 
 #include <algorithm>
@@ -264,14 +265,15 @@ bool UsedWhatIsRequired()
     for (std::int32_t level = GameRating; level >= 1; --level) {
         reachable |= LevelTable[static_cast<std::size_t>(level)];
     }
-    const std::uint32_t required = reachable & LevelTable[6];
+    const std::uint32_t required = reachable & LevelTable[RequiredRow];
     return (required & ~UsedMask) == 0;
 }
 
 bool HasWishedDifficulty()
 {
     const std::uint32_t bit = BitTable[static_cast<std::size_t>(GameRating)];
-    return (DifficultySelection & bit) != 0 && (LevelTable[6] == 0 || UsedWhatIsRequired());
+    return (DifficultySelection & bit) != 0 &&
+           (LevelTable[RequiredRow] == 0 || UsedWhatIsRequired());
 }
 
 bool HasWishedGivens()

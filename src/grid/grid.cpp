@@ -49,7 +49,7 @@ void SetGridDefaults()
 
     SolveMask = 0;
     AlertMask = 0;
-    LevelTable = {0, 0x6, 0x228, 0xCD0, 0xFF100, 0xFFF00000, 0, 0, 0, 0};
+    LevelTable = {};
     MaxSinglesLinks = 81;
     MaxRPLinks = 81;
     MaxXYLinks = 81;

@@ -44,22 +44,19 @@ extern std::string HintTitle;
 
 extern std::uint32_t SolveMask; // techniques that the driver may use, by BitTable
 extern std::uint32_t AlertMask; // techniques that the alert scan runs
-// Rows 1..5: the techniques of the levels; row 6: those a new game must use.
+// Rows 1..5: the techniques of the levels; RequiredRow: those a new game must use.
 extern std::array<std::uint32_t, 10> LevelTable;
+inline constexpr std::int32_t Levels = 5;
+inline constexpr std::size_t RequiredRow = 6;
 extern std::int32_t MaxSinglesLinks; // link limits of the chain searches, 0..81
 extern std::int32_t MaxRPLinks;
 extern std::int32_t MaxXYLinks;
 extern Flag IncludeSingles; // group techniques take cells with one candidate in
 
-// Fixed masks that stand in SolveMask for one operation.
-inline constexpr std::uint32_t TrialBit = 0x40000000;
-inline constexpr std::uint32_t CountingMask = 0x4000020E;
-inline constexpr std::uint32_t ListingMask = 0x40000006;
-inline constexpr std::uint32_t RatingMask = 0xFFFFFFFF;
-
 // ---- Operations ----------------------------------------------------------------------------
 
-// Puts everything declared in this header and in names.h back to the state of program start.
+// Puts everything declared in this header and in names.h back to the state of program start. The
+// levels follow from the techniques: LevelTable is left empty for SetLevelDefaults.
 void SetGridDefaults();
 
 // The word of a cell.

@@ -2,6 +2,7 @@
 
 #include "logic/chain_search.h"
 #include "logic/technique.h"
+#include "logic/technique_masks.h"
 #include "logic/technique_table.h"
 #include "outside/events.h"
 

@@ -4,6 +4,7 @@
 #include "logic/chain_search.h"
 #include "logic/solvability.h"
 #include "logic/technique.h"
+#include "logic/technique_masks.h"
 #include "logic/technique_table.h"
 #include "outside/events.h"
 #include "outside/messages.h"

@@ -3,6 +3,7 @@
 #include "logic/alerts.h"
 #include "logic/driver.h"
 #include "logic/technique.h"
+#include "logic/technique_masks.h"
 #include "logic/technique_table.h"
 #include "outside/messages.h"
 

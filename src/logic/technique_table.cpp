@@ -9,7 +9,10 @@
 #include "logic/remote_pairs.h"
 #include "logic/singles.h"
 #include "logic/singles_chains.h"
+#include "logic/technique_masks.h"
 #include "logic/xy_chains.h"
+
+#include <algorithm>
 
 namespace kelvarine {
 
@@ -39,154 +42,275 @@ constexpr OperationList LargeHingeWings{Sized<SearchHingeWings, 4>, Sized<Search
 
 constexpr std::array Rows{
     TechniqueRow{
-        .Number = 1,
+        .Number = NakedSingle,
         .ReportName = "Naked single",
+        .Caption = "   Naked singles",
+        .Level = 1,
+        .HelpPage = "naked-single",
         .DriverApply = {FindUnplacedLastCandidate, FindUnplacedNakedSingle, ApplyNakedSingles},
         .Driver = {ApplyNakedSingles},
         .DriverRunsAll = false,
         .AlertScan = {FindUnplacedLastCandidate, FindUnplacedNakedSingle, Sized<FindNakedGroup, 1>},
     },
     TechniqueRow{
-        .Number = 2,
+        .Number = HiddenSingle,
         .ReportName = "Hidden single",
+        .Caption = "   Hidden singles",
+        .Level = 1,
+        .HelpPage = "hidden-single",
         .DriverApply = {FindUnplacedHiddenSingle, ApplyHiddenSingles},
         .Driver = {FindUnplacedHiddenSingle, ApplyHiddenSingles},
         .DriverRunsAll = false,
         .AlertScan = {FindUnplacedHiddenSingle, Sized<FindHiddenGroup, 1>},
     },
     TechniqueRow{
-        .Number = 3,
+        .Number = NakedPair,
         .ReportName = "Naked pair",
+        .Caption = "   Naked pairs",
+        .Level = 2,
+        .HelpPage = "naked-pair",
         .DriverApply = {ApplyNakedPairs},
         .Driver = {ApplyNakedPairs},
         .DriverRunsAll = false,
         .AlertScan = {Sized<FindNakedGroup, 2>},
     },
     TechniqueRow{
-        .Number = 4,
+        .Number = HiddenPair,
         .ReportName = "Hidden pair",
+        .Caption = "   Hidden pairs",
+        .Level = 3,
+        .HelpPage = "hidden-pair",
         .DriverApply = {Sized<FindHiddenGroup, 2>},
         .Driver = {Sized<FindHiddenGroup, 2>},
         .DriverRunsAll = false,
         .AlertScan = {Sized<FindHiddenGroup, 2>},
     },
     TechniqueRow{
-        .Number = 5,
+        .Number = NakedTriple,
         .ReportName = "Naked triple",
+        .Caption = "   Naked triples",
+        .Level = 2,
+        .HelpPage = "naked-triple",
         .DriverApply = {Sized<FindNakedGroup, 3>},
         .Driver = {Sized<FindNakedGroup, 3>},
         .DriverRunsAll = false,
         .AlertScan = {Sized<FindNakedGroup, 3>},
     },
     TechniqueRow{
-        .Number = 6,
+        .Number = HiddenTriple,
         .ReportName = "Hidden triple",
+        .Caption = "   Hidden triples",
+        .Level = 3,
+        .HelpPage = "hidden-triple",
         .DriverApply = {Sized<FindHiddenGroup, 3>},
         .Driver = {Sized<FindHiddenGroup, 3>},
         .DriverRunsAll = false,
         .AlertScan = {Sized<FindHiddenGroup, 3>},
     },
     TechniqueRow{
-        .Number = 7,
+        .Number = NakedQuad,
         .ReportName = "Naked quad",
+        .Caption = "   Naked quads",
+        .Level = 3,
+        .HelpPage = "naked-quad",
         .DriverApply = {Sized<FindNakedGroup, 4>},
         .Driver = {Sized<FindNakedGroup, 4>},
         .DriverRunsAll = false,
         .AlertScan = {Sized<FindNakedGroup, 4>},
     },
     TechniqueRow{
-        .Number = 8,
+        .Number = HiddenQuad,
         .ReportName = "Hidden quad",
+        .Caption = "   Hidden quads",
+        .Level = 4,
+        .HelpPage = "hidden-quad",
         .DriverApply = {Sized<FindHiddenGroup, 4>},
         .Driver = {Sized<FindHiddenGroup, 4>},
         .DriverRunsAll = false,
         .AlertScan = {Sized<FindHiddenGroup, 4>},
     },
     TechniqueRow{
-        .Number = 9,
+        .Number = Intersection,
         .ReportName = "Col/row/box intersection",
+        .Caption = "   Col-row-box intersections",
+        .Level = 2,
+        .HelpPage = "intersection",
         .DriverApply = {FindIntersections},
         .Driver = {FindIntersections},
         .DriverRunsAll = false,
         .AlertScan = {FindIntersections},
     },
     TechniqueRow{
-        .Number = 10,
+        .Number = XWing,
         .ReportName = "X-wing",
+        .Caption = "   X-wing",
+        .Level = 3,
+        .HelpPage = "x-wing",
         .DriverApply = {Sized<SearchFishColumns, 2>, Sized<SearchFishRows, 2>},
         .Driver = {Sized<SearchFishColumns, 2>, Sized<SearchFishRows, 2>},
         .DriverRunsAll = true,
         .AlertScan = {Sized<SearchFishColumns, 2>, Sized<SearchFishRows, 2>},
     },
     TechniqueRow{
-        .Number = 11,
+        .Number = Swordfish,
         .ReportName = "Swordfish",
+        .Caption = "   Swordfish",
+        .Level = 3,
+        .HelpPage = "swordfish",
         .DriverApply = {Sized<SearchFishColumns, 3>, Sized<SearchFishRows, 3>},
         .Driver = {Sized<SearchFishColumns, 3>, Sized<SearchFishRows, 3>},
         .DriverRunsAll = true,
         .AlertScan = {Sized<SearchFishColumns, 3>, Sized<SearchFishRows, 3>},
     },
     TechniqueRow{
-        .Number = 12,
+        .Number = Jellyfish,
         .ReportName = "Jellyfish",
+        .Caption = "   Jellyfish",
+        .Level = 4,
+        .HelpPage = "jellyfish",
         .DriverApply = {Sized<SearchFishColumns, 4>, Sized<SearchFishRows, 4>},
         .Driver = {Sized<SearchFishColumns, 4>, Sized<SearchFishRows, 4>},
         .DriverRunsAll = true,
         .AlertScan = {Sized<SearchFishColumns, 4>, Sized<SearchFishRows, 4>},
     },
     TechniqueRow{
-        .Number = 13,
+        .Number = XYWing,
         .ReportName = "XY-wing",
+        .Caption = "   XY-wing",
+        .Level = 4,
+        .HelpPage = "xy-wing",
         .DriverApply = {SearchXYWings},
         .Driver = {SearchXYWings},
         .DriverRunsAll = false,
         .AlertScan = {SearchXYWings},
     },
     TechniqueRow{
-        .Number = 14,
+        .Number = RemotePairs,
         .ReportName = "Remote pairs",
+        .Caption = "   Remote pairs",
+        .Level = 4,
+        .HelpPage = "remote-pairs",
+        .LinkLimit = &MaxRPLinks,
+        .LimitBox = "txtMaxRPLinks",
         .DriverApply = {SearchRemotePairs},
         .Driver = {SearchRemotePairs},
         .DriverRunsAll = false,
         .AlertScan = {SearchRemotePairs},
     },
     TechniqueRow{
-        .Number = 15,
+        .Number = XYChain,
         .ReportName = "XY-chain",
+        .Caption = "   XY-chains",
+        .Level = 4,
+        .HelpPage = "xy-chain",
+        .LinkLimit = &MaxXYLinks,
+        .LimitBox = "txtMaxXYLinks",
         .DriverApply = {SearchAllXYChains},
         .Driver = {SearchAllXYChains},
         .DriverRunsAll = false,
         .AlertScan = {ScanXYChains},
     },
     TechniqueRow{
-        .Number = 16,
+        .Number = XYZWing,
         .ReportName = "XYZ-wing",
+        .Caption = "   XYZ-wing",
+        .Level = 4,
+        .HelpPage = "xyz-wing",
         .DriverApply = {Sized<SearchHingeWings, 3>},
         .Driver = {Sized<SearchHingeWings, 3>},
         .DriverRunsAll = false,
         .AlertScan = {Sized<SearchHingeWings, 3>},
     },
     TechniqueRow{
-        .Number = 17,
+        .Number = HingeWing,
         .ReportName = "Hinge-wing",
+        .Caption = "   WXYZ-wing", // the logic report calls it by another name; both are intended
+        .Level = 4,
+        .HelpPage = "hinge-wing",
         .DriverApply = LargeHingeWings,
         .Driver = LargeHingeWings,
         .DriverRunsAll = false,
         .AlertScan = LargeHingeWings,
     },
     TechniqueRow{
-        .Number = 18,
+        .Number = SinglesChain,
         .ReportName = "Singles chain",
+        .Caption = "   Singles chains",
+        .Level = 4,
+        .HelpPage = "singles-chain",
+        .LinkLimit = &MaxSinglesLinks,
+        .LimitBox = "txtMaxSinglesLinks",
         .DriverApply = {SearchSinglesChains},
         .Driver = {SearchSinglesChains},
         .DriverRunsAll = false,
         .AlertScan = {SearchSinglesChains},
     },
+    // The row that stands ready for one technique more. Settings hold its bit and its level.
+    TechniqueRow{
+        .Number = SinglesChain + 1,
+        .ReportName = "",
+        .Caption = "   Inference chains",
+        .Level = 4,
+        .HelpPage = "",
+        .LimitBox = "txtMaxInferenceLinks",
+        .DriverApply = {},
+        .Driver = {},
+        .DriverRunsAll = false,
+        .AlertScan = {},
+    },
 };
+
+// The rows before the one that no technique stands behind.
+constexpr std::span<const TechniqueRow> RealRows(Rows.data(), Rows.size() - 1);
+
+// Whether a row can be shown, rated and found under its number.
+constexpr bool IsWhole(const TechniqueRow &row)
+{
+    return !row.Caption.empty() && row.Level >= 1 && row.Level <= Levels &&
+           &row == &Rows[static_cast<std::size_t>(row.Number) - 1];
+}
+
+constexpr bool HasOperations(const TechniqueRow &row)
+{
+    return row.DriverApply[0] != nullptr && row.Driver[0] != nullptr && row.AlertScan[0] != nullptr;
+}
+
+static_assert(std::ranges::all_of(Rows, IsWhole), "a row lacks something or stands out of order");
+static_assert(std::ranges::all_of(RealRows, HasOperations), "a technique does nothing");
+static_assert(std::ranges::all_of(RealRows,
+                                  [](const TechniqueRow &row) {
+                                      return !row.ReportName.empty() && !row.HelpPage.empty();
+                                  }),
+              "a technique has no name in the report or no page in the help");
+static_assert(!HasOperations(Rows.back()), "the last row is the one kept free");
+
+// The bits of the rows whose level is wished, of all rows with 0.
+constexpr std::uint32_t BitsOfRows(std::int32_t level)
+{
+    std::uint32_t bits = 0;
+    for (const TechniqueRow &row : Rows) {
+        if (level == 0 || row.Level == level) {
+            bits |= BitTable[static_cast<std::size_t>(row.Number)];
+        }
+    }
+    return bits;
+}
 
 } // namespace
 
-const std::span<const TechniqueRow> Techniques(Rows);
+const std::span<const TechniqueRow> Techniques(RealRows);
+const std::span<const TechniqueRow> TechniqueRows(Rows);
+const std::uint32_t TechniqueRowsMask = BitsOfRows(0);
+
+void SetLevelDefaults()
+{
+    LevelTable.fill(0);
+    for (std::int32_t level = 1; level <= Levels; ++level) {
+        LevelTable[static_cast<std::size_t>(level)] = BitsOfRows(level);
+    }
+    // Trial and error is extreme, and with it every bit that no row names. Bit 0 is no technique's.
+    LevelTable[Levels] |= ~(TechniqueRowsMask | BitTable[0]);
+}
 
 const TechniqueRow *FindTechnique(std::int32_t number)
 {

@@ -21,6 +21,7 @@
 #include "input/mouse.h"
 #include "input/toolbar.h"
 #include "logic/driver.h"
+#include "logic/technique_table.h"
 #include "print/page_layout.h"
 #include "print/print_settings.h"
 
@@ -29,6 +30,7 @@ namespace kelvarine {
 void SetDefaults()
 {
     SetGridDefaults();
+    SetLevelDefaults();
     SetDriverDefaults();
     SetSoundDefaults();
     SetHistoryDefaults();

@@ -9,6 +9,7 @@
 #include "generator/generator.h"
 #include "grid/grid.h"
 #include "grid/names.h"
+#include "logic/technique_masks.h"
 #include "print/print_settings.h"
 
 #include <gtest/gtest.h>

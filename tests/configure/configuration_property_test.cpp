@@ -8,6 +8,7 @@
 #include "grid/colour.h"
 #include "grid/grid.h"
 #include "grid/names.h"
+#include "logic/technique_masks.h"
 #include "print/print_settings.h"
 #include "support/outside_double.h"
 #include "support/settings_folder.h"

@@ -2,6 +2,8 @@
 #include "game/event_sound.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
+#include "logic/technique_masks.h"
+#include "logic/technique_table.h"
 #include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
@@ -26,27 +28,18 @@ protected:
 
 TEST_F(LogicSettings, CaptionsNameTheTechniques)
 {
-    const std::array<std::string_view, 20> captions{"",
-                                                    "   Naked singles",
-                                                    "   Hidden singles",
-                                                    "   Naked pairs",
-                                                    "   Hidden pairs",
-                                                    "   Naked triples",
-                                                    "   Hidden triples",
-                                                    "   Naked quads",
-                                                    "   Hidden quads",
-                                                    "   Col-row-box intersections",
-                                                    "   X-wing",
-                                                    "   Swordfish",
-                                                    "   Jellyfish",
-                                                    "   XY-wing",
-                                                    "   Remote pairs",
-                                                    "   XY-chains",
-                                                    "   XYZ-wing",
-                                                    "   WXYZ-wing",
-                                                    "   Singles chains",
-                                                    "   Inference chains"};
-    EXPECT_EQ(TechniqueCaptions, captions);
+    const Texts captions{"   Naked singles",   "   Hidden singles", "   Naked pairs",
+                         "   Hidden pairs",    "   Naked triples",  "   Hidden triples",
+                         "   Naked quads",     "   Hidden quads",   "   Col-row-box intersections",
+                         "   X-wing",          "   Swordfish",      "   Jellyfish",
+                         "   XY-wing",         "   Remote pairs",   "   XY-chains",
+                         "   XYZ-wing",        "   WXYZ-wing",      "   Singles chains",
+                         "   Inference chains"};
+    Texts shown;
+    for (const TechniqueRow &row : TechniqueRows) {
+        shown.emplace_back(row.Caption);
+    }
+    EXPECT_EQ(shown, captions);
 }
 
 TEST_F(LogicSettings, DefaultLevels)
@@ -55,9 +48,11 @@ TEST_F(LogicSettings, DefaultLevels)
                        "Hard",      "Hard",      "Very hard", "Medium",    "Hard",
                        "Hard",      "Very hard", "Very hard", "Very hard", "Very hard",
                        "Very hard", "Very hard", "Very hard", "Very hard"};
-    for (std::int32_t k = 1; k <= LogicRows; ++k) {
-        EXPECT_EQ(LevelCaption(k), levels[static_cast<std::size_t>(k - 1)]) << k;
+    Texts shown;
+    for (const TechniqueRow &row : TechniqueRows) {
+        shown.push_back(LevelCaption(row.Number));
     }
+    EXPECT_EQ(shown, levels);
     EXPECT_FALSE(AnyRequired());
 }
 
@@ -77,7 +72,8 @@ TEST_F(LogicSettings, TechniqueInNoLevelHasNoWordButKeepsItsStar)
 
 TEST_F(LogicSettings, EachSolveBoxHasItsBitAndDoesNothingElse)
 {
-    for (std::int32_t k = 1; k <= LogicRows; ++k) {
+    for (const TechniqueRow &technique : TechniqueRows) {
+        const std::int32_t k = technique.Number;
         SolveMask = TrialBit;
         SetUseLogic(k, true);
         EXPECT_TRUE(UsesLogic(k));
@@ -92,7 +88,8 @@ TEST_F(LogicSettings, EachSolveBoxHasItsBitAndDoesNothingElse)
 
 TEST_F(LogicSettings, EachAlertBoxHasItsBitAndScansAndPaints)
 {
-    for (std::int32_t k = 1; k <= LogicRows; ++k) {
+    for (const TechniqueRow &technique : TechniqueRows) {
+        const std::int32_t k = technique.Number;
         ForgetRecord();
         SetShowAlerts(k, true);
         EXPECT_TRUE(ShowsAlerts(k));
@@ -219,7 +216,8 @@ TEST_F(LogicSettings, MovingATechniqueRefreshesTheWindowOnly)
 
 TEST_F(LogicSettings, EveryLevelCanBeChosenForEveryTechnique)
 {
-    for (std::int32_t k = 1; k <= LogicRows; ++k) {
+    for (const TechniqueRow &technique : TechniqueRows) {
+        const std::int32_t k = technique.Number;
         for (std::int32_t level = 1; level <= Levels; ++level) {
             SetLevel(k, level);
             EXPECT_EQ(LevelCaption(k), LevelWords[static_cast<std::size_t>(level)]);

@@ -6,6 +6,7 @@
 #include "grid/history.h"
 #include "logic/driver.h"
 #include "logic/plain/driver.h"
+#include "logic/technique_masks.h"
 #include "support/outside_double.h"
 #include "support/positions.h"
 #include "support/random_positions.h"

@@ -3,6 +3,7 @@
 #include "grid/grid.h"
 #include "logic/driver.h"
 #include "logic/rating.h"
+#include "logic/technique_masks.h"
 #include "support/outside_double.h"
 #include "support/positions.h"
 #include "support/random_positions.h"

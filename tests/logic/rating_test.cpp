@@ -2,6 +2,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/rating.h"
+#include "logic/technique_masks.h"
 #include "support/driver_games.h"
 #include "support/outside_double.h"
 #include "support/positions.h"

@@ -6,6 +6,7 @@
 #include "logic/rating.h"
 #include "logic/singles_chains.h"
 #include "logic/technique.h"
+#include "logic/technique_masks.h"
 #include "logic/technique_table.h"
 #include "support/outside_double.h"
 #include "support/positions.h"

@@ -7,6 +7,7 @@
 #include "logic/driver.h"
 #include "logic/rating.h"
 #include "logic/technique.h"
+#include "logic/technique_masks.h"
 #include "support/outside_double.h"
 
 #include <string_view>

@@ -1,6 +1,7 @@
 // Games that the tests of the driver run on, with what is known of them.
 #pragma once
 
+#include "logic/technique_masks.h"
 #include "support/solution_counter.h"
 
 #include <algorithm>
@@ -12,9 +13,8 @@
 namespace kelvarine::testing {
 
 // Techniques by their bits.
-inline constexpr std::uint32_t NakedSingleBit = 0x2;
-inline constexpr std::uint32_t HiddenSingleBit = 0x4;
-inline constexpr std::uint32_t SinglesMask = NakedSingleBit | HiddenSingleBit;
+inline constexpr std::uint32_t NakedSingleBit = MaskOf({NakedSingle});
+inline constexpr std::uint32_t HiddenSingleBit = MaskOf({HiddenSingle});
 
 inline constexpr std::string_view SolvedGrid = R"(
     534678912

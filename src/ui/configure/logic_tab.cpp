@@ -2,6 +2,7 @@
 
 #include "configure/logic_settings.h"
 #include "grid/grid.h"
+#include "logic/technique_table.h"
 #include "ui/controls/configure_controls.h"
 #include "ui/controls/level_label.h"
 
@@ -14,6 +15,7 @@
 #include <QScopedValueRollback>
 
 #include <array>
+#include <vector>
 
 namespace kelvarine {
 
@@ -21,18 +23,7 @@ namespace {
 
 constexpr QPoint MenuOffset{100, 16}; // of the window, and below the top of the label
 
-struct LimitRow {
-    std::int32_t Row;
-    std::string_view Name;
-    std::int32_t *Limit; // null for the limit that nothing reads
-};
-
-constexpr std::array LimitRows{
-    LimitRow{14, "txtMaxRPLinks", &MaxRPLinks},
-    LimitRow{15, "txtMaxXYLinks", &MaxXYLinks},
-    LimitRow{18, "txtMaxSinglesLinks", &MaxSinglesLinks},
-    LimitRow{HiddenLogicRow, "txtMaxInferenceLinks", nullptr},
-};
+// What the box of a limit shows that nothing reads.
 constexpr int DefaultLimit = 81;
 
 struct LevelEntry {
@@ -50,25 +41,38 @@ constexpr std::array LevelEntries{
 // Columns of the panel's grid.
 enum Column { SolveColumn, AlertColumn, LimitCaptionColumn, LimitColumn, LevelColumn };
 
+// Whether a technique stands behind a row; the row kept free is there but hidden.
+bool IsShown(const TechniqueRow &row)
+{
+    return FindTechnique(row.Number) != nullptr;
+}
+
+// Place of row k in TechniqueRows.
+std::size_t PlaceOf(std::int32_t k)
+{
+    return static_cast<std::size_t>(k) - 1;
+}
+
 class LogicPanel : public QWidget {
 public:
     explicit LogicPanel(QWidget *parent);
 
 private:
     void AddHeads();
-    void AddTechnique(std::int32_t k);
-    void AddLimit(const LimitRow &row);
+    void AddTechnique(const TechniqueRow &technique);
+    void AddLimit(const TechniqueRow &technique);
     void AddFoot(QVBoxLayout *rows);
     QWidget *MakeSelectors();
     void BuildMenu();
     void OpenMenu(std::int32_t k);
     void ShowLevel(std::int32_t k);
-    void CheckAll(const std::array<QCheckBox *, LogicRows + 1> &boxes, bool on);
+    static void CheckAll(const std::vector<QCheckBox *> &boxes, bool on);
 
     QGridLayout *grid;
-    std::array<QCheckBox *, LogicRows + 1> solveBoxes{};
-    std::array<QCheckBox *, LogicRows + 1> alertBoxes{};
-    std::array<LevelLabel *, LogicRows + 1> levelLabels{};
+    // By place in TechniqueRows.
+    std::vector<QCheckBox *> solveBoxes;
+    std::vector<QCheckBox *> alertBoxes;
+    std::vector<LevelLabel *> levelLabels;
     QLabel *requireMessage;
     QMenu *ratings;
     std::int32_t menuRow = 1; // technique for which the menu was opened
@@ -86,12 +90,10 @@ LogicPanel::LogicPanel(QWidget *parent)
     grid->setColumnStretch(AlertColumn, 1);
     rows->addLayout(grid);
     AddHeads();
-    for (std::int32_t k = 1; k <= LogicRows; ++k) {
-        AddTechnique(k);
-        for (const LimitRow &row : LimitRows) {
-            if (row.Row == k) {
-                AddLimit(row);
-            }
+    for (const TechniqueRow &technique : TechniqueRows) {
+        AddTechnique(technique);
+        if (!technique.LimitBox.empty()) {
+            AddLimit(technique);
         }
     }
     BuildMenu();
@@ -105,43 +107,45 @@ void LogicPanel::AddHeads()
     grid->addWidget(new QLabel(TextOf("Alert"), this), 0, AlertColumn);
 }
 
-void LogicPanel::AddTechnique(std::int32_t k)
+void LogicPanel::AddTechnique(const TechniqueRow &technique)
 {
-    const auto row = static_cast<std::size_t>(k);
-    const std::string_view caption = TechniqueCaptions[row];
-    solveBoxes[row] = MakeCheckBox(this, IndexedName("chkUseLogic", k), "", UsesLogic(k),
-                                   [k](bool on) { SetUseLogic(k, on); });
-    solveBoxes[row]->setAccessibleName("Solve: " + SpokenText(caption));
-    alertBoxes[row] = MakeCheckBox(this, IndexedName("chkShowConflicts", k), caption,
-                                   ShowsAlerts(k), [k](bool on) { SetShowAlerts(k, on); });
-    alertBoxes[row]->setAccessibleName("Alert: " + SpokenText(caption));
+    const std::int32_t k = technique.Number;
+    QCheckBox *solve = MakeCheckBox(this, IndexedName("chkUseLogic", k), "", UsesLogic(k),
+                                    [k](bool on) { SetUseLogic(k, on); });
+    solve->setAccessibleName("Solve: " + SpokenText(technique.Caption));
+    QCheckBox *alert = MakeCheckBox(this, IndexedName("chkShowConflicts", k), technique.Caption,
+                                    ShowsAlerts(k), [k](bool on) { SetShowAlerts(k, on); });
+    alert->setAccessibleName("Alert: " + SpokenText(technique.Caption));
     // A box without caption is lower than one with, and the two would not stand in line.
-    solveBoxes[row]->setFixedHeight(alertBoxes[row]->sizeHint().height());
-    levelLabels[row] = new LevelLabel(this, [this, k] { OpenMenu(k); });
-    levelLabels[row]->setObjectName(IndexedName("lblDifficulty", k));
+    solve->setFixedHeight(alert->sizeHint().height());
+    auto *level = new LevelLabel(this, [this, k] { OpenMenu(k); });
+    level->setObjectName(IndexedName("lblDifficulty", k));
+    solveBoxes.push_back(solve);
+    alertBoxes.push_back(alert);
+    levelLabels.push_back(level);
     ShowLevel(k);
-    if (k == HiddenLogicRow) {
-        solveBoxes[row]->hide();
-        alertBoxes[row]->hide();
-        levelLabels[row]->hide();
+    if (!IsShown(technique)) {
+        solve->hide();
+        alert->hide();
+        level->hide();
         return;
     }
-    grid->addWidget(solveBoxes[row], k, SolveColumn, Qt::AlignHCenter);
-    grid->addWidget(alertBoxes[row], k, AlertColumn);
-    grid->addWidget(levelLabels[row], k, LevelColumn);
+    grid->addWidget(solve, k, SolveColumn, Qt::AlignHCenter);
+    grid->addWidget(alert, k, AlertColumn);
+    grid->addWidget(level, k, LevelColumn);
 }
 
-void LogicPanel::AddLimit(const LimitRow &row)
+void LogicPanel::AddLimit(const TechniqueRow &technique)
 {
-    const std::string_view technique = TechniqueCaptions[static_cast<std::size_t>(row.Row)];
-    auto *box = MakeNumberBox(this, TextOf(row.Name), SpokenText(technique) + ": max # links",
-                              row.Limit != nullptr ? *row.Limit : DefaultLimit,
-                              [limit = row.Limit](std::int32_t links) {
-                                  if (limit != nullptr) {
-                                      SetLinkLimit(*limit, links);
-                                  }
-                              });
-    if (row.Row == HiddenLogicRow) {
+    std::int32_t *limit = technique.LinkLimit;
+    auto *box = MakeNumberBox(
+        this, TextOf(technique.LimitBox), SpokenText(technique.Caption) + ": max # links",
+        limit != nullptr ? *limit : DefaultLimit, [limit](std::int32_t links) {
+            if (limit != nullptr) {
+                SetLinkLimit(*limit, links);
+            }
+        });
+    if (!IsShown(technique)) {
         box->hide();
         return;
     }
@@ -149,8 +153,8 @@ void LogicPanel::AddLimit(const LimitRow &row)
     label->setBuddy(box);
     box->setFixedWidth(box->fontMetrics().horizontalAdvance("00000"));
     box->setFixedHeight(box->fontMetrics().height() + 4);
-    grid->addWidget(label, row.Row, LimitCaptionColumn, Qt::AlignRight | Qt::AlignVCenter);
-    grid->addWidget(box, row.Row, LimitColumn);
+    grid->addWidget(label, technique.Number, LimitCaptionColumn, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(box, technique.Number, LimitColumn);
 }
 
 void LogicPanel::AddFoot(QVBoxLayout *rows)
@@ -203,10 +207,10 @@ QWidget *LogicPanel::MakeSelectors()
     return part;
 }
 
-void LogicPanel::CheckAll(const std::array<QCheckBox *, LogicRows + 1> &boxes, bool on)
+void LogicPanel::CheckAll(const std::vector<QCheckBox *> &boxes, bool on)
 {
-    for (std::size_t k = 1; k <= LogicRows; ++k) {
-        boxes[k]->setChecked(on);
+    for (QCheckBox *box : boxes) {
+        box->setChecked(on);
     }
 }
 
@@ -230,13 +234,13 @@ void LogicPanel::BuildMenu()
         ShowLevel(menuRow);
     });
     connect(ratings, &QMenu::aboutToHide, this,
-            [this] { levelLabels[static_cast<std::size_t>(menuRow)]->ShowOpen(false); });
+            [this] { levelLabels[PlaceOf(menuRow)]->ShowOpen(false); });
 }
 
 void LogicPanel::OpenMenu(std::int32_t k)
 {
     menuRow = k;
-    LevelLabel *label = levelLabels[static_cast<std::size_t>(k)];
+    LevelLabel *label = levelLabels[PlaceOf(k)];
     label->ShowOpen(true);
     const QPoint place(MenuOffset.x(), label->mapTo(window(), QPoint()).y() + MenuOffset.y());
     ratings->popup(window()->mapToGlobal(place));
@@ -244,11 +248,11 @@ void LogicPanel::OpenMenu(std::int32_t k)
 
 void LogicPanel::ShowLevel(std::int32_t k)
 {
-    const auto row = static_cast<std::size_t>(k);
+    LevelLabel *label = levelLabels[PlaceOf(k)];
     const QString caption = QString::fromStdString(LevelCaption(k));
-    levelLabels[row]->setText(caption);
-    levelLabels[row]->setAccessibleName("Difficulty of " + SpokenText(TechniqueCaptions[row]) +
-                                        ": " + caption);
+    label->setText(caption);
+    label->setAccessibleName("Difficulty of " + SpokenText(TechniqueRows[PlaceOf(k)].Caption) +
+                             ": " + caption);
     requireMessage->setVisible(AnyRequired());
 }
 

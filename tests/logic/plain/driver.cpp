@@ -175,13 +175,12 @@ void CallOperations(PlainRun &run, const TechniqueRow &row)
 int Step8(PlainRun &run)
 {
     for (std::size_t level = 1; level <= 5; ++level) {
-        for (std::int32_t t = 1; t <= 18; ++t) {
-            const TechniqueRow *row = FindTechnique(t);
-            const std::uint32_t bit = std::uint32_t{1} << t;
-            if (row == nullptr || (LevelTable[level] & bit) == 0 || (SolveMask & bit) == 0) {
+        for (const TechniqueRow &row : Techniques) {
+            const std::uint32_t bit = std::uint32_t{1} << row.Number;
+            if ((LevelTable[level] & bit) == 0 || (SolveMask & bit) == 0) {
                 continue;
             }
-            CallOperations(run, *row);
+            CallOperations(run, row);
             if (run.Found != 0) {
                 run.Changed = -1;
                 UsedMask |= bit;

@@ -2,6 +2,8 @@
 #include "game/event_sound.h"
 #include "game/screens.h"
 #include "grid/grid.h"
+#include "logic/technique_masks.h"
+#include "logic/technique_table.h"
 #include "paint/board_painter.h"
 #include "support/widget_configure.h"
 #include "support/widget_paints.h"
@@ -71,12 +73,13 @@ TEST_F(LogicTabTest, ShowsTheState)
     LevelTable[6] = BitTable[8];
     LevelTable[4] &= ~BitTable[12];
     Open(LogicTab);
-    for (int k = 1; k <= 19; ++k) {
+    for (const TechniqueRow &technique : TechniqueRows) {
+        const std::int32_t k = technique.Number;
         EXPECT_EQ(Find<QAbstractButton>(Name("chkUseLogic", k))->isChecked(), k == 1 || k == 2);
         EXPECT_EQ(Find<QAbstractButton>(Name("chkShowConflicts", k))->isChecked(),
                   k == 3 || k == 19);
         EXPECT_EQ(Find<QAbstractButton>(Name("chkShowConflicts", k))->text().toStdString(),
-                  TechniqueCaptions[static_cast<std::size_t>(k)]);
+                  technique.Caption);
     }
     EXPECT_TRUE(Find<QAbstractButton>("chkIncludeSingles")->isChecked());
     EXPECT_EQ(Find<QAbstractButton>("chkIncludeSingles")->text(),
@@ -89,6 +92,26 @@ TEST_F(LogicTabTest, ShowsTheState)
     EXPECT_EQ(LevelShown(12), "");
     EXPECT_TRUE(StarMessageOnView());
     EXPECT_EQ(Find<QLabel>("lblRequireMsg")->text(), " * required");
+}
+
+TEST_F(LogicTabTest, EveryTechniqueHasItsRow)
+{
+    Open(LogicTab);
+    for (const TechniqueRow &technique : Techniques) {
+        SCOPED_TRACE(technique.ReportName);
+        const std::int32_t k = technique.Number;
+        EXPECT_TRUE(Find<QWidget>(Name("chkUseLogic", k))->isVisible());
+        EXPECT_TRUE(Find<QWidget>(Name("chkShowConflicts", k))->isVisible());
+        EXPECT_TRUE(Find<QWidget>(Name("lblDifficulty", k))->isVisible());
+        EXPECT_EQ(LevelShown(k).toStdString(),
+                  LevelWords[static_cast<std::size_t>(technique.Level)]);
+        if (technique.LinkLimit != nullptr) {
+            const QByteArray box(technique.LimitBox.data(),
+                                 static_cast<qsizetype>(technique.LimitBox.size()));
+            EXPECT_TRUE(Find<QLineEdit>(box)->isVisible());
+            EXPECT_EQ(Find<QLineEdit>(box)->text().toInt(), *technique.LinkLimit);
+        }
+    }
 }
 
 TEST_F(LogicTabTest, RowNineteenIsThereButHidden)
@@ -106,7 +129,8 @@ TEST_F(LogicTabTest, EachSolveBoxIsClicked)
 {
     Open(LogicTab);
     std::uint32_t mask = 0;
-    for (int k = 1; k <= 18; ++k) {
+    for (const TechniqueRow &technique : Techniques) {
+        const std::int32_t k = technique.Number;
         Click(Name("chkUseLogic", k));
         mask |= 1U << k;
         EXPECT_EQ(SolveMask, mask);
@@ -119,7 +143,8 @@ TEST_F(LogicTabTest, EachAlertBoxIsClicked)
 {
     Open(LogicTab);
     std::uint32_t mask = 0;
-    for (int k = 1; k <= 18; ++k) {
+    for (const TechniqueRow &technique : Techniques) {
+        const std::int32_t k = technique.Number;
         Click(Name("chkShowConflicts", k));
         mask |= 1U << k;
         EXPECT_EQ(AlertMask, mask);

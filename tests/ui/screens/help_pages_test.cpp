@@ -64,16 +64,6 @@ QString Project()
     return QString::fromUtf8(file.readAll());
 }
 
-// The page of each technique.
-const std::map<int, const char *> techniquePages{
-    {1, "naked-single.html"}, {2, "hidden-single.html"}, {3, "naked-pair.html"},
-    {4, "hidden-pair.html"},  {5, "naked-triple.html"},  {6, "hidden-triple.html"},
-    {7, "naked-quad.html"},   {8, "hidden-quad.html"},   {9, "intersection.html"},
-    {10, "x-wing.html"},      {11, "swordfish.html"},    {12, "jellyfish.html"},
-    {13, "xy-wing.html"},     {14, "remote-pairs.html"}, {15, "xy-chain.html"},
-    {16, "xyz-wing.html"},    {17, "hinge-wing.html"},   {18, "singles-chain.html"},
-};
-
 // The words that the game gives on Grid in a stage of a hint.
 std::string HintOf(std::int32_t mode)
 {
@@ -195,17 +185,17 @@ TEST_F(HelpPages, EveryContextHasItsTopic)
 TEST_F(HelpPages, PastedPositionOfATechniquePageShowsThatTechnique)
 {
     ASSERT_NE(Help, nullptr);
-    ASSERT_EQ(techniquePages.size(), Techniques.size());
-    for (const auto &[number, file] : techniquePages) {
-        SCOPED_TRACE(file);
+    for (const TechniqueRow &row : Techniques) {
+        const QString name = Word(row.HelpPage);
+        SCOPED_TRACE(row.HelpPage);
         const Program program;
-        const QString page = Page(QLatin1String(file));
+        const QString page = Page(name + QStringLiteral(".html"));
         SetClipboardText(PositionOf(page.toStdString()));
         mnuGameClipboard();
         EXPECT_GE(GameRating, 1);
         EXPECT_LE(GameRating, 5) << "the position has one solution";
 
-        const std::uint32_t alone = BitTable[static_cast<std::size_t>(number)];
+        const std::uint32_t alone = BitTable[static_cast<std::size_t>(row.Number)];
         AlertMask = alone;
         ScanAlerts(1);
         EXPECT_NE(CellsWith(AlertBit), "") << "the technique finds nothing";
@@ -221,8 +211,7 @@ TEST_F(HelpPages, PastedPositionOfATechniquePageShowsThatTechnique)
         EXPECT_TRUE(page.contains(QString::fromStdString("<b>" + title + "</b>")));
         const QStringList picture = Captures(page, "src=\"([^\"]*)\"");
         ASSERT_EQ(picture.size(), 1);
-        EXPECT_EQ(picture.front().section(u'.', 0, 0),
-                  QString::fromLatin1(file).section(u'.', 0, 0));
+        EXPECT_EQ(picture.front().section(u'.', 0, 0), name);
     }
 }
 
