@@ -6,6 +6,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
+#include "logic/kept_settings.h"
 #include "logic/rating.h"
 #include "logic/technique.h"
 #include "logic/technique_masks.h"
@@ -128,14 +129,13 @@ void mnuSolveGame()
     if (IsGridSolved() != False) {
         return;
     }
-    const std::uint32_t solveMask = SolveMask;
+    const KeptSettings kept;
     SolveMask = CountingMask;
     FillPencilmarks();
     if (ApplyLogic(SolveForPlayer) != NotSolved) {
         StatsCounted = True;
         UpdateStatistics();
     }
-    SolveMask = solveMask;
 }
 
 void mnuExposeSelectedCells()

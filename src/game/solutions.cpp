@@ -4,6 +4,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
+#include "logic/kept_settings.h"
 #include "logic/technique_masks.h"
 #include "outside/board.h"
 #include "outside/screens.h"
@@ -90,14 +91,15 @@ void ListSolutions()
 {
     SearchKind = ListingSolutions;
     History[SolutionsCopySlot] = Grid;
-    const std::uint32_t solveMask = SolveMask;
-    SolveMask = ListingMask;
-    SolutionList.clear();
-    FillPencilmarks();
-    ApplyLogic(ListSolutions25);
-    ShowSolutions();
+    {
+        const KeptSettings kept;
+        SolveMask = ListingMask;
+        SolutionList.clear();
+        FillPencilmarks();
+        ApplyLogic(ListSolutions25);
+        ShowSolutions();
+    }
     Grid = History[SolutionsCopySlot];
-    SolveMask = solveMask;
     SearchKind = NotStoppable;
     DrawBoard();
 }

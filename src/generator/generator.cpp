@@ -4,6 +4,7 @@
 #include "generator/random_source.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
+#include "logic/kept_settings.h"
 #include "logic/rating.h"
 #include "logic/technique_masks.h"
 #include "outside/board.h"
@@ -378,7 +379,7 @@ bool RemoveCells()
 bool GenerateGame()
 {
     Grid = {};
-    const std::uint32_t solveMask = SolveMask;
+    const KeptSettings kept;
     SearchKind = SearchingGame;
     StopRequested = False;
     MakeSolvedGrid();
@@ -391,7 +392,6 @@ bool GenerateGame()
     if (made) {
         FinishGame();
     }
-    SolveMask = solveMask;
     SearchKind = NotStoppable;
     return made;
 }

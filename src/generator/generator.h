@@ -26,7 +26,8 @@ void SetGeneratorDefaults();
 void MakeSolvedGrid();
 
 // Takes cells out of the solved grid, each group of partners in its one turn, as long as one
-// solution stays. False when the player stopped the search.
+// solution stays. False when the player stopped the search. Leaves SolveMask at CountingMask, which
+// is GenerateGame's to put back.
 bool RemoveCells();
 
 // Makes games until one passes the settings, and leaves it on Grid. False when the player stopped

@@ -2,17 +2,18 @@
 
 #include "logic/alerts.h"
 #include "logic/driver.h"
+#include "logic/kept_settings.h"
 #include "logic/technique.h"
 #include "logic/technique_masks.h"
 #include "logic/technique_table.h"
 #include "outside/messages.h"
 
-#include <array>
-#include <string>
-
 namespace kelvarine {
 
 namespace {
+
+// The link limit that no chain comes up against.
+constexpr auto WholeGrid = static_cast<std::int32_t>(Cells.size());
 
 void CountForRating()
 {
@@ -56,11 +57,10 @@ void WriteSolution(GridTable &words)
 void RateGame()
 {
     GridTable words = Grid;
-    const std::uint32_t solveMask = SolveMask;
-    const std::array limits{MaxSinglesLinks, MaxRPLinks, MaxXYLinks};
-    MaxSinglesLinks = 81;
-    MaxRPLinks = 81;
-    MaxXYLinks = 81;
+    const KeptSettings kept;
+    MaxSinglesLinks = WholeGrid;
+    MaxRPLinks = WholeGrid;
+    MaxXYLinks = WholeGrid;
 
     CountForRating();
     if (SolutionCount == 0) {
@@ -73,10 +73,6 @@ void RateGame()
     }
 
     Grid = words;
-    SolveMask = solveMask;
-    MaxSinglesLinks = limits[0];
-    MaxRPLinks = limits[1];
-    MaxXYLinks = limits[2];
 }
 
 } // namespace kelvarine
