@@ -45,7 +45,7 @@ int Below(int count)
 // Number of the technique that the first hint on Grid is of, or Trial when there is none.
 std::int32_t FirstTechnique()
 {
-    for (int level = 1; level <= 5; ++level) {
+    for (int level = 1; level <= Levels; ++level) {
         for (const TechniqueRow &row : Techniques) {
             if ((LevelTable[static_cast<std::size_t>(level)] &
                  BitTable[static_cast<std::size_t>(row.Number)]) == 0) {
@@ -80,7 +80,7 @@ void ApplyPlaced()
 bool Step()
 {
     ApplyPlaced();
-    for (int level = 1; level <= 5; ++level) {
+    for (int level = 1; level <= Levels; ++level) {
         for (const TechniqueRow &row : Techniques) {
             if ((LevelTable[static_cast<std::size_t>(level)] &
                  BitTable[static_cast<std::size_t>(row.Number)]) == 0) {

@@ -31,7 +31,7 @@ void PrintGames(int count)
     init_genrand(20261121);
     RevealPattern = 0;
     MaxGivens = 30;
-    for (std::size_t level = 1; level <= 5; ++level) {
+    for (std::size_t level = 1; level <= Levels; ++level) {
         DifficultySelection = BitTable[level];
         for (int game = 0; game < count; ++game) {
             GenerateGame();

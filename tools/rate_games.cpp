@@ -1,7 +1,6 @@
 // The engine at work without a window: reads games from standard input, 81 characters a line with
 // "." or "0" for an empty cell, and writes for each the number of its solutions, its rating and the
 // techniques that solve it. A line that is no game is told, and the next one is read.
-#include "game/logic_report.h"
 #include "grid/grid.h"
 #include "logic/rating.h"
 #include "logic/technique_masks.h"
@@ -37,10 +36,10 @@ void SetGivens(std::string_view game)
 
 std::string_view CountOfSolutions()
 {
-    if (GameRating == 7) {
+    if (GameRating == RatedImpossible) {
         return "0";
     }
-    return GameRating == 6 ? "more" : "1";
+    return GameRating == RatedMultiple ? "more" : "1";
 }
 
 // The techniques that the rating used, in the order of their numbers. Only a game with one solution
@@ -48,7 +47,7 @@ std::string_view CountOfSolutions()
 std::string UsedTechniques()
 {
     std::string names;
-    if (GameRating > 5) {
+    if (GameRating > RatedExtreme) {
         return names;
     }
     const auto add = [&](std::uint32_t bit, std::string_view name) {
@@ -79,7 +78,8 @@ bool RateLines(std::istream &in, std::ostream &out)
         }
         SetGivens(line);
         RateGame();
-        out << CountOfSolutions() << ' ' << RatingWord(GameRating) << UsedTechniques() << std::endl;
+        out << CountOfSolutions() << ' ' << WordsOfRating(GameRating).Lower << UsedTechniques()
+            << std::endl;
     }
     return allAreGames;
 }

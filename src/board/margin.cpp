@@ -16,10 +16,6 @@ namespace {
 
 constexpr Colour LeastBrightness = 351; // sum of red, green and blue that calls for black text
 
-constexpr std::array<std::string_view, 8> RatingWords{
-    "No rating",          "Easy",      "Medium", "Hard", "Very hard", "Extreme",
-    "Multiple solutions", "Impossible"};
-
 std::string_view ratingWord; // shown latest
 
 // Formats that put a letter in front of the number.
@@ -57,9 +53,9 @@ std::string RowLabel(int row)
 
 std::string_view MarginRatingWord()
 {
-    const auto rating = static_cast<std::size_t>(GameRating);
-    if (rating < RatingWords.size()) {
-        ratingWord = RatingWords[rating];
+    const std::string_view word = WordsOfRating(GameRating).Capital;
+    if (!word.empty()) {
+        ratingWord = GameRating == NotRated ? "No rating" : word;
     }
     return ratingWord;
 }

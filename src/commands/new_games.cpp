@@ -33,11 +33,11 @@ bool SelectsNoLevel()
     return (DifficultySelection & 0x3E) == 0;
 }
 
-// Trial and error makes up level 5, so that one always has something.
+// Trial and error makes up the extreme level, so that one always has something.
 bool SelectsLevelWithTechniques()
 {
-    for (std::size_t level = 1; level <= 5; ++level) {
-        if (IsSelected(level) && (LevelTable[level] != 0 || level == 5)) {
+    for (std::size_t level = 1; level <= Levels; ++level) {
+        if (IsSelected(level) && (LevelTable[level] != 0 || level == RatedExtreme)) {
             return true;
         }
     }
@@ -47,10 +47,10 @@ bool SelectsLevelWithTechniques()
 // Whether the logic that is applied to new games would solve every game of the wished levels.
 bool AppliedLogicSolvesAll()
 {
-    if (SolveOnStart == False || IsSelected(5)) {
+    if (SolveOnStart == False || IsSelected(RatedExtreme)) {
         return false;
     }
-    for (std::size_t level = 1; level <= 5; ++level) {
+    for (std::size_t level = 1; level <= Levels; ++level) {
         if (IsSelected(level) && (LevelTable[level] & ~SolveMask) != 0) {
             return false;
         }

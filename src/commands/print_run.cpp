@@ -30,15 +30,6 @@ namespace {
 // A solved grid: the digit of each cell, in the order of Cells.
 using SolvedGrid = std::array<std::uint8_t, 81>;
 
-constexpr std::array<std::string_view, 8> RatingWords{
-    "None", "Easy", "Medium", "Hard", "Very hard", "Extreme", "Multiple solutions", "Impossible"};
-
-std::string_view RatingWord()
-{
-    const auto rating = static_cast<std::size_t>(GameRating);
-    return rating < RatingWords.size() ? RatingWords[rating] : std::string_view();
-}
-
 // Prints two texts under a picture, at its left and its right edge; the right one only when both
 // fit side by side. False when printing failed.
 bool PrintLabels(const PagePlace &place, std::string_view left, std::string_view right)
@@ -73,7 +64,7 @@ void PrintCurrentGame()
     const PrinterPage page = CurrentPrinterPage();
     const PagePlace place = CurrentGamePlace(page.PixelsPerInchAcross, page.PixelsPerInchDown);
     if (PrintPicture(PrintedPicture::Board, place)) {
-        PrintLabels(place, RatingWord(), GivenCountText());
+        PrintLabels(place, WordsOfRating(GameRating).Capital, GivenCountText());
     }
     EndAndReport();
 }
@@ -127,7 +118,7 @@ bool PrintGame(const PageLayout &layout, int number)
     }
     const PagePlace place = PlaceOf(layout, index);
     return PrintPicture(PrintedPicture::Game, place) &&
-           PrintLabels(place, RatingWord(), GameLabel(number));
+           PrintLabels(place, WordsOfRating(GameRating).Capital, GameLabel(number));
 }
 
 // Makes and prints all games of the batch and collects their solutions. False when the player

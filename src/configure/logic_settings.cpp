@@ -12,12 +12,7 @@
 
 namespace kelvarine {
 
-const std::array<std::string_view, Levels + 1> LevelWords{"",     "Easy",      "Medium",
-                                                          "Hard", "Very hard", "Extreme"};
-
 namespace {
-
-constexpr std::string_view RequiredMark = "*  ";
 
 std::uint32_t BitOf(std::int32_t k)
 {
@@ -90,9 +85,9 @@ std::string LevelCaption(std::int32_t k)
     if ((LevelTable[RequiredRow] & BitOf(k)) != 0) {
         caption = RequiredMark;
     }
-    for (std::size_t level = 1; level <= Levels; ++level) {
-        if ((LevelTable[level] & BitOf(k)) != 0) {
-            return caption.append(LevelWords[level]);
+    for (std::int32_t level = RatedEasy; level <= Levels; ++level) {
+        if ((LevelTable[static_cast<std::size_t>(level)] & BitOf(k)) != 0) {
+            return caption.append(WordsOfRating(level).Capital);
         }
     }
     return caption;

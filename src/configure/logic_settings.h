@@ -4,15 +4,14 @@
 
 #include "grid/grid.h"
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace kelvarine {
 
-// Words of the levels as the tab shows them, 1..5; element 0 is not used.
-extern const std::array<std::string_view, Levels + 1> LevelWords;
+// What stands in front of the level of a technique that new games must need.
+inline constexpr std::string_view RequiredMark = "*  ";
 
 // Rows of the tab are those of TechniqueRows; k is the number of a row.
 

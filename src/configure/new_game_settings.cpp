@@ -5,8 +5,10 @@
 
 namespace kelvarine {
 
-const std::array<std::string_view, Levels + 1> DifficultyCaptions{
-    "", " Easy", " Medium", " Hard", " Very hard", " Extreme"};
+std::string DifficultyCaption(std::int32_t level)
+{
+    return " " + std::string(WordsOfRating(level).Capital);
+}
 
 bool AcceptsLevel(std::int32_t level)
 {

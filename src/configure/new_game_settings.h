@@ -2,17 +2,16 @@
 // the next game is made.
 #pragma once
 
-#include "configure/logic_settings.h"
-#include "grid/cell_word.h"
+#include "grid/rating_words.h"
 
 #include <array>
 #include <cstdint>
-#include <string_view>
+#include <string>
 
 namespace kelvarine {
 
-// Captions of the levels, 1..5; element 0 is not used.
-extern const std::array<std::string_view, Levels + 1> DifficultyCaptions;
+// Caption of the box of a level, 1..5.
+std::string DifficultyCaption(std::int32_t level);
 
 // True when games of a level, 1..5, are accepted.
 bool AcceptsLevel(std::int32_t level);

@@ -122,7 +122,7 @@ void mnuApplyLogic()
 
 void mnuSolveGame()
 {
-    if (GameRating == 7) {
+    if (GameRating == RatedImpossible) {
         ShowMessage("This sudoku is rated impossible because it has no solution.");
         return;
     }

@@ -87,7 +87,7 @@ void UpdateStatistics()
     NumberFilter = CandidateMask;
     StartWinDisplay();
     StopClockAtWin();
-    if (GameRating >= 1 && GameRating <= 5 && StatsCounted == False) {
+    if (GameRating >= RatedEasy && GameRating <= RatedExtreme && StatsCounted == False) {
         RecordSolvedGame();
         if (StatisticsOpen != False) {
             LoadStatisticsScreen();

@@ -7,7 +7,6 @@
 #include "logic/technique_table.h"
 #include "outside/messages.h"
 
-#include <array>
 #include <string>
 
 namespace kelvarine {
@@ -23,25 +22,16 @@ void AddReportLine(std::string &report, std::string_view name)
 
 } // namespace
 
-std::string_view RatingWord(std::int32_t rating)
-{
-    constexpr std::array<std::string_view, 8> words{
-        "none",      "easy", "medium", "hard", "very hard", "extreme", "multiple solutions",
-        "impossible"};
-    const auto place = static_cast<std::size_t>(rating);
-    return place < words.size() ? words[place] : std::string_view();
-}
-
 void mnuShowLogicNeeded()
 {
     RateGame();
     // RateGame never yields 0; the branch waits for a value that does not come up.
-    if (GameRating == 0) {
+    if (GameRating == NotRated) {
         ShowMessage("This sudoku has no rating because it has no unknown cells to solve.");
         return;
     }
     std::string report;
-    if (GameRating == 7) {
+    if (GameRating == RatedImpossible) {
         report = "This sudoku has no solution.";
         report += LineEnd;
     } else {
@@ -59,7 +49,7 @@ void mnuShowLogicNeeded()
     }
     report += LineEnd;
     report += "Rating: ";
-    report += RatingWord(GameRating);
+    report += WordsOfRating(GameRating).Lower;
     ShowMessage(report);
 }
 

@@ -228,7 +228,7 @@ void SetStatisticsDefaults()
 
 void RecordSolvedGame()
 {
-    const auto level = static_cast<std::size_t>(GameRating - 1);
+    const auto level = static_cast<std::size_t>(GameRating - RatedEasy);
     AddSolvedGame(SessionStats[level], SolveSeconds);
     StatisticsRecord all;
     if (ReadStatistics(all)) {

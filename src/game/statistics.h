@@ -2,6 +2,7 @@
 // in a file, and the words of the screen that shows both.
 #pragma once
 
+#include "grid/rating_words.h"
 #include "logic/driver.h"
 
 #include <array>
@@ -52,7 +53,8 @@ struct StatisticsColumn {
 
 inline constexpr std::array<std::string_view, 2> StatisticsTitles{"This session", "All Sessions"};
 inline constexpr std::array<std::string_view, 6> StatisticsRowNames{
-    "Easy", "Medium", "Hard", "Very Hard", "Extreme", "Total"};
+    RatingWords[RatedEasy].Title,     RatingWords[RatedMedium].Title,  RatingWords[RatedHard].Title,
+    RatingWords[RatedVeryHard].Title, RatingWords[RatedExtreme].Title, "Total"};
 inline constexpr std::array<StatisticsColumn, 6> StatisticsColumns{{{"Games", true},
                                                                     {"Played", false},
                                                                     {"Solved", true},

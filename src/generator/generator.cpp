@@ -263,7 +263,7 @@ std::optional<bool> HasOneSolution(Cell cell, bool hadOne)
 bool UsedWhatIsRequired()
 {
     std::uint32_t reachable = 0;
-    for (std::int32_t level = GameRating; level >= 1; --level) {
+    for (std::int32_t level = GameRating; level >= RatedEasy; --level) {
         reachable |= LevelTable[static_cast<std::size_t>(level)];
     }
     const std::uint32_t required = reachable & LevelTable[RequiredRow];
@@ -317,7 +317,7 @@ void HideAllCells()
     for (const Cell cell : Cells) {
         WordAt(cell) &= ~GivenBit;
     }
-    GameRating = 6;
+    GameRating = RatedMultiple;
 }
 
 // Cuts the words to what belongs to a game: no marks, and no candidates but those of givens.
@@ -335,7 +335,7 @@ void FinishGame()
 void SetGeneratorDefaults()
 {
     RevealPattern = 5;
-    DifficultySelection = BitTable[1];
+    DifficultySelection = BitTable[RatedEasy];
     MinGivens = 17;
     MaxGivens = 40;
     FillOnStart = False;

@@ -34,7 +34,7 @@ void SetGridDefaults()
 {
     Grid = {};
     GivenCount = 0;
-    GameRating = 6;
+    GameRating = RatedMultiple;
 
     ChainColumns = {};
     ChainRows = {};

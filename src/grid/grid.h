@@ -4,6 +4,7 @@
 
 #include "grid/cell_word.h"
 #include "grid/houses.h"
+#include "grid/rating_words.h"
 
 #include <array>
 #include <cassert>
@@ -20,7 +21,7 @@ using GridTable = std::array<std::array<CellWord, 10>, 10>;
 extern GridTable Grid; // starts empty
 
 extern std::int32_t GivenCount; // cells with GivenBit; kept by CountGivens
-extern std::int32_t GameRating; // 0 none, 1..5 easy to extreme, 6 multiple, 7 impossible
+extern std::int32_t GameRating; // one of Rating
 
 // ---- The session: reset by a new game, never stored ----------------------------------------
 
@@ -44,9 +45,8 @@ extern std::string HintTitle;
 
 extern std::uint32_t SolveMask; // techniques that the driver may use, by BitTable
 extern std::uint32_t AlertMask; // techniques that the alert scan runs
-// Rows 1..5: the techniques of the levels; RequiredRow: those a new game must use.
+// Rows 1..Levels: the techniques of the levels; RequiredRow: those a new game must use.
 extern std::array<std::uint32_t, 10> LevelTable;
-inline constexpr std::int32_t Levels = 5;
 inline constexpr std::size_t RequiredRow = 6;
 extern std::int32_t MaxSinglesLinks; // link limits of the chain searches, 0..81
 extern std::int32_t MaxRPLinks;

@@ -11,8 +11,6 @@ namespace kelvarine {
 
 namespace {
 
-constexpr std::int32_t SeveralSolutions = 6; // from this rating on a game has no unique solution
-
 bool IsSelected(CellWord word)
 {
     return (word & SelectedBit) != 0;
@@ -28,7 +26,7 @@ bool HideConditionally(CellWord &word)
 {
     word &= ~GivenBit;
     RateGame();
-    if (GameRating >= SeveralSolutions) {
+    if (GameRating > RatedExtreme) {
         word |= GivenBit;
         return false;
     }

@@ -66,7 +66,7 @@ struct Run {
 std::vector<const TechniqueRow *> TechniquesInUse()
 {
     std::vector<const TechniqueRow *> order;
-    for (std::size_t level = 1; level <= 5; ++level) {
+    for (std::size_t level = 1; level <= Levels; ++level) {
         for (const TechniqueRow &row : Techniques) {
             const std::uint32_t bit = BitTable[static_cast<std::size_t>(row.Number)];
             if ((LevelTable[level] & SolveMask & bit) != 0) {

@@ -27,13 +27,13 @@ void CountForRating()
 }
 
 // Solves the grid with everything and returns the highest level used. A game that needed nothing
-// counts as level 5.
+// counts as extreme.
 std::int32_t HighestLevelUsed()
 {
     SolveMask = RatingMask;
     ApplyLogic(SolveForRating);
-    std::int32_t rating = 5;
-    for (std::int32_t level = 1; level <= 5; ++level) {
+    std::int32_t rating = RatedExtreme;
+    for (std::int32_t level = RatedEasy; level <= Levels; ++level) {
         if ((LevelTable[static_cast<std::size_t>(level)] & UsedMask) != 0) {
             rating = level;
         }
@@ -64,9 +64,9 @@ void RateGame()
 
     CountForRating();
     if (SolutionCount == 0) {
-        GameRating = 7;
+        GameRating = RatedImpossible;
     } else if (SolutionCount > 1) {
-        GameRating = 6;
+        GameRating = RatedMultiple;
     } else {
         GameRating = HighestLevelUsed();
         WriteSolution(words);

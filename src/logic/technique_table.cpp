@@ -45,7 +45,7 @@ constexpr std::array Rows{
         .Number = NakedSingle,
         .ReportName = "Naked single",
         .Caption = "   Naked singles",
-        .Level = 1,
+        .Level = RatedEasy,
         .HelpPage = "naked-single",
         .DriverApply = {FindUnplacedLastCandidate, FindUnplacedNakedSingle, ApplyNakedSingles},
         .Driver = {ApplyNakedSingles},
@@ -56,7 +56,7 @@ constexpr std::array Rows{
         .Number = HiddenSingle,
         .ReportName = "Hidden single",
         .Caption = "   Hidden singles",
-        .Level = 1,
+        .Level = RatedEasy,
         .HelpPage = "hidden-single",
         .DriverApply = {FindUnplacedHiddenSingle, ApplyHiddenSingles},
         .Driver = {FindUnplacedHiddenSingle, ApplyHiddenSingles},
@@ -67,7 +67,7 @@ constexpr std::array Rows{
         .Number = NakedPair,
         .ReportName = "Naked pair",
         .Caption = "   Naked pairs",
-        .Level = 2,
+        .Level = RatedMedium,
         .HelpPage = "naked-pair",
         .DriverApply = {ApplyNakedPairs},
         .Driver = {ApplyNakedPairs},
@@ -78,7 +78,7 @@ constexpr std::array Rows{
         .Number = HiddenPair,
         .ReportName = "Hidden pair",
         .Caption = "   Hidden pairs",
-        .Level = 3,
+        .Level = RatedHard,
         .HelpPage = "hidden-pair",
         .DriverApply = {Sized<FindHiddenGroup, 2>},
         .Driver = {Sized<FindHiddenGroup, 2>},
@@ -89,7 +89,7 @@ constexpr std::array Rows{
         .Number = NakedTriple,
         .ReportName = "Naked triple",
         .Caption = "   Naked triples",
-        .Level = 2,
+        .Level = RatedMedium,
         .HelpPage = "naked-triple",
         .DriverApply = {Sized<FindNakedGroup, 3>},
         .Driver = {Sized<FindNakedGroup, 3>},
@@ -100,7 +100,7 @@ constexpr std::array Rows{
         .Number = HiddenTriple,
         .ReportName = "Hidden triple",
         .Caption = "   Hidden triples",
-        .Level = 3,
+        .Level = RatedHard,
         .HelpPage = "hidden-triple",
         .DriverApply = {Sized<FindHiddenGroup, 3>},
         .Driver = {Sized<FindHiddenGroup, 3>},
@@ -111,7 +111,7 @@ constexpr std::array Rows{
         .Number = NakedQuad,
         .ReportName = "Naked quad",
         .Caption = "   Naked quads",
-        .Level = 3,
+        .Level = RatedHard,
         .HelpPage = "naked-quad",
         .DriverApply = {Sized<FindNakedGroup, 4>},
         .Driver = {Sized<FindNakedGroup, 4>},
@@ -122,7 +122,7 @@ constexpr std::array Rows{
         .Number = HiddenQuad,
         .ReportName = "Hidden quad",
         .Caption = "   Hidden quads",
-        .Level = 4,
+        .Level = RatedVeryHard,
         .HelpPage = "hidden-quad",
         .DriverApply = {Sized<FindHiddenGroup, 4>},
         .Driver = {Sized<FindHiddenGroup, 4>},
@@ -133,7 +133,7 @@ constexpr std::array Rows{
         .Number = Intersection,
         .ReportName = "Col/row/box intersection",
         .Caption = "   Col-row-box intersections",
-        .Level = 2,
+        .Level = RatedMedium,
         .HelpPage = "intersection",
         .DriverApply = {FindIntersections},
         .Driver = {FindIntersections},
@@ -144,7 +144,7 @@ constexpr std::array Rows{
         .Number = XWing,
         .ReportName = "X-wing",
         .Caption = "   X-wing",
-        .Level = 3,
+        .Level = RatedHard,
         .HelpPage = "x-wing",
         .DriverApply = {Sized<SearchFishColumns, 2>, Sized<SearchFishRows, 2>},
         .Driver = {Sized<SearchFishColumns, 2>, Sized<SearchFishRows, 2>},
@@ -155,7 +155,7 @@ constexpr std::array Rows{
         .Number = Swordfish,
         .ReportName = "Swordfish",
         .Caption = "   Swordfish",
-        .Level = 3,
+        .Level = RatedHard,
         .HelpPage = "swordfish",
         .DriverApply = {Sized<SearchFishColumns, 3>, Sized<SearchFishRows, 3>},
         .Driver = {Sized<SearchFishColumns, 3>, Sized<SearchFishRows, 3>},
@@ -166,7 +166,7 @@ constexpr std::array Rows{
         .Number = Jellyfish,
         .ReportName = "Jellyfish",
         .Caption = "   Jellyfish",
-        .Level = 4,
+        .Level = RatedVeryHard,
         .HelpPage = "jellyfish",
         .DriverApply = {Sized<SearchFishColumns, 4>, Sized<SearchFishRows, 4>},
         .Driver = {Sized<SearchFishColumns, 4>, Sized<SearchFishRows, 4>},
@@ -177,7 +177,7 @@ constexpr std::array Rows{
         .Number = XYWing,
         .ReportName = "XY-wing",
         .Caption = "   XY-wing",
-        .Level = 4,
+        .Level = RatedVeryHard,
         .HelpPage = "xy-wing",
         .DriverApply = {SearchXYWings},
         .Driver = {SearchXYWings},
@@ -188,7 +188,7 @@ constexpr std::array Rows{
         .Number = RemotePairs,
         .ReportName = "Remote pairs",
         .Caption = "   Remote pairs",
-        .Level = 4,
+        .Level = RatedVeryHard,
         .HelpPage = "remote-pairs",
         .LinkLimit = &MaxRPLinks,
         .LimitBox = "txtMaxRPLinks",
@@ -201,7 +201,7 @@ constexpr std::array Rows{
         .Number = XYChain,
         .ReportName = "XY-chain",
         .Caption = "   XY-chains",
-        .Level = 4,
+        .Level = RatedVeryHard,
         .HelpPage = "xy-chain",
         .LinkLimit = &MaxXYLinks,
         .LimitBox = "txtMaxXYLinks",
@@ -214,7 +214,7 @@ constexpr std::array Rows{
         .Number = XYZWing,
         .ReportName = "XYZ-wing",
         .Caption = "   XYZ-wing",
-        .Level = 4,
+        .Level = RatedVeryHard,
         .HelpPage = "xyz-wing",
         .DriverApply = {Sized<SearchHingeWings, 3>},
         .Driver = {Sized<SearchHingeWings, 3>},
@@ -225,7 +225,7 @@ constexpr std::array Rows{
         .Number = HingeWing,
         .ReportName = "Hinge-wing",
         .Caption = "   WXYZ-wing", // the logic report calls it by another name; both are intended
-        .Level = 4,
+        .Level = RatedVeryHard,
         .HelpPage = "hinge-wing",
         .DriverApply = LargeHingeWings,
         .Driver = LargeHingeWings,
@@ -236,7 +236,7 @@ constexpr std::array Rows{
         .Number = SinglesChain,
         .ReportName = "Singles chain",
         .Caption = "   Singles chains",
-        .Level = 4,
+        .Level = RatedVeryHard,
         .HelpPage = "singles-chain",
         .LinkLimit = &MaxSinglesLinks,
         .LimitBox = "txtMaxSinglesLinks",
@@ -250,7 +250,7 @@ constexpr std::array Rows{
         .Number = SinglesChain + 1,
         .ReportName = "",
         .Caption = "   Inference chains",
-        .Level = 4,
+        .Level = RatedVeryHard,
         .HelpPage = "",
         .LimitBox = "txtMaxInferenceLinks",
         .DriverApply = {},
@@ -266,7 +266,7 @@ constexpr std::span<const TechniqueRow> RealRows(Rows.data(), Rows.size() - 1);
 // Whether a row can be shown, rated and found under its number.
 constexpr bool IsWhole(const TechniqueRow &row)
 {
-    return !row.Caption.empty() && row.Level >= 1 && row.Level <= Levels &&
+    return !row.Caption.empty() && row.Level >= RatedEasy && row.Level <= Levels &&
            &row == &Rows[static_cast<std::size_t>(row.Number) - 1];
 }
 
@@ -305,7 +305,7 @@ const std::uint32_t TechniqueRowsMask = BitsOfRows(0);
 void SetLevelDefaults()
 {
     LevelTable.fill(0);
-    for (std::int32_t level = 1; level <= Levels; ++level) {
+    for (std::int32_t level = RatedEasy; level <= Levels; ++level) {
         LevelTable[static_cast<std::size_t>(level)] = BitsOfRows(level);
     }
     // Trial and error is extreme, and with it every bit that no row names. Bit 0 is no technique's.

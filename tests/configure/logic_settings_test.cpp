@@ -220,7 +220,7 @@ TEST_F(LogicSettings, EveryLevelCanBeChosenForEveryTechnique)
         const std::int32_t k = technique.Number;
         for (std::int32_t level = 1; level <= Levels; ++level) {
             SetLevel(k, level);
-            EXPECT_EQ(LevelCaption(k), LevelWords[static_cast<std::size_t>(level)]);
+            EXPECT_EQ(LevelCaption(k), WordsOfRating(level).Capital);
             for (std::int32_t row = 1; row <= 6; ++row) {
                 const bool in = (LevelTable[static_cast<std::size_t>(row)] & 1U << k) != 0;
                 EXPECT_EQ(in, row == level);

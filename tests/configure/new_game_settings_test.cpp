@@ -41,8 +41,12 @@ TEST_F(NewGameSettings, AllLevelsMayBeOff)
 
 TEST_F(NewGameSettings, Captions)
 {
-    EXPECT_EQ(DifficultyCaptions, (std::array<std::string_view, 6>{"", " Easy", " Medium", " Hard",
-                                                                   " Very hard", " Extreme"}));
+    const std::vector<std::string> words{" Easy", " Medium", " Hard", " Very hard", " Extreme"};
+    std::vector<std::string> captions;
+    for (std::int32_t level = 1; level <= Levels; ++level) {
+        captions.push_back(DifficultyCaption(level));
+    }
+    EXPECT_EQ(captions, words);
 }
 
 } // namespace

@@ -336,10 +336,10 @@ TEST_F(Rating, WordsOfAllRatings)
         "none",      "easy", "medium", "hard", "very hard", "extreme", "multiple solutions",
         "impossible"};
     for (std::int32_t rating = 0; rating <= 7; ++rating) {
-        EXPECT_EQ(RatingWord(rating), words[rating]);
+        EXPECT_EQ(WordsOfRating(rating).Lower, words[rating]);
     }
-    EXPECT_EQ(RatingWord(8), "");
-    EXPECT_EQ(RatingWord(-1), "");
+    EXPECT_EQ(WordsOfRating(8).Lower, "");
+    EXPECT_EQ(WordsOfRating(-1).Lower, "");
 }
 
 } // namespace

@@ -153,7 +153,7 @@ TEST_F(TechniqueList, EachHasOneLevelAtTheStartAndItsWord)
             EXPECT_EQ((held & BitTable[static_cast<std::size_t>(row.Number)]) != 0,
                       level == row.Level);
         }
-        EXPECT_EQ(LevelCaption(row.Number), LevelWords[static_cast<std::size_t>(row.Level)]);
+        EXPECT_EQ(LevelCaption(row.Number), WordsOfRating(row.Level).Capital);
     }
 }
 

@@ -26,17 +26,9 @@ constexpr QPoint MenuOffset{100, 16}; // of the window, and below the top of the
 // What the box of a limit shows that nothing reads.
 constexpr int DefaultLimit = 81;
 
-struct LevelEntry {
-    std::string_view Name;
-    std::string_view Caption;
-};
-
-// Entry k of the menu is level k + 1.
-constexpr std::array LevelEntries{
-    LevelEntry{"mnuEasy", "Easy"},       LevelEntry{"mnuMedium", "Medium"},
-    LevelEntry{"mnuHard", "Hard"},       LevelEntry{"mnuVeryhard", "Very hard"},
-    LevelEntry{"mnuExtreme", "Extreme"},
-};
+// The entries of the menu by level, from easy.
+constexpr std::array LevelEntries{"mnuEasy", "mnuMedium", "mnuHard", "mnuVeryhard", "mnuExtreme"};
+static_assert(LevelEntries.size() == Levels);
 
 // Columns of the panel's grid.
 enum Column { SolveColumn, AlertColumn, LimitCaptionColumn, LimitColumn, LevelColumn };
@@ -167,7 +159,7 @@ void LogicPanel::AddFoot(QVBoxLayout *rows)
     grid->addWidget(requireMessage, 0, LevelColumn);
     // Room for a star in front of the longest word, so that the column never grows.
     LevelLabel longest(this, {});
-    longest.setText("*  Very hard");
+    longest.setText(TextOf(RequiredMark) + TextOf(WordsOfRating(RatedVeryHard).Capital));
     grid->setColumnMinimumWidth(LevelColumn, longest.sizeHint().width());
     rows->addWidget(MakeSelectors());
     rows->addWidget(MakeCheckBox(this, TextOf("chkIncludeSingles"),
@@ -218,10 +210,10 @@ void LogicPanel::BuildMenu()
 {
     ratings->setObjectName("mnuRatings");
     std::int32_t level = 0;
-    for (const LevelEntry &entry : LevelEntries) {
+    for (const char *name : LevelEntries) {
         ++level;
-        QAction *action = ratings->addAction(TextOf(entry.Caption));
-        action->setObjectName(TextOf(entry.Name));
+        QAction *action = ratings->addAction(TextOf(WordsOfRating(level).Capital));
+        action->setObjectName(TextOf(name));
         connect(action, &QAction::triggered, this, [this, level] {
             SetLevel(menuRow, level);
             ShowLevel(menuRow);

@@ -34,8 +34,7 @@ QWidget *MakeDifficulties(QWidget *parent)
     auto *column = new QVBoxLayout(frame);
     for (int level = 1; level <= Levels; ++level) {
         column->addWidget(MakeCheckBox(frame, IndexedName("chkDifficulty", level),
-                                       DifficultyCaptions[static_cast<std::size_t>(level)],
-                                       AcceptsLevel(level),
+                                       DifficultyCaption(level), AcceptsLevel(level),
                                        [frame](bool /*on*/) { TakeDifficulties(frame); }));
     }
     return frame;

@@ -103,8 +103,7 @@ TEST_F(LogicTabTest, EveryTechniqueHasItsRow)
         EXPECT_TRUE(Find<QWidget>(Name("chkUseLogic", k))->isVisible());
         EXPECT_TRUE(Find<QWidget>(Name("chkShowConflicts", k))->isVisible());
         EXPECT_TRUE(Find<QWidget>(Name("lblDifficulty", k))->isVisible());
-        EXPECT_EQ(LevelShown(k).toStdString(),
-                  LevelWords[static_cast<std::size_t>(technique.Level)]);
+        EXPECT_EQ(LevelShown(k).toStdString(), WordsOfRating(technique.Level).Capital);
         if (technique.LinkLimit != nullptr) {
             const QByteArray box(technique.LimitBox.data(),
                                  static_cast<qsizetype>(technique.LimitBox.size()));
