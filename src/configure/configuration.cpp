@@ -8,6 +8,7 @@
 #include "generator/patterns.h"
 #include "grid/colour.h"
 #include "grid/grid.h"
+#include "grid/little_endian.h"
 #include "grid/names.h"
 #include "grid/rounding.h"
 #include "logic/technique_masks.h"
@@ -357,22 +358,6 @@ std::size_t OffsetOf(const Row &row)
     return (row.Record - 1) * BytesInRecord + 4 * row.Element;
 }
 
-std::uint32_t WordAtOffset(std::string_view bytes, std::size_t offset)
-{
-    std::uint32_t word = 0;
-    for (std::size_t byte = 4; byte-- > 0;) {
-        word = word << 8 | static_cast<unsigned char>(bytes[offset + byte]);
-    }
-    return word;
-}
-
-void PutWord(std::string &bytes, std::size_t offset, std::uint32_t word)
-{
-    for (std::size_t byte = 0; byte < 4; ++byte) {
-        bytes[offset + byte] = static_cast<char>(word >> 8 * byte & 0xFF);
-    }
-}
-
 // The singles stand in a level whatever the file says. On the configuration screen a technique only
 // ever goes from level to level, and without these two no count of solutions comes to an end.
 void KeepSinglesInALevel()
@@ -392,12 +377,12 @@ void SetConfigurationDefaults()
 void TakeConfiguration(std::string_view bytes)
 {
     const std::size_t whole = bytes.size() / BytesInRecord * BytesInRecord;
-    if (whole == 0 || WordAtOffset(bytes, 0) != ConfigurationVersion) {
+    if (whole == 0 || NumberAt<std::uint32_t>(bytes, 0) != ConfigurationVersion) {
         return;
     }
     for (const Row &row : Layout) {
         if (const std::size_t offset = OffsetOf(row); offset < whole) {
-            const std::uint32_t word = WordAtOffset(bytes, offset);
+            const std::uint32_t word = NumberAt<std::uint32_t>(bytes, offset);
             std::visit([word](const auto &setting) { Take(setting, word); }, row.Target);
         }
     }
@@ -409,8 +394,8 @@ std::string ConfigurationBytes()
 {
     std::string bytes(ConfigurationSize, '\0');
     for (const Row &row : Layout) {
-        PutWord(bytes, OffsetOf(row),
-                std::visit([](const auto &setting) { return WordOf(setting); }, row.Target));
+        PutNumber(bytes, OffsetOf(row),
+                  std::visit([](const auto &setting) { return WordOf(setting); }, row.Target));
     }
     return bytes;
 }

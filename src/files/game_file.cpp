@@ -8,6 +8,7 @@
 #include "generator/game_number.h"
 #include "grid/grid.h"
 #include "grid/history.h"
+#include "grid/little_endian.h"
 #include "outside/messages.h"
 #include "outside/whole_file.h"
 
@@ -62,25 +63,7 @@ constexpr std::size_t PlaceOf(std::size_t record, std::size_t element = 0)
     return (record - 1) * RecordSize + element * WordSize;
 }
 
-// ---- Numbers and grids to bytes and back -----------------------------------------------------
-
-template <typename Number>
-void PutNumber(std::string &bytes, std::size_t place, Number number)
-{
-    for (std::size_t i = 0; i < sizeof number; ++i) {
-        bytes[place + i] = static_cast<char>(number >> (8 * i) & 0xFFU);
-    }
-}
-
-template <typename Number>
-Number NumberAt(std::string_view bytes, std::size_t place)
-{
-    Number number = 0;
-    for (std::size_t i = 0; i < sizeof number; ++i) {
-        number |= static_cast<Number>(static_cast<unsigned char>(bytes[place + i])) << (8 * i);
-    }
-    return number;
-}
+// ---- Grids to bytes and back --------------------------------------------------------------------
 
 // A grid takes ten records, one for each column, line 0 included.
 void PutGrid(std::string &bytes, std::size_t record, const GridTable &grid)

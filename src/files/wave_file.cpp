@@ -1,5 +1,7 @@
 #include "files/wave_file.h"
 
+#include "grid/little_endian.h"
+
 #include <algorithm>
 #include <optional>
 
@@ -16,22 +18,12 @@ constexpr std::size_t ChunkHeaderSize = 8;
 constexpr std::size_t LeastFormSize = 16;
 constexpr std::size_t ExtendedKindAt = 24;
 
-// A number of so many bytes, lowest first; the bytes are there.
-std::uint32_t NumberAt(std::string_view bytes, std::size_t place, std::size_t size)
-{
-    std::uint32_t number = 0;
-    for (std::size_t byte = size; byte-- > 0;) {
-        number = number << 8 | static_cast<unsigned char>(bytes[place + byte]);
-    }
-    return number;
-}
-
 // What a chunk of some name holds, as far as it is there.
 std::optional<std::string_view> ChunkNamed(std::string_view bytes, std::string_view name)
 {
     std::size_t place = HeaderSize;
     while (bytes.size() >= place + ChunkHeaderSize) {
-        const std::size_t size = NumberAt(bytes, place + 4, 4);
+        const std::size_t size = NumberAt<std::uint32_t>(bytes, place + 4);
         const std::size_t begin = place + ChunkHeaderSize;
         if (bytes.substr(place, 4) == name) {
             return bytes.substr(begin, size);
@@ -79,13 +71,13 @@ std::optional<WaveSound> ReadForm(std::string_view chunk)
     if (chunk.size() < LeastFormSize) {
         return std::nullopt;
     }
-    std::uint32_t kind = NumberAt(chunk, 0, 2);
+    std::uint32_t kind = NumberAt<std::uint16_t>(chunk, 0);
     if (kind == ExtendedForm && chunk.size() >= ExtendedKindAt + 2) {
-        kind = NumberAt(chunk, ExtendedKindAt, 2);
+        kind = NumberAt<std::uint16_t>(chunk, ExtendedKindAt);
     }
-    const std::uint32_t channels = NumberAt(chunk, 2, 2);
-    const std::uint32_t rate = NumberAt(chunk, 4, 4);
-    const std::optional<SampleForm> form = FormOf(kind, NumberAt(chunk, 14, 2));
+    const std::uint32_t channels = NumberAt<std::uint16_t>(chunk, 2);
+    const std::uint32_t rate = NumberAt<std::uint32_t>(chunk, 4);
+    const std::optional<SampleForm> form = FormOf(kind, NumberAt<std::uint16_t>(chunk, 14));
     if (!form || channels < 1 || channels > 8 || rate < 1000 || rate > 192000) {
         return std::nullopt;
     }

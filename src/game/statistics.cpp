@@ -3,6 +3,7 @@
 #include "game/clock.h"
 #include "game/screens.h"
 #include "grid/grid.h"
+#include "grid/little_endian.h"
 #include "grid/rounding.h"
 #include "logic/driver.h"
 #include "outside/folders.h"
@@ -152,13 +153,12 @@ std::string StatisticsFilePath()
 
 std::string StatisticsBytes(const StatisticsRecord &record)
 {
-    std::string bytes;
+    std::string bytes(StatisticsFileSize, '\0');
+    std::size_t place = 0;
     for (const LevelRecord &level : record) {
-        for (const std::int32_t signedWord : WordsOf(level)) {
-            auto word = static_cast<std::uint32_t>(signedWord);
-            for (std::size_t k = 0; k < BytesPerWord; ++k, word >>= 8U) {
-                bytes += static_cast<char>(word & 0xFFU);
-            }
+        for (const std::int32_t word : WordsOf(level)) {
+            PutNumber(bytes, place, static_cast<std::uint32_t>(word));
+            place += BytesPerWord;
         }
     }
     return bytes;
@@ -170,10 +170,8 @@ StatisticsRecord StatisticsFrom(std::string_view bytes)
     whole.resize(StatisticsFileSize, '\0');
     std::size_t place = 0;
     const auto next = [&] {
-        std::uint32_t word = 0;
-        for (std::size_t k = 0; k < BytesPerWord; ++k) {
-            word |= std::uint32_t{static_cast<unsigned char>(whole[place++])} << 8U * k;
-        }
+        const auto word = NumberAt<std::uint32_t>(whole, place);
+        place += BytesPerWord;
         return static_cast<std::int32_t>(word);
     };
     StatisticsRecord record;
