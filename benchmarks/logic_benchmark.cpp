@@ -34,8 +34,7 @@ Sample GamesOf(const std::vector<std::string> &texts)
         Grid = {};
         for (std::size_t place = 0; place < 81; ++place) {
             if (marks[place] != '.') {
-                Grid[place % 9 + 1][place / 9 + 1] =
-                    BitTable[static_cast<std::size_t>(marks[place] - '0')] | GivenBit;
+                Grid[place % 9 + 1][place / 9 + 1] = BitOf(marks[place] - '0') | GivenBit;
             }
         }
         FillPencilmarks();

@@ -47,8 +47,7 @@ std::int32_t FirstTechnique()
 {
     for (int level = 1; level <= Levels; ++level) {
         for (const TechniqueRow &row : Techniques) {
-            if ((LevelTable[static_cast<std::size_t>(level)] &
-                 BitTable[static_cast<std::size_t>(row.Number)]) == 0) {
+            if ((LevelTable[static_cast<std::size_t>(level)] & BitOf(row.Number)) == 0) {
                 continue;
             }
             for (const Operation operation : row.AlertScan) {
@@ -82,8 +81,7 @@ bool Step()
     ApplyPlaced();
     for (int level = 1; level <= Levels; ++level) {
         for (const TechniqueRow &row : Techniques) {
-            if ((LevelTable[static_cast<std::size_t>(level)] &
-                 BitTable[static_cast<std::size_t>(row.Number)]) == 0) {
+            if ((LevelTable[static_cast<std::size_t>(level)] & BitOf(row.Number)) == 0) {
                 continue;
             }
             Flag changed = False;
@@ -159,7 +157,7 @@ void PrepareHiddenQuad(const GridTable &solution)
 // Leaves a number in four lines only where its places in them cross four others.
 void PrepareJellyfish(const GridTable &solution)
 {
-    const CellWord number = BitTable[static_cast<std::size_t>(1 + Below(9))];
+    const CellWord number = BitOf(1 + Below(9));
     std::array<int, 9> lines{1, 2, 3, 4, 5, 6, 7, 8, 9};
     std::shuffle(lines.begin(), lines.end(), source);
     const std::set<int> base(lines.begin(), lines.begin() + 4);

@@ -28,7 +28,7 @@ void SetGivens(std::string_view game)
     Grid = {};
     for (std::size_t k = 0; k < Cells.size(); ++k) {
         if (game[k] != '.' && game[k] != '0') {
-            WordAt(Cells[k]) = BitTable[static_cast<std::size_t>(game[k] - '0')] | GivenBit;
+            WordAt(Cells[k]) = BitOf(game[k] - '0') | GivenBit;
         }
     }
     CountGivens();
@@ -57,7 +57,7 @@ std::string UsedTechniques()
         }
     };
     for (const TechniqueRow &row : Techniques) {
-        add(BitTable[static_cast<std::size_t>(row.Number)], row.ReportName);
+        add(BitOf(row.Number), row.ReportName);
     }
     add(TrialBit, "Trial & error");
     return names;

@@ -12,11 +12,6 @@ namespace kelvarine {
 
 namespace {
 
-CellWord CandidatesOf(Cell cell)
-{
-    return WordAt(cell) & CandidateMask;
-}
-
 // Number of the one bit that a mask holds; 0 when it holds none or several.
 int NumberOf(CellWord mask)
 {
@@ -31,7 +26,7 @@ std::optional<std::pair<Cell, Cell>> PairIn(const House &house, int number)
     std::array<Cell, 2> found{};
     std::size_t count = 0;
     for (const Cell cell : house.Cells) {
-        if ((WordAt(cell) & BitTable[static_cast<std::size_t>(number)]) == 0) {
+        if ((WordAt(cell) & BitOf(number)) == 0) {
             continue;
         }
         if (count == found.size()) {
@@ -189,8 +184,7 @@ Point NumberPoint(Cell cell, int number)
     const int count = std::popcount(candidates);
     const NumberLayout layout =
         PencilmarkLayout != 0 || count >= 5 ? NumberLayout::Nine : LayoutFor(count);
-    const int place =
-        std::popcount(candidates & (BitTable[static_cast<std::size_t>(number)] * 2U - 1U));
+    const int place = std::popcount(candidates & (BitOf(number) * 2U - 1U));
     return NumberCentre(layout, cell, number, place);
 }
 
@@ -198,7 +192,7 @@ std::vector<Line> StrongLinks()
 {
     std::vector<Line> links;
     for (int number = 1; number <= 9; ++number) {
-        if ((NumberFilter & BitTable[static_cast<std::size_t>(number)]) == 0) {
+        if ((NumberFilter & BitOf(number)) == 0) {
             continue;
         }
         for (const House &house : Houses) {

@@ -96,7 +96,7 @@ SolvedGrid SolutionOfGrid()
 {
     SolvedGrid solution{};
     for (std::size_t k = 0; k < solution.size(); ++k) {
-        const CellWord digits = (WordAt(Cells[k]) & SolutionMask) >> SolutionShift;
+        const CellWord digits = SolutionOf(WordAt(Cells[k]));
         solution[k] = static_cast<std::uint8_t>(LowestCandidate(digits));
     }
     return solution;

@@ -8,17 +8,9 @@
 #include "outside/board.h"
 #include "outside/window.h"
 
-#include <cassert>
-
 namespace kelvarine {
 
 namespace {
-
-std::uint32_t BitOf(std::int32_t k)
-{
-    assert(k >= 0 && k < 31);
-    return BitTable[static_cast<std::size_t>(k)];
-}
 
 void SetBit(std::uint32_t &mask, std::int32_t k, bool on)
 {

@@ -12,7 +12,7 @@ std::string DifficultyCaption(std::int32_t level)
 
 bool AcceptsLevel(std::int32_t level)
 {
-    return (DifficultySelection & BitTable[static_cast<std::size_t>(level)]) != 0;
+    return (DifficultySelection & BitOf(level)) != 0;
 }
 
 void SetAcceptedLevels(const std::array<bool, Levels + 1> &boxes)

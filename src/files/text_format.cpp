@@ -1,5 +1,6 @@
 #include "files/text_format.h"
 
+#include "grid/digits.h"
 #include "grid/grid.h"
 #include "grid/history.h"
 
@@ -36,19 +37,15 @@ std::size_t WidestCell(CellWord counted)
     return static_cast<std::size_t>(most);
 }
 
-bool IsDigit(char mark)
+// Whether a mark is the number of a cell; 0 is none.
+bool IsNumber(char mark)
 {
-    return mark >= '1' && mark <= '9';
+    return IsDigit(mark) && mark != '0';
 }
 
 bool IsCellMark(char mark)
 {
-    return IsDigit(mark) || mark == '0' || mark == '.';
-}
-
-CellWord BitOf(char digit)
-{
-    return BitTable[static_cast<std::size_t>(digit - '0')];
+    return IsDigit(mark) || mark == '.';
 }
 
 // Word of the cell in reading order, row after row; taken is 1..81.
@@ -107,7 +104,7 @@ std::string SingleLineText()
     for (std::size_t row = 1; row <= 9; ++row) {
         for (std::size_t column = 1; column <= 9; ++column) {
             const std::string cell = CellText(Grid[column][row]);
-            if (parted && !cell.empty() && !text.empty() && IsDigit(text.back())) {
+            if (parted && !cell.empty() && !text.empty() && IsNumber(text.back())) {
                 text += ' ';
             }
             text += cell.empty() ? EmptyCell : std::string_view(cell);
@@ -125,8 +122,8 @@ int ReadByCharacters(std::string_view text)
         }
         if (IsCellMark(mark)) {
             ++taken;
-            if (IsDigit(mark)) {
-                WordTaken(taken) = BitOf(mark) | GivenBit;
+            if (IsNumber(mark)) {
+                WordTaken(taken) = BitOf(mark - '0') | GivenBit;
             }
         }
     }
@@ -138,16 +135,16 @@ int ReadByDigitRuns(std::string_view text)
     int taken = 0;
     char previous = ' ';
     for (const char mark : text) {
-        const bool startsCell = IsCellMark(mark) && !(IsDigit(mark) && IsDigit(previous));
+        const bool startsCell = IsCellMark(mark) && !(IsNumber(mark) && IsNumber(previous));
         if (startsCell) {
             if (taken == LastCell) {
                 break;
             }
             ++taken;
         }
-        if (IsDigit(mark)) {
+        if (IsNumber(mark)) {
             CellWord &word = WordTaken(taken);
-            word = (word == 0 ? GivenBit : word & ~GivenBit) | BitOf(mark);
+            word = (word == 0 ? GivenBit : word & ~GivenBit) | BitOf(mark - '0');
         }
         previous = mark;
     }

@@ -42,7 +42,7 @@ bool AgreeToExpose(std::int64_t selected, CellWord lastSolution)
 
 void Expose(CellWord &word)
 {
-    word = (word & ~CandidateMask) | (word & SolutionMask) >> SolutionShift | GivenBit;
+    ShowDigit(word);
     ++GivenCount;
 }
 

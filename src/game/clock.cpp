@@ -1,5 +1,6 @@
 #include "game/clock.h"
 
+#include "grid/digits.h"
 #include "grid/grid.h"
 #include "grid/rounding.h"
 #include "outside/board.h"
@@ -27,12 +28,6 @@ void RunClock(bool on)
 {
     ClockRunning = on ? True : False;
     SetClockTimer(on);
-}
-
-std::string TwoDigits(long number)
-{
-    const std::string digits = "0" + std::to_string(number);
-    return digits.substr(digits.size() - 2);
 }
 
 // A file may hold any number. What no game lasts is brought down to what whole numbers can count.

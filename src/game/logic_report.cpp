@@ -17,7 +17,7 @@ void AddReportLine(std::string &report, std::string_view name)
 {
     report += "    ";
     report += name;
-    report += LineEnd;
+    report += MessageLineEnd;
 }
 
 } // namespace
@@ -33,13 +33,13 @@ void mnuShowLogicNeeded()
     std::string report;
     if (GameRating == RatedImpossible) {
         report = "This sudoku has no solution.";
-        report += LineEnd;
+        report += MessageLineEnd;
     } else {
         report = "Logic needed to solve:  ";
-        report += LineEnd;
-        report += LineEnd;
+        report += MessageLineEnd;
+        report += MessageLineEnd;
         for (const TechniqueRow &row : Techniques) {
-            if ((UsedMask & BitTable[static_cast<std::size_t>(row.Number)]) != 0) {
+            if ((UsedMask & BitOf(row.Number)) != 0) {
                 AddReportLine(report, row.ReportName);
             }
         }
@@ -47,7 +47,7 @@ void mnuShowLogicNeeded()
             AddReportLine(report, "Trial & error");
         }
     }
-    report += LineEnd;
+    report += MessageLineEnd;
     report += "Rating: ";
     report += WordsOfRating(GameRating).Lower;
     ShowMessage(report);

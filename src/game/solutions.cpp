@@ -19,7 +19,7 @@ std::string SolutionCountText;
 namespace {
 
 constexpr std::string_view Rule = "+-------+-------+-------+\r\n";
-constexpr std::string_view LineEnd = "\r\n";
+constexpr std::string_view TextLineEnd = "\r\n";
 constexpr std::size_t SolutionSize = 81;
 
 std::string FramedText(std::string_view list)
@@ -35,7 +35,7 @@ std::string FramedText(std::string_view list)
         text += i % 9 == 0 ? "|\r\n" : "";
         if (i % SolutionSize == 0) {
             text += Rule;
-            text += LineEnd;
+            text += TextLineEnd;
         }
     }
     return text;
@@ -46,7 +46,7 @@ std::string LinesText(std::string_view list)
     std::string text;
     for (std::size_t k = 0; k < list.size(); k += SolutionSize) {
         text += list.substr(k, SolutionSize);
-        text += LineEnd;
+        text += TextLineEnd;
     }
     return text;
 }

@@ -2,6 +2,7 @@
 
 #include "game/clock.h"
 #include "game/screens.h"
+#include "grid/digits.h"
 #include "grid/grid.h"
 #include "grid/little_endian.h"
 #include "grid/rounding.h"
@@ -96,11 +97,6 @@ void WriteStatistics(const StatisticsRecord &record)
     } else {
         TellFailure(error);
     }
-}
-
-std::string TwoDigits(std::int64_t number)
-{
-    return (number < 10 ? "0" : "") + std::to_string(number);
 }
 
 void ShowTime(std::string &label, std::int32_t seconds)

@@ -1,6 +1,7 @@
 #include "generator/game_number.h"
 
 #include "generator/random_source.h"
+#include "grid/digits.h"
 #include "grid/rounding.h"
 #include "outside/messages.h"
 
@@ -21,11 +22,6 @@ std::string WithThousands(std::int32_t number)
         digits.insert(place, ",");
     }
     return digits;
-}
-
-bool IsDigit(char mark)
-{
-    return mark >= '0' && mark <= '9';
 }
 
 // Asks until the player gives up or names a number in range.

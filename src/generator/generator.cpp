@@ -52,7 +52,7 @@ void FillCentreBox()
         for (int row = 4; row <= 6; ++row) {
             CellWord bit = 0;
             do {
-                bit = BitTable[static_cast<std::size_t>(DrawDigitBit())];
+                bit = BitOf(DrawDigitBit());
             } while ((used & bit) != 0);
             used |= bit;
             const auto houses = HousesOf(column, row);
@@ -63,7 +63,7 @@ void FillCentreBox()
 
 int DigitsLeft(CellWord word)
 {
-    return CandidatesIn((word & SolutionMask) >> SolutionShift);
+    return CandidatesIn(SolutionOf(word));
 }
 
 // The open cell with the fewest digits left, the first of its kind in scan order, or null when an
@@ -104,7 +104,7 @@ bool TrySolvedGrid()
         }
         CellWord bit = 0;
         do {
-            bit = BitTable[static_cast<std::size_t>(DrawDigitBit())];
+            bit = BitOf(DrawDigitBit());
         } while ((WordAt(*cell) & bit) == 0);
         const auto houses = HousesOf(cell->Column, cell->Row);
         PlaceDigit(*cell, bit, houses);
@@ -129,11 +129,6 @@ int ForGroup(Cell cell, const Action &action)
 void TakeOut(CellWord &word)
 {
     word = (word & ~GivenBit) | CandidateMask | TriedMark;
-}
-
-void ShowDigit(CellWord &word)
-{
-    word = (word & ~CandidateMask) | (word & SolutionMask) >> SolutionShift | GivenBit;
 }
 
 Cell DrawCell()
@@ -234,7 +229,7 @@ bool GroupIsForced(Cell cell)
         }
     }
     const auto isForced = [&](Cell member) {
-        const CellWord digit = (WordAt(member) & SolutionMask) >> SolutionShift;
+        const CellWord digit = SolutionOf(WordAt(member));
         if (!IsForced(placed, member, digit)) {
             return false;
         }
@@ -272,7 +267,7 @@ bool UsedWhatIsRequired()
 
 bool HasWishedDifficulty()
 {
-    const std::uint32_t bit = BitTable[static_cast<std::size_t>(GameRating)];
+    const std::uint32_t bit = BitOf(GameRating);
     return (DifficultySelection & bit) != 0 &&
            (LevelTable[RequiredRow] == 0 || UsedWhatIsRequired());
 }

@@ -65,6 +65,12 @@ inline constexpr auto BitTable = [] {
     return bits;
 }();
 
+// The bit of a number, a technique or a level, 0..31.
+constexpr std::uint32_t BitOf(std::int32_t n)
+{
+    return BitTable[static_cast<std::size_t>(n)];
+}
+
 // Number of candidates by a word's candidate field; see CandidatesIn.
 inline constexpr auto CandidateCounts = [] {
     std::array<std::int8_t, 512> counts{};
@@ -85,6 +91,18 @@ constexpr int LowestCandidate(CellWord word)
 {
     const CellWord candidates = word & CandidateMask;
     return candidates == 0 ? 0 : CandidatesIn((candidates & (~candidates + 1)) - 1) + 1;
+}
+
+// The number of a cell's solution as a candidate; 0 where none is known.
+constexpr CellWord SolutionOf(CellWord word)
+{
+    return (word & SolutionMask) >> SolutionShift;
+}
+
+// Makes a cell the given that its solution says.
+constexpr void ShowDigit(CellWord &word)
+{
+    word = (word & ~CandidateMask) | SolutionOf(word) | GivenBit;
 }
 
 } // namespace kelvarine

@@ -66,6 +66,12 @@ inline CellWord &WordAt(Cell cell)
     return Grid[cell.Column][cell.Row];
 }
 
+// The candidates of a cell as a mask.
+inline CellWord CandidatesOf(Cell cell)
+{
+    return WordAt(cell) & CandidateMask;
+}
+
 // Number of candidates, 0..9, of the cell at column and row, both 1..9.
 int CountCandidates(int column, int row);
 

@@ -17,6 +17,7 @@
 #include "input/givens.h"
 #include "input/mouse.h"
 #include "input/number_keys.h"
+#include "input/selected_cells.h"
 #include "input/selection.h"
 #include "input/toolbar.h"
 
@@ -44,17 +45,7 @@ void Step(std::int32_t shift)
 template <typename Change>
 void ChangeSelected(const Change &change)
 {
-    bool changed = false;
-    for (const Cell cell : Cells) {
-        CellWord &word = WordAt(cell);
-        if ((word & SelectedBit) == 0 || (word & GivenBit) != 0) {
-            continue;
-        }
-        const CellWord before = word;
-        word = change(word);
-        changed = changed || word != before;
-    }
-    if (changed) {
+    if (ChangeSelectedCells(change)) {
         PushUndoState();
         FinishChange();
     }

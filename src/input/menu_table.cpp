@@ -135,7 +135,7 @@ bool ShowsCoordinates(std::int32_t /*number*/)
 // For 0 this looks at a bit that the filter never holds, so "All" is never checked; intended.
 bool IsInView(std::int32_t number)
 {
-    return (BitTable[static_cast<std::size_t>(number)] & NumberFilter) != 0;
+    return (BitOf(number) & NumberFilter) != 0;
 }
 
 constexpr std::array Rows{

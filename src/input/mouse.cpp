@@ -8,6 +8,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "grid/rounding.h"
+#include "input/selected_cells.h"
 #include "outside/board.h"
 
 #include <algorithm>
@@ -67,11 +68,6 @@ void SelectRectangle(std::int32_t shift)
     }
 }
 
-CellWord CandidatesOf(Cell cell)
-{
-    return WordAt(cell) & CandidateMask;
-}
-
 // The place-th number of a mask counted upward from 1; 0 when it has fewer.
 std::int32_t NumberAtPlace(CellWord mask, int place)
 {
@@ -95,17 +91,8 @@ int ThirdOf(int offset, int side)
 template <typename Change>
 void ChangeCellsWith(CellWord number, const Change &change)
 {
-    bool changed = false;
-    for (const Cell cell : Cells) {
-        CellWord &word = WordAt(cell);
-        if ((word & GivenBit) != 0 || (word & SelectedBit) == 0 || (word & number) == 0) {
-            continue;
-        }
-        const CellWord before = word;
-        word = change(word);
-        changed = changed || word != before;
-    }
-    if (changed) {
+    if (ChangeSelectedCells(
+            [&](CellWord word) { return (word & number) == 0 ? word : change(word); })) {
         PushUndoState();
         ScanAndTestWin();
     }
@@ -119,7 +106,7 @@ void StrikeOut(Cell cell, int x, int y)
     if (number == 0) {
         return;
     }
-    const CellWord bit = BitTable[static_cast<std::size_t>(number)];
+    const CellWord bit = BitOf(number);
     ChangeCellsWith(
         bit, [=](CellWord word) { return (word & CandidateMask) == bit ? word : word & ~bit; });
 }
@@ -180,7 +167,7 @@ void BoardDoubleClicked()
     if (number == 0) {
         return;
     }
-    const CellWord bit = BitTable[static_cast<std::size_t>(number)];
+    const CellWord bit = BitOf(number);
     ChangeCellsWith(bit, [=](CellWord word) { return (word & ~CandidateMask) | bit; });
     AssertStateIsSound();
 }

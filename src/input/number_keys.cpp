@@ -2,6 +2,7 @@
 
 #include "grid/grid.h"
 #include "grid/history.h"
+#include "input/selected_cells.h"
 #include "logic/technique.h"
 #include "outside/board.h"
 
@@ -10,11 +11,6 @@
 namespace kelvarine {
 
 namespace {
-
-CellWord BitOf(std::int32_t number)
-{
-    return BitTable[static_cast<std::size_t>(number)];
-}
 
 // The word of a selected cell after a number has been typed into it.
 CellWord Edited(CellWord word, std::int32_t number, std::int32_t shiftStat)
@@ -37,16 +33,8 @@ CellWord Edited(CellWord word, std::int32_t number, std::int32_t shiftStat)
 
 void Edit(std::int32_t number, std::int32_t shiftStat, Flag &update)
 {
-    for (const Cell cell : Cells) {
-        CellWord &word = WordAt(cell);
-        if ((word & SelectedBit) == 0 || (word & GivenBit) != 0) {
-            continue;
-        }
-        const CellWord edited = Edited(word, number, shiftStat);
-        if (edited != word) {
-            word = edited;
-            update = True;
-        }
+    if (ChangeSelectedCells([=](CellWord word) { return Edited(word, number, shiftStat); })) {
+        update = True;
     }
     if (update != False) {
         PushUndoState();

@@ -45,7 +45,7 @@ void RunTechniques(std::int32_t mode, std::uint32_t mask)
 {
     for (std::size_t level = 1; level <= Levels; ++level) {
         for (const TechniqueRow &row : Techniques) {
-            const std::uint32_t bit = BitTable[static_cast<std::size_t>(row.Number)];
+            const std::uint32_t bit = BitOf(row.Number);
             if ((LevelTable[level] & mask & bit) != 0 && RunOperations(row, mode)) {
                 return;
             }

@@ -121,12 +121,12 @@ void ReportEndsConflict(Cell target, int number)
 {
     HintText += "Cell " + NameOf(target) + " contains a " + std::to_string(number) +
                 " which conflicts with the ends of the following chained cells:";
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
 }
 
 void AddNumberLine(std::string_view leadIn, int number)
 {
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     HintText += leadIn;
     HintText += std::to_string(number);
 }

@@ -68,7 +68,7 @@ std::vector<const TechniqueRow *> TechniquesInUse()
     std::vector<const TechniqueRow *> order;
     for (std::size_t level = 1; level <= Levels; ++level) {
         for (const TechniqueRow &row : Techniques) {
-            const std::uint32_t bit = BitTable[static_cast<std::size_t>(row.Number)];
+            const std::uint32_t bit = BitOf(row.Number);
             if ((LevelTable[level] & SolveMask & bit) != 0) {
                 order.push_back(&row);
             }
@@ -85,7 +85,7 @@ void RestoreSafeCopy()
 void SetTrialNumber(const Trial &trial)
 {
     CellWord &word = WordAt(trial.Place);
-    word = (word & ~CandidateMask) | BitTable[static_cast<std::size_t>(trial.Number)];
+    word = (word & ~CandidateMask) | BitOf(trial.Number);
 }
 
 // First cell in scan order that passes a test, or null.
@@ -239,7 +239,7 @@ Step TryTechniques(Run &run)
         RunOperations(run, *row);
         if (run.Found != False) {
             run.Changed = true;
-            UsedMask |= BitTable[static_cast<std::size_t>(row->Number)];
+            UsedMask |= BitOf(row->Number);
             return Step::Pass;
         }
     }
@@ -299,7 +299,7 @@ Step NextNumber(Run &run)
             --run.TrialDepth;
             return Step::Backtrack;
         }
-    } while ((trial.Mask & BitTable[static_cast<std::size_t>(trial.Number)]) == 0);
+    } while ((trial.Mask & BitOf(trial.Number)) == 0);
     SetTrialNumber(trial);
     run.Seen.clear();
     // A fresh trial goes straight to the techniques, without a yield and without the tests.

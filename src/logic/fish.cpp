@@ -76,7 +76,7 @@ bool HasName(std::int32_t size)
 
 void LocateFish(const Fish &fish)
 {
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     HintText += "It involves the number " + std::to_string(fish.Number);
 }
 
@@ -94,7 +94,7 @@ std::string NamesOfLines(CellWord lines, std::string (*name)(int line))
 {
     std::string names;
     for (int line = 1; line <= 9; ++line) {
-        if ((lines & BitTable[static_cast<std::size_t>(line)]) != 0) {
+        if ((lines & BitOf(line)) != 0) {
             names += name(line);
         }
     }
@@ -104,7 +104,7 @@ std::string NamesOfLines(CellWord lines, std::string (*name)(int line))
 // Marks all of the base lines, whether in the cover or not, by where the number stands.
 void MarkBase(const Fish &fish)
 {
-    const CellWord bit = BitTable[static_cast<std::size_t>(fish.Number)];
+    const CellWord bit = BitOf(fish.Number);
     for (std::size_t line = 1; line <= 9; ++line) {
         if ((fish.Base & BitTable[line]) == 0) {
             continue;
@@ -123,7 +123,7 @@ void Explain(const Fish &fish, Cell target)
     HintText += "Cell " + NameOf(target) + " contains a " + std::to_string(fish.Number);
     HintText += " which conflicts with a " + size + "-column/" + size;
     HintText += form.Intersection;
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     Entitle(fish);
     if (HasName(fish.Size)) {
         HintText += form.BaseWord;
@@ -193,7 +193,7 @@ Places CoverOf(const PlacesByHouse &places, const FishForm &form, CellWord base,
 // is over.
 bool ActOnFish(const Fish &fish, std::int32_t mode, Flag &found)
 {
-    const CellWord bit = BitTable[static_cast<std::size_t>(fish.Number)];
+    const CellWord bit = BitOf(fish.Number);
     const auto name = static_cast<std::size_t>(fish.Size - 2);
     for (Places cover = fish.Cover; cover != 0; cover &= static_cast<Places>(cover - 1)) {
         const House &line = Houses[fish.Form.FirstCover + FirstPlace(cover)];

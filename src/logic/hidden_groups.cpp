@@ -25,22 +25,22 @@ void Explain(const HiddenGroup &group, Cell target)
     if (group.Size == 1) {
         HintText = "Cell " + NameOf(target) + " is the only cell in " + HouseName(group.In) +
                    " containing the number " + JoinNumbers(group.Set);
-        HintText += LineEnd;
+        HintText += MessageLineEnd;
         HintText += "All other numbers should be removed from this cell.";
     } else {
         const std::vector<Cell> members = CellsAt(group.In, group.Members);
         HintText = "Cells  " + NamesOf(members) + " form a hidden " + GroupName(group.Size);
-        HintText += LineEnd;
+        HintText += MessageLineEnd;
         HintText +=
             " in " + HouseName(group.In) + " containing the numbers " + JoinNumbers(group.Set);
-        HintText += LineEnd;
-        HintText += LineEnd;
+        HintText += MessageLineEnd;
+        HintText += MessageLineEnd;
         HintText += "All other numbers should be removed from these cells.";
         for (const Cell member : members) {
             WordAt(member) |= HintCellBit;
         }
     }
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     MarkHouse(group.In, HintDomainBit);
     WordAt(target) |= HintCellBit;
 }

@@ -80,8 +80,8 @@ void Tease(const Search &search)
 
 void Locate(const Search &search)
 {
-    HintText += LineEnd;
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
+    HintText += MessageLineEnd;
     HintText += "The hinge cell is " + NameOf(CellOf(search.Hinge));
 }
 
@@ -95,9 +95,9 @@ void Explain(const Search &search, Cell target)
     HintTitle = WingName(search.Size);
     HintText = "Cell " + NameOf(target) + " contains a " + std::to_string(search.Number) +
                " which conflicts with:";
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     HintText += "     hinge cell " + NameOf(CellOf(search.Hinge)) + " and ";
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     HintText += "     wing cells ";
     for (std::size_t i = 1; i <= search.WingCount; ++i) {
         HintText += NameOf(Wing(i)) + " ";
@@ -111,7 +111,7 @@ void Explain(const Search &search, Cell target)
 void TakeNumber(Search &search, int target)
 {
     CellWord &word = WordOf(target);
-    word &= ~BitTable[static_cast<std::size_t>(search.Number)];
+    word &= ~BitOf(search.Number);
     search.Removed = true;
     FindPairs(search);
 }
@@ -122,8 +122,7 @@ bool ActOn(Search &search, CellSet cells)
     for (CellSet rest = cells; rest.Any(); rest.DropFirst()) {
         const int target = rest.First();
         const CellWord word = WordOf(target);
-        if ((word & ScratchMark2) != 0 ||
-            (word & BitTable[static_cast<std::size_t>(search.Number)]) == 0) {
+        if ((word & ScratchMark2) != 0 || (word & BitOf(search.Number)) == 0) {
             continue;
         }
         if (ActOnTarget(
@@ -177,7 +176,7 @@ bool FindWing(Search &search, int other)
 // so far keep their mark.
 bool FindWings(Search &search)
 {
-    const CellWord bit = BitTable[static_cast<std::size_t>(search.Number)];
+    const CellWord bit = BitOf(search.Number);
     for (CellWord rest = WordOf(search.Hinge) & CandidateMask & ~bit; rest != 0; rest &= rest - 1) {
         if (!FindWing(search, std::countr_zero(rest))) {
             return false;
@@ -193,8 +192,7 @@ bool RunPass(Search &search)
         search.WingCount = 0;
         search.OutsideBox = false;
         search.BoxWing = false;
-        if ((hinge & BitTable[static_cast<std::size_t>(search.Number)]) != 0 && FindWings(search) &&
-            ActOnTargets(search)) {
+        if ((hinge & BitOf(search.Number)) != 0 && FindWings(search) && ActOnTargets(search)) {
             return true;
         }
     }

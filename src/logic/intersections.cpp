@@ -40,7 +40,7 @@ void TeaseLock(const Lock &lock)
 
 void LocateNumber(const Lock &lock)
 {
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     HintText += "It involves the number " + std::to_string(lock.Number);
 }
 
@@ -52,7 +52,7 @@ void Explain(const Lock &lock, Cell target)
     HintText = "Cell " + NameOf(target) + " contains a " + number + " which conflicts with ";
     if (lock.Crossing) {
         HintText += "cell " + NameOf(listed.front());
-        HintText += LineEnd;
+        HintText += MessageLineEnd;
         HintText += " where the "; // the blank at the start of the line is intended
     } else {
         // A lone cell is told in the plural, but for box/row, which the search has no use for: it
@@ -60,11 +60,11 @@ void Explain(const Lock &lock, Cell target)
         const bool single = listed.size() == 1 && lock.First >= FirstBox &&
                             Houses[lock.Second].Kind == HouseKind::Row;
         HintText += (single ? "cell " : "cells ") + NamesOf(listed);
-        HintText += LineEnd;
+        HintText += MessageLineEnd;
         HintText += "where the ";
     }
     HintText += number + " must appear due to " + KindOf(lock.First) + " requirements.";
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     for (const Cell cell : listed) {
         WordAt(cell) |= HintCellBit;
     }
@@ -187,7 +187,7 @@ bool IsIn(std::uint8_t house, Cell cell)
 bool ActOnCell(Search &search, const Lock &lock, Cell cell)
 {
     const CellWord word = WordAt(cell);
-    const CellWord bit = BitTable[static_cast<std::size_t>(lock.Number)];
+    const CellWord bit = BitOf(lock.Number);
     if ((word & bit) == 0 || (word & GivenBit) != 0 || IsIn(lock.First, cell)) {
         return false;
     }
@@ -303,8 +303,8 @@ void FindIntersections(std::int32_t mode, Flag &found)
     WorkList list;
     for (int number = 1; number <= 9; ++number) {
         PlacesByHouse listed = ListedCells(search.Table, number);
-        const bool over = (removable & BitTable[static_cast<std::size_t>(number)]) != 0 &&
-                          VisitHouses(search, found, number, listed);
+        const bool over =
+            (removable & BitOf(number)) != 0 && VisitHouses(search, found, number, listed);
         NoteRound(list, listed, LongestVisit(listed));
         if (over) {
             break;

@@ -61,10 +61,10 @@ void Explain(const NakedGroup &group, Cell target)
     HintText = "Cell " + NameOf(target) + Clash(group, target);
     if (group.Size == 1) {
         HintText += "cell " + NameOf(others.front()) + " in the same " + HouseWordOf(group) + ".";
-        HintText += LineEnd;
+        HintText += MessageLineEnd;
     } else {
         HintText += "cells  " + NamesOf(others);
-        HintText += LineEnd;
+        HintText += MessageLineEnd;
         HintText += "a " + GroupWords(group.Size) + " in the same " + HouseWordOf(group) +
                     " containing the numbers " + JoinNumbers(group.Set);
     }

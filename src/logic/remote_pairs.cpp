@@ -68,12 +68,12 @@ void Explain(const Search &search, Cell target)
     CellWord rest = WordAt(target) & search.PairMask;
     HintTitle = "Conflict with remote pair";
     HintText += "Cell " + NameOf(target) + " contains a " + std::to_string(LowestCandidate(rest));
-    rest &= ~BitTable[static_cast<std::size_t>(LowestCandidate(rest))];
+    rest &= ~BitOf(LowestCandidate(rest));
     if (rest != 0) {
         HintText += " and a " + std::to_string(LowestCandidate(rest));
     }
     HintText += " which conflicts with the following chain of remote pairs:";
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     ReportChain(search.Stack, Marks, 0);
 }
 

@@ -28,7 +28,7 @@ void ExplainLastCandidate(Cell cell, const House &house, CellWord missing)
     const int number = CandidatesIn(missing) == 1 ? LowestCandidate(missing) : 10;
     HintTitle = "Unplaced last candidate";
     HintText = "Cell " + NameOf(cell) + " is the last incomplete cell in " + HouseName(house);
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     HintText += "and must contain the last candidate which is a " + std::to_string(number) + ".";
     MarkHouse(house, HintDomainBit);
     WordAt(cell) |= HintCellBit;
@@ -36,7 +36,7 @@ void ExplainLastCandidate(Cell cell, const House &house, CellWord missing)
 
 void LocateNakedSingle(Cell cell)
 {
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     HintText += "It's in the " + BoxName(cell.Column, cell.Row) + " box.";
 }
 
@@ -45,7 +45,7 @@ void ExplainNakedSingle(Cell cell, CellWord number)
     HintTitle = "Unplaced naked single";
     HintText = "Cell " + NameOf(cell) + " must contain a " +
                std::to_string(LowestCandidate(number)) + " because it's the ";
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     HintText += "only unused number in its domain.";
     MarkDomain(cell, HintDomainBit);
     WordAt(cell) |= HintCellBit;
@@ -213,7 +213,7 @@ void FindUnplacedHiddenSingle(std::int32_t mode, Flag &found)
                            [](const Tally &house) { return house.Single(); });
     const CellWord any = AnyOf(singles);
     for (int number = 1; number <= 9; ++number) {
-        const CellWord bit = BitTable[static_cast<std::size_t>(number)];
+        const CellWord bit = BitOf(number);
         if ((any & bit) == 0) {
             continue;
         }
@@ -279,7 +279,7 @@ void ApplyHiddenSingles(std::int32_t mode, Flag &found)
         return;
     }
     for (int number = 1; number <= 9; ++number) {
-        const CellWord bit = BitTable[static_cast<std::size_t>(number)];
+        const CellWord bit = BitOf(number);
         for (std::size_t h = 0; h < Houses.size(); ++h) {
             if ((singles[h] & bit) == 0) {
                 continue;

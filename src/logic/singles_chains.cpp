@@ -30,7 +30,7 @@ struct Search {
 
 CellWord NumberBit(const Search &search)
 {
-    return BitTable[static_cast<std::size_t>(search.Number)];
+    return BitOf(search.Number);
 }
 
 CellSet &HoldersOf(Search &search)
@@ -132,13 +132,13 @@ void ExplainWithinChain(const Search &search, Cell target)
     HintTitle = "Conflict in singles chain";
     HintText += "Cell " + NameOf(target) + " is a link in the following chain of " + number +
                 "'s which conflict with each other:";
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     ReportChain(search.Stack, Marks, search.Number);
-    HintText += LineEnd;
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
+    HintText += MessageLineEnd;
     HintText += search.Stack.Depth >= 3 ? "The " + number + "'s in these links can be removed:"
                                         : "The " + number + " in this link can be removed:";
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     for (int i = 1; i <= search.Stack.Depth; i += 2) {
         HintText += "  " + NameOf(CellOf(search.Stack.At(i)));
     }

@@ -66,7 +66,7 @@ void Tease(std::string_view line)
 
 void LocateInHouse(std::string_view houseWord)
 {
-    HintText += LineEnd;
+    HintText += MessageLineEnd;
     HintText += "It's in a ";
     HintText += houseWord;
     HintText += ".";
@@ -77,7 +77,7 @@ std::string JoinNumbers(CellWord numbers)
     std::string text;
     for (int left = CandidatesIn(numbers); left > 0; --left) {
         const int number = LowestCandidate(numbers);
-        numbers &= ~BitTable[static_cast<std::size_t>(number)];
+        numbers &= ~BitOf(number);
         text += std::to_string(number);
         text += left > 2 ? "," : left == 2 ? " and " : "";
     }

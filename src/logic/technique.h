@@ -65,7 +65,7 @@ template <typename Change, typename Tease, typename Locate, typename Explain>
 }
 
 // A line end inside a message.
-inline constexpr std::string_view LineEnd = "\r";
+inline constexpr std::string_view MessageLineEnd = "\r";
 
 // Sets bits in the words of all nine cells of a house.
 void MarkHouse(const House &house, CellWord bits);

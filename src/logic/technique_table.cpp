@@ -290,7 +290,7 @@ constexpr std::uint32_t BitsOfRows(std::int32_t level)
     std::uint32_t bits = 0;
     for (const TechniqueRow &row : Rows) {
         if (level == 0 || row.Level == level) {
-            bits |= BitTable[static_cast<std::size_t>(row.Number)];
+            bits |= BitOf(row.Number);
         }
     }
     return bits;

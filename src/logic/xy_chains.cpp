@@ -65,8 +65,7 @@ void FindLinks(Search &search, CellSet twos)
 // The open targets of a complete chain, cells of the chain included.
 CellSet TargetsOf(const Search &search, int start, int end)
 {
-    return OpenTargets(search.Mode, BitTable[static_cast<std::size_t>(search.StartNumber)],
-                       SeenByEnds(start, end));
+    return OpenTargets(search.Mode, BitOf(search.StartNumber), SeenByEnds(start, end));
 }
 
 // ---- Prospects -----------------------------------------------------------------------------
@@ -139,7 +138,7 @@ void Explain(const Search &search, Cell target)
 // as little as a cell that comes down to two candidates becomes one.
 void TakeNumber(Search &search, int target)
 {
-    WordOf(target) &= ~(BitTable[static_cast<std::size_t>(search.StartNumber)] | ScratchMark1);
+    WordOf(target) &= ~(BitOf(search.StartNumber) | ScratchMark1);
     for (CellSet &links : search.Links) {
         links.Remove(target);
     }

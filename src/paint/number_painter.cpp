@@ -69,7 +69,7 @@ void DrawRuledLines(const Canvas &canvas, NumberLayout layout, Cell cell)
 
 void DrawDigit(const Canvas &canvas, int digit, double points, Point centre, Colour colour)
 {
-    if ((NumberFilter & BitTable[static_cast<std::size_t>(digit)]) == 0) {
+    if ((NumberFilter & BitOf(digit)) == 0) {
         return;
     }
     const DigitPicture &picture = DigitAt(points, canvas.Ratio, digit);
@@ -104,7 +104,7 @@ void DrawNumbers(const Canvas &canvas, Cell cell)
     }
     int place = 0; // counts the candidates out of view, too
     for (int number = 1; number <= 9; ++number) {
-        if ((word & BitTable[static_cast<std::size_t>(number)]) != 0) {
+        if ((word & BitOf(number)) != 0) {
             ++place;
             DrawDigit(canvas, number, FontSizeOf(layout), NumberCentre(layout, cell, number, place),
                       NumberColour(word));

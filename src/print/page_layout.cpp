@@ -1,6 +1,7 @@
 #include "print/page_layout.h"
 
 #include "board/look.h"
+#include "grid/digits.h"
 #include "grid/rounding.h"
 #include "print/print_settings.h"
 
@@ -107,11 +108,6 @@ std::string Tenths(double value, std::string_view sign)
 {
     const std::string text = Decimals(value, 1, sign);
     return text.front() == '0' ? text.substr(1) : text;
-}
-
-bool IsDigit(char mark)
-{
-    return mark >= '0' && mark <= '9';
 }
 
 // Length of the decimal sign that a text begins with, or 0.

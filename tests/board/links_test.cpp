@@ -26,7 +26,7 @@ void Hold(int column, int row, std::initializer_list<int> numbers)
     CellWord &word = WordAt(MakeCell(column, row));
     word &= ~CandidateMask;
     for (const int number : numbers) {
-        word |= BitTable[static_cast<std::size_t>(number)];
+        word |= BitOf(number);
     }
 }
 

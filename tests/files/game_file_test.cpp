@@ -365,7 +365,7 @@ TEST_F(GameFile, MarksOfAReadGameStayUntilTheNextScan)
 
 void Play(Cell cell, int number)
 {
-    WordAt(cell) = BitTable[static_cast<std::size_t>(number)];
+    WordAt(cell) = BitOf(number);
     PushUndoState();
     ScanAndTestWin();
 }

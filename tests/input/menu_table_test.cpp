@@ -291,8 +291,7 @@ TEST_F(Menus, ViewEntriesChangeTheFilterAndPaintOnce)
         for (const CellWord filter : {AllInView, OnlyThree}) {
             SetScenario(filter);
             Choose("mnuGridView", number);
-            EXPECT_EQ(NumberFilter,
-                      number == 0 ? AllInView : BitTable[static_cast<std::size_t>(number)]);
+            EXPECT_EQ(NumberFilter, number == 0 ? AllInView : BitOf(number));
             EXPECT_EQ(Seen.Calls, Texts{"board: "});
         }
     }

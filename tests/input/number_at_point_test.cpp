@@ -31,7 +31,7 @@ void Hold(std::initializer_list<int> numbers)
 {
     CellWord word = 0;
     for (const int number : numbers) {
-        word |= BitTable[static_cast<std::size_t>(number)];
+        word |= BitOf(number);
     }
     WordAt(MakeCell(Column, Row)) = word;
 }
@@ -205,7 +205,7 @@ TEST_F(NumberAtPointOf, PlaceOfEveryNumberLeadsBackToIt)
             WordAt(cell) = candidates;
             int place = 0;
             for (int number = 1; number <= 9; ++number) {
-                if ((candidates & BitTable[static_cast<std::size_t>(number)]) == 0) {
+                if ((candidates & BitOf(number)) == 0) {
                     continue;
                 }
                 const Point point =

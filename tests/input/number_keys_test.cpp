@@ -42,7 +42,7 @@ bool Press(std::int32_t number, std::int32_t mode, std::int32_t sign)
 
 CellWord Bit(std::int32_t number)
 {
-    return BitTable[static_cast<std::size_t>(number)];
+    return BitOf(number);
 }
 
 // What one key does to one cell, stated anew for each row of a table, and what follows.

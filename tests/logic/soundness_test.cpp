@@ -214,7 +214,7 @@ TEST_F(Soundness, EveryAlertOfOneTechniqueCanBeExplained)
         MaxXYLinks = 8;
         const GridTable position = Grid;
         const auto &row = Techniques[static_cast<std::size_t>(number) % Techniques.size()];
-        AlertMask = BitTable[static_cast<std::size_t>(row.Number)];
+        AlertMask = BitOf(row.Number);
         ScanAlerts(ModeAlert);
         const GridTable marked = Grid;
         for (const Cell cell : Cells) {

@@ -20,7 +20,7 @@ CellWord Candidates(std::string_view digits)
 {
     CellWord word = 0;
     for (const char digit : digits) {
-        word |= BitTable[static_cast<std::size_t>(digit - '0')];
+        word |= BitOf(digit - '0');
     }
     return word;
 }
@@ -52,7 +52,7 @@ Rectangle Whole(const QImage &picture)
 // Where the only number of a cell's that is in view was painted.
 Rectangle InkOf(CellWord word, int number)
 {
-    NumberFilter = BitTable[static_cast<std::size_t>(number)];
+    NumberFilter = BitOf(number);
     const QImage picture = NumbersPainted(word);
     NumberFilter = CandidateMask;
     return DifferenceOf(picture, EmptyPicture(), Whole(picture));
@@ -96,7 +96,7 @@ TEST_F(Numbers, DigitsAreDrawnWholeAndDifferFromEachOther)
 {
     std::vector<QImage> pictures;
     for (int number = 1; number <= 9; ++number) {
-        pictures.push_back(NumbersPainted(BitTable[static_cast<std::size_t>(number)]));
+        pictures.push_back(NumbersPainted(BitOf(number)));
         for (std::size_t other = 0; other + 1 < pictures.size(); ++other) {
             EXPECT_NE(pictures.back(), pictures[other]);
         }

@@ -150,8 +150,7 @@ TEST_F(TechniqueList, EachHasOneLevelAtTheStartAndItsWord)
         SCOPED_TRACE(row.Caption);
         for (std::int32_t level = 1; level <= Levels; ++level) {
             const std::uint32_t held = LevelTable[static_cast<std::size_t>(level)];
-            EXPECT_EQ((held & BitTable[static_cast<std::size_t>(row.Number)]) != 0,
-                      level == row.Level);
+            EXPECT_EQ((held & BitOf(row.Number)) != 0, level == row.Level);
         }
         EXPECT_EQ(LevelCaption(row.Number), WordsOfRating(row.Level).Capital);
     }

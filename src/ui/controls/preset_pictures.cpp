@@ -76,9 +76,9 @@ void SetSamplePosition()
         const auto place = static_cast<std::size_t>((cell.Row - 1) * 9 + cell.Column - 1);
         const char mark = SamplePosition[place];
         if (mark >= 'A' && mark <= 'I') {
-            WordAt(cell) = GivenBit | BitTable[static_cast<std::size_t>(mark - 'A' + 1)];
+            WordAt(cell) = GivenBit | BitOf(mark - 'A' + 1);
         } else if (mark >= '1' && mark <= '9') {
-            WordAt(cell) = BitTable[static_cast<std::size_t>(mark - '0')];
+            WordAt(cell) = BitOf(mark - '0');
         } else {
             WordAt(cell) = BitTable[1 + place % 3] | BitTable[4 + place % 5];
         }

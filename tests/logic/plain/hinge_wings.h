@@ -58,7 +58,7 @@ private:
 
     static CellWord Bit(int number)
     {
-        return BitTable[static_cast<std::size_t>(number)];
+        return BitOf(number);
     }
 
     void ResetNumber()

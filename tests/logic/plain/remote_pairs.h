@@ -188,7 +188,7 @@ private:
             HintText = "There's a conflict with a Remote Pair.";
             if (Mode == 4) {
                 int number = 1;
-                while ((word & PairMask & BitTable[static_cast<std::size_t>(number)]) == 0) {
+                while ((word & PairMask & BitOf(number)) == 0) {
                     ++number;
                 }
                 HintText += "\r";
@@ -214,11 +214,11 @@ private:
         const CellWord held = At(column, row) & PairMask;
         bool first = true;
         for (int number = 1; number <= 9; ++number) {
-            if ((held & BitTable[static_cast<std::size_t>(number)]) == 0) {
+            if ((held & BitOf(number)) == 0) {
                 continue;
             }
             HintText += std::to_string(number);
-            if (first && held != BitTable[static_cast<std::size_t>(number)]) {
+            if (first && held != BitOf(number)) {
                 HintText += " and a ";
             }
             first = false;

@@ -23,7 +23,7 @@ public:
         }
         ClearCellBits(ScratchMark0);
         for (Number = 1; Number <= 9; ++Number) {
-            NumberBit = BitTable[static_cast<std::size_t>(Number)];
+            NumberBit = BitOf(Number);
             for (int column = 1; column <= 9; ++column) {
                 for (int row = 1; row <= 9; ++row) {
                     const CellWord word = At(column, row);

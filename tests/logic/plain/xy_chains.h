@@ -38,7 +38,7 @@ public:
                 }
                 At(column, row) |= ScratchMark2;
                 for (StartNumber = 1; StartNumber <= 9; ++StartNumber) {
-                    StartBit = BitTable[static_cast<std::size_t>(StartNumber)];
+                    StartBit = BitOf(StartNumber);
                     if ((At(column, row) & StartBit) == 0) {
                         continue;
                     }

@@ -195,7 +195,7 @@ TEST_F(HelpPages, PastedPositionOfATechniquePageShowsThatTechnique)
         EXPECT_GE(GameRating, 1);
         EXPECT_LE(GameRating, 5) << "the position has one solution";
 
-        const std::uint32_t alone = BitTable[static_cast<std::size_t>(row.Number)];
+        const std::uint32_t alone = BitOf(row.Number);
         AlertMask = alone;
         ScanAlerts(1);
         EXPECT_NE(CellsWith(AlertBit), "") << "the technique finds nothing";
