@@ -58,6 +58,7 @@ bool AppliedLogicSolvesAll()
     return true;
 }
 
+// The notices are shown to the letter: "level's of" here and "area" in the next one are intended.
 constexpr std::string_view NoLevelNotice = "Please select one or more level's of difficulty\r"
                                            "on the \"New Games\" tab of the configuration screen.";
 

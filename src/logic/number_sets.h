@@ -15,7 +15,7 @@ template <int Size, std::size_t Count>
 inline constexpr auto SetsOfSize = [] {
     std::array<CellWord, Count> sets{};
     std::size_t next = 0;
-    // With number 1 as the highest of nine bits the stated order is the descending one.
+    // With number 1 as the highest of nine bits that order is the descending one.
     for (std::uint32_t mirrored = 512; mirrored-- > 0;) {
         CellWord set = 0;
         for (std::uint32_t number = 1; number <= 9; ++number) {

@@ -1,10 +1,11 @@
 // What all techniques share: the modes that they are called with, what happens at a target in
 // each mode, and the words and marks of houses.
 //
-// A technique is an operation (mode, found, ...). It searches in a stated order and, at every
-// target of a conclusion, hands over to ActOnTarget, which does what the mode asks for and says
-// whether the call is over. Mode 0 alone writes found, and only as true. Scratch marks belong to
-// a technique during its call and may be left set.
+// A technique is an operation (mode, found, ...). It searches in an order that a faster search must
+// keep, since it decides what the player is told first, and hands over at every target of a
+// conclusion to ActOnTarget, which does what the mode asks for and says whether the call is over.
+// Mode 0 alone writes found, and only as true. Scratch marks belong to a technique during its call
+// and may be left set.
 #pragma once
 
 #include "grid/grid.h"

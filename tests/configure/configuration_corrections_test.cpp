@@ -25,7 +25,7 @@ namespace {
 
 class ConfigurationCorrections : public Configuration {};
 
-// ---- Stated corrections --------------------------------------------------------------------
+// ---- Corrections ---------------------------------------------------------------------------
 
 TEST_F(ConfigurationCorrections, LinkLimitAbove81ReadsAs81AndNoneStaysNone)
 {

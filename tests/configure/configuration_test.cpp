@@ -26,7 +26,7 @@ namespace {
 
 // ---- The file ------------------------------------------------------------------------------
 
-TEST_F(Configuration, DefaultsAreTheStatedBytes)
+TEST_F(Configuration, DefaultsAreTheseBytes)
 {
     EXPECT_EQ(ConfigurationBytes(), BytesOf(DefaultWords));
     EXPECT_EQ(ConfigurationBytes().size(), 440U);

@@ -45,7 +45,7 @@ CellWord Bit(std::int32_t number)
     return BitOf(number);
 }
 
-// What one key does to one cell, stated anew for each row of a table, and what follows.
+// What one key does to one cell, worked out anew for each row of a table, and what follows.
 using WordChange = std::function<CellWord(CellWord word, std::int32_t number)>;
 
 CellWord RandomWord(std::mt19937 &random)
@@ -70,7 +70,7 @@ void SetRandomGrid(std::mt19937 &random)
 
 // Presses a key on random grids and compares every cell with the change that is expected of it.
 // Words that a change touches are recorded as one level, with nothing painted; without a change
-// there is no level and the board is painted as told.
+// there is no level and the board is painted so many times.
 void ExpectRecordedChange(std::int32_t mode, std::int32_t number, std::int32_t sign,
                           CellWord filter, int paintsWithoutChange, const WordChange &change,
                           CellWord comparedFields)

@@ -129,7 +129,7 @@ TEST_F(Soundness, OnlyTheCornerLosesARightNumberToASinglesChain)
     }
 }
 
-// The known game on which the retained step goes wrong, and the proof that nothing else does:
+// The known game on which the unsound step goes wrong, and the proof that nothing else does:
 // without the technique the same logic solves it.
 TEST_F(Soundness, OnlyTheWalkOnDepthZeroIsUnsound)
 {
@@ -139,7 +139,7 @@ TEST_F(Soundness, OnlyTheWalkOnDepthZeroIsUnsound)
     const GridTable full = Grid;
     const Solution solution = SolutionsOf(FieldOf(game), 2).front();
     SolveMask = RatingMask;
-    EXPECT_EQ(ApplyLogic(SolveForRating), NotSolved) << "the retained step does no harm any more";
+    EXPECT_EQ(ApplyLogic(SolveForRating), NotSolved) << "the unsound step does no harm any more";
     LevelTable[4] &= ~BitTable[UnsoundTechnique];
     Grid = full;
     EXPECT_EQ(ApplyLogic(SolveForRating), Solved);

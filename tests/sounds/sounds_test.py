@@ -62,7 +62,7 @@ class Sounds(unittest.TestCase):
     def test_are_small(self):
         self.assertLess(sum(path.stat().st_size for path in SOUNDS.iterdir()), 3_000_000)
 
-    def test_have_the_stated_format(self):
+    def test_have_the_format_that_the_program_plays(self):
         for path, _ in self.each():
             with wave.open(str(path)) as file:
                 self.assertEqual(file.getsampwidth(), 2, path.name)

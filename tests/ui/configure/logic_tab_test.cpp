@@ -247,7 +247,7 @@ TEST_F(LogicTabTest, MenuMovesATechniqueToEachLevel)
     EXPECT_EQ(LevelTable[3] & BitTable[10], 0U);
 }
 
-TEST_F(LogicTabTest, MenuHasTheStatedEntries)
+TEST_F(LogicTabTest, MenuHasTheLevelsAndTheStar)
 {
     Open(LogicTab);
     const QMenu *menu = OpenMenuOn(1);
