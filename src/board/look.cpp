@@ -1,9 +1,10 @@
 #include "board/look.h"
 
 #include "grid/colour.h"
+
 namespace kelvarine {
 
-std::array<Colour, 12> ColourTable{};
+std::array<Colour, ColourCount> ColourTable{};
 std::array<Colour, 11> HighlightColours{};
 std::int32_t GivenTexture;
 std::int32_t UnknownTexture;

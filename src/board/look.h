@@ -4,6 +4,7 @@
 
 #include "grid/cell_word.h"
 #include "grid/colour.h"
+#include "grid/range.h"
 
 #include <array>
 #include <cstdint>
@@ -24,13 +25,17 @@ inline constexpr std::size_t HintDomainColour = 9;
 inline constexpr std::size_t AlertColour = 10; // also links and chains
 inline constexpr std::size_t MarginColour = 11;
 
-extern std::array<Colour, 12> ColourTable;
+inline constexpr std::size_t ColourCount = 12;
+extern std::array<Colour, ColourCount> ColourTable;
 extern std::array<Colour, 11> HighlightColours; // 1..10 used
 
-extern std::int32_t GivenTexture; // tile numbers 0..12, 0 for none
+inline constexpr Range TextureRange{0, 12}; // tile numbers, 0 for none
+extern std::int32_t GivenTexture;
 extern std::int32_t UnknownTexture;
 extern std::int32_t GridTexture;
 
+inline constexpr Range LineThicknessRange{0, 50}; // pixels, of lines and border
+inline constexpr Range MarginThicknessRange{0, 100};
 extern std::int32_t PrimaryThickness;   // lines between boxes, pixels; default 8
 extern std::int32_t SecondaryThickness; // lines inside a box; default 0
 extern std::int32_t BorderThickness;    // 3D border round the grid; default 10
@@ -42,6 +47,8 @@ extern Flag GivenCells3D; // default true
 extern Flag UnknownCells3D;
 extern Flag SelectedCells3D;
 
+inline constexpr Range PencilmarkLayoutRange{0, 1};
+inline constexpr Range StrongLinkModeRange{0, 2};
 extern std::int32_t PencilmarkLayout; // 0 variable, 1 three by three; default 1
 extern Flag PencilmarkLines;          // dividing lines in cells; default false
 extern std::int32_t StrongLinkMode;   // 0 never, 1 in isolated views, 2 always; default 1

@@ -18,10 +18,12 @@ constexpr Colour LeastBrightness = 351; // sum of red, green and blue that calls
 
 std::string_view ratingWord; // shown latest
 
-// Formats that put a letter in front of the number.
-bool HasPrefix(std::int32_t format)
+// True for a form that puts a letter in front of the number.
+template <std::size_t Count>
+bool HasPrefix(const std::array<LineForm, Count> &forms, std::int32_t format)
 {
-    return format == 3 || format == 4;
+    const auto index = static_cast<std::size_t>(format);
+    return index < Count && !forms[index].Prefix.empty();
 }
 
 } // namespace
@@ -42,13 +44,13 @@ void PickMarginTextColour()
 std::string ColumnLabel(int column)
 {
     assert(IsLine(column));
-    return HasPrefix(ColumnFormat) ? std::to_string(column) : ColumnName(column);
+    return HasPrefix(ColumnForms, ColumnFormat) ? std::to_string(column) : ColumnName(column);
 }
 
 std::string RowLabel(int row)
 {
     assert(IsLine(row));
-    return HasPrefix(RowFormat) ? std::to_string(row) : RowName(row);
+    return HasPrefix(RowForms, RowFormat) ? std::to_string(row) : RowName(row);
 }
 
 std::string_view MarginRatingWord()

@@ -25,7 +25,7 @@ void SetMarginDefaults();
 void PickMarginTextColour();
 
 // Labels over a column and beside a row, 1..9: as the cells are named, but without the letter
-// that formats 3 and 4 put in front of a number. Empty for an unknown format.
+// that some forms put in front of a number. Empty for an unknown format.
 std::string ColumnLabel(int column);
 std::string RowLabel(int row);
 

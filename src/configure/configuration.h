@@ -17,9 +17,6 @@ inline constexpr std::size_t ConfigurationSize = ConfigurationRecords * BytesInR
 
 inline constexpr std::int32_t ConfigurationVersion = 1;
 
-// A side of a window that is longer than this, in pixels, was never the player's.
-inline constexpr std::int32_t LongestSide = 8192;
-
 // Read and written, and used by nothing.
 extern std::int32_t ReservedSetting;
 

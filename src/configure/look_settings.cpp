@@ -9,11 +9,14 @@
 
 namespace kelvarine {
 
-const std::array<std::string_view, 12> ColourCaptions{
+const std::array<std::string_view, ColourCount> ColourCaptions{
     " Given cells",     " Unknown cells",      " Selected cells",       " Given numbers",
     " Unknown numbers", " Primary grid lines", " Secondary grid lines", " Pencilmark grid lines",
     " Hi-lites 1",      " Hi-lites 2",         " Alerts && links",      " Exterior margins",
 };
+
+const std::array<std::string_view, CountOf(PencilmarkLayoutRange)> LayoutCaptions{" Variable",
+                                                                                  " 3 X 3"};
 
 void SetColour(std::size_t index, Colour colour)
 {

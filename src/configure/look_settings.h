@@ -12,7 +12,7 @@
 namespace kelvarine {
 
 // Captions of the twelve colours in the order of ColourTable.
-extern const std::array<std::string_view, 12> ColourCaptions;
+extern const std::array<std::string_view, ColourCount> ColourCaptions;
 
 // Sets a colour, 0..11, and paints the board; that of the margin refreshes the window, too.
 void SetColour(std::size_t index, Colour colour);
@@ -30,7 +30,10 @@ void SetThickness(std::int32_t &thickness, std::int32_t pixels);
 // Sets one of the flags of the look and paints the board.
 void SetLookFlag(Flag &flag, bool on);
 
-// Sets PencilmarkLayout, 0 or 1, and paints the board.
+// Captions of the layouts of the pencilmarks.
+extern const std::array<std::string_view, CountOf(PencilmarkLayoutRange)> LayoutCaptions;
+
+// Sets PencilmarkLayout and paints the board.
 void SetPencilmarkLayout(std::int32_t layout);
 
 } // namespace kelvarine

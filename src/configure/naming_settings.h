@@ -1,24 +1,26 @@
 // What the Coordinates tab does to the names of cells.
 #pragma once
 
+#include "grid/names.h"
+
 #include <array>
 #include <cstdint>
 #include <string_view>
 
 namespace kelvarine {
 
-// Captions by the index that each choice gives its setting.
-extern const std::array<std::string_view, 5> ColumnCaptions;
-extern const std::array<std::string_view, 5> RowCaptions;
-extern const std::array<std::string_view, 4> SeparatorCaptions;
-extern const std::array<std::string_view, 5> BracketCaptions;
+// Captions by the index that each choice gives its setting, one for each form of names.h.
+extern const std::array<std::string_view, ColumnForms.size()> ColumnCaptions;
+extern const std::array<std::string_view, RowForms.size()> RowCaptions;
+extern const std::array<std::string_view, SeparatorForms.size()> SeparatorCaptions;
+extern const std::array<std::string_view, BracketForms.size()> BracketCaptions;
 
-// Sets the naming style of the columns, or of the rows, 0..4, and refreshes the window, whose
-// labels follow it.
+// Sets the naming style of the columns, or of the rows, and refreshes the window, whose labels
+// follow it.
 void SetColumnFormat(std::int32_t format);
 void SetRowFormat(std::int32_t format);
 
-// Sets the separator, 0..3, or the brackets, 0..4.
+// Sets the separator or the brackets.
 void SetCoordSeparator(std::int32_t separator);
 void SetCoordBrackets(std::int32_t brackets);
 

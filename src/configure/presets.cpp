@@ -32,7 +32,7 @@ struct Effects {
 
 struct Preset {
     std::int32_t Number;
-    std::array<Colour, 12> Colours;
+    std::array<Colour, ColourCount> Colours;
     Textures Tiles;
     Thicknesses Lines;
     Effects In3D;

@@ -6,8 +6,6 @@ namespace kelvarine {
 
 namespace {
 
-constexpr std::int32_t VolumeStep = 256; // of a bar's 255 positions
-
 void TestSound(const SoundList &list, std::int32_t index, std::size_t volumeIndex)
 {
     if (index > 0) {

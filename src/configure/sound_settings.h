@@ -15,7 +15,11 @@ inline constexpr std::string_view NoSoundCaption = "none";
 // A sound file as a list shows it: all before its first dot.
 std::string_view SoundCaption(std::string_view file);
 
-// Position 0..255 of the bar of a volume, 0..3.
+// A volume's bar goes through its range in steps of so much.
+inline constexpr std::int32_t VolumeStep = 256;
+inline constexpr std::int32_t VolumeBarMost = VolumeRange.Most / VolumeStep;
+
+// Position 0..VolumeBarMost of the bar of a volume, 0..3.
 std::int32_t VolumeBar(std::size_t index);
 
 // Sets a volume, 0..3, from its bar.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "grid/cell_word.h"
+#include "grid/range.h"
 
 #include <array>
 #include <cstdint>
@@ -29,12 +30,14 @@ extern Flag SoundDisabled;
 // The sound of a snapshot, which is no choice.
 inline constexpr std::string_view SnapshotSound = "snapshot.wav";
 
-// Volumes, each 0..65280, and what each is for.
+// Volumes, and what each is for.
+inline constexpr Range VolumeRange{0, 65280};
 inline constexpr std::size_t AnnouncerVolume = 0; // no event has these two
 inline constexpr std::size_t ClicksVolume = 1;
 inline constexpr std::size_t AlertVolume = 2;
 inline constexpr std::size_t WinVolume = 3;
-extern std::array<std::int32_t, 4> SoundVolumes;
+inline constexpr std::size_t VolumeCount = 4;
+extern std::array<std::int32_t, VolumeCount> SoundVolumes;
 
 // Empties the lists and puts the settings to their defaults.
 void SetSoundDefaults();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "grid/cell_word.h"
+#include "grid/range.h"
 
 #include <cstdint>
 
@@ -21,6 +22,9 @@ struct WindowPlace {
     friend constexpr bool operator==(const WindowPlace &, const WindowPlace &) = default;
 };
 
+// A side that is longer than this was never the player's.
+inline constexpr Range WindowSideRange{0, 8192};
+
 extern WindowPlace MainPlace;
 extern Flag MainMaximised;
 
@@ -35,7 +39,7 @@ extern WindowPlace FileDialogPlace;
 extern WindowPlace StatisticsPlace; // only left and top outlast a run
 extern Flag StatisticsOpen;
 
-// Tab of the configuration screen, 0..7; 8 and 9 name no tab.
+// Tab of the configuration screen; 8 and 9 are kept, but name none.
 inline constexpr std::int32_t NewGamesTab = 0;
 inline constexpr std::int32_t SoundTab = 1;
 inline constexpr std::int32_t PrintTab = 2;
@@ -44,9 +48,11 @@ inline constexpr std::int32_t PresetGridsTab = 4;
 inline constexpr std::int32_t GridTab = 5;
 inline constexpr std::int32_t ColoursTab = 6;
 inline constexpr std::int32_t CoordinatesTab = 7;
+inline constexpr Range CurrentTabRange{0, 9};
 extern std::int32_t CurrentTab;
 
 // Format of the listed solutions: 0 in lines of 81 digits, 1 as frames; default 1.
+inline constexpr Range SolutionsFormatRange{0, 1};
 extern std::int32_t SolutionsFormat;
 
 // A window's place brought back into reach of a screen of a size in pixels: where it would lie

@@ -9,7 +9,7 @@
 namespace kelvarine {
 
 // Settings, kept in the configuration file.
-extern std::int32_t RevealPattern;        // 0..9, see patterns.h; default 5
+extern std::int32_t RevealPattern;        // see patterns.h; default 5
 extern std::uint32_t DifficultySelection; // bit n for level n, 1..5; default easy alone
 extern std::int32_t MinGivens;            // default 17
 extern std::int32_t MaxGivens;            // default 40

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "grid/houses.h"
+#include "grid/range.h"
 
 #include <array>
 #include <cstdint>
@@ -21,6 +22,8 @@ struct RevealPatternRow {
 
 inline constexpr std::int32_t PatternCount = 10;
 inline constexpr std::int32_t ExposeManually = 8; // the pattern that takes nothing out by itself
+
+inline constexpr Range RevealPatternRange{0, PatternCount - 1};
 
 extern const std::array<RevealPatternRow, PatternCount> RevealPatterns;
 

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <array>
+#include <cassert>
 #include <cstdint>
 
 namespace kelvarine {
@@ -68,6 +69,7 @@ inline constexpr auto BitTable = [] {
 // The bit of a number, a technique or a level, 0..31.
 constexpr std::uint32_t BitOf(std::int32_t n)
 {
+    assert(n >= 0 && n < 32);
     return BitTable[static_cast<std::size_t>(n)];
 }
 

@@ -50,9 +50,9 @@ void SetGridDefaults()
     SolveMask = 0;
     AlertMask = 0;
     LevelTable = {};
-    MaxSinglesLinks = 81;
-    MaxRPLinks = 81;
-    MaxXYLinks = 81;
+    MaxSinglesLinks = LinkLimitRange.Most;
+    MaxRPLinks = LinkLimitRange.Most;
+    MaxXYLinks = LinkLimitRange.Most;
     IncludeSingles = False;
 
     SetNamingDefaults();

@@ -4,6 +4,7 @@
 
 #include "grid/cell_word.h"
 #include "grid/houses.h"
+#include "grid/range.h"
 #include "grid/rating_words.h"
 
 #include <array>
@@ -48,7 +49,8 @@ extern std::uint32_t AlertMask; // techniques that the alert scan runs
 // Rows 1..Levels: the techniques of the levels; RequiredRow: those a new game must use.
 extern std::array<std::uint32_t, 10> LevelTable;
 inline constexpr std::size_t RequiredRow = 6;
-extern std::int32_t MaxSinglesLinks; // link limits of the chain searches, 0..81
+inline constexpr Range LinkLimitRange{0, 81}; // the default is the most
+extern std::int32_t MaxSinglesLinks;          // link limits of the chain searches
 extern std::int32_t MaxRPLinks;
 extern std::int32_t MaxXYLinks;
 extern Flag IncludeSingles; // group techniques take cells with one candidate in

@@ -16,10 +16,6 @@ Flag CoordRowFirst;
 
 namespace {
 
-// The letter I is left out on purpose: beside a digit it reads as a one.
-constexpr std::string_view CapitalLetters = "ABCDEFGHJ";
-constexpr std::string_view SmallLetters = "abcdefghj";
-
 // Text number choice of a list, or nothing for a choice that the list does not hold.
 template <std::size_t Count>
 std::string Chosen(const std::array<std::string_view, Count> &list, std::int32_t choice)
@@ -28,24 +24,15 @@ std::string Chosen(const std::array<std::string_view, Count> &list, std::int32_t
     return index < Count ? std::string(list[index]) : std::string();
 }
 
-std::string LineName(int line, std::int32_t format, std::string_view capital,
-                     std::string_view small)
+template <std::size_t Count>
+std::string LineName(int line, const std::array<LineForm, Count> &forms, std::int32_t format)
 {
-    const auto place = static_cast<std::size_t>(line - 1);
-    switch (format) {
-    case 0:
-        return std::to_string(line);
-    case 1:
-        return std::string(CapitalLetters.substr(place, 1));
-    case 2:
-        return std::string(SmallLetters.substr(place, 1));
-    case 3:
-        return std::string(capital) + std::to_string(line);
-    case 4:
-        return std::string(small) + std::to_string(line);
-    default:
+    const auto index = static_cast<std::size_t>(format);
+    if (index >= Count) {
         return {};
     }
+    std::string name(forms[index].Prefix);
+    return name += forms[index].Signs[static_cast<std::size_t>(line - 1)];
 }
 
 } // namespace
@@ -62,27 +49,29 @@ void SetNamingDefaults()
 std::string ColumnName(int column)
 {
     assert(IsLine(column));
-    return LineName(column, ColumnFormat, "C", "c");
+    return LineName(column, ColumnForms, ColumnFormat);
 }
 
 std::string RowName(int row)
 {
     assert(IsLine(row));
-    return LineName(row, RowFormat, "R", "r");
+    return LineName(row, RowForms, RowFormat);
 }
 
 std::string CellName(int column, int row)
 {
     assert(IsLine(column) && IsLine(row));
-    constexpr std::array<std::string_view, 5> openings{"", "(", "{", "[", "<"};
-    constexpr std::array<std::string_view, 5> closings{"", ")", "}", "]", ">"};
-    constexpr std::array<std::string_view, 4> separators{"", ",", "-", "/"};
-
     const bool rowFirst = CoordRowFirst != False;
     const std::string first = rowFirst ? RowName(row) : ColumnName(column);
     const std::string second = rowFirst ? ColumnName(column) : RowName(row);
-    return Chosen(openings, CoordBrackets) + first + Chosen(separators, CoordSeparator) + second +
-           Chosen(closings, CoordBrackets);
+    const auto brackets = static_cast<std::size_t>(CoordBrackets);
+    const BracketForm form =
+        brackets < BracketForms.size() ? BracketForms[brackets] : BracketForm{};
+    std::string name(form.Opening);
+    name += first;
+    name += Chosen(SeparatorForms, CoordSeparator);
+    name += second;
+    return name += form.Closing;
 }
 
 std::string BoxName(int column, int row)

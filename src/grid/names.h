@@ -2,18 +2,53 @@
 #pragma once
 
 #include "grid/cell_word.h"
+#include "grid/range.h"
 
+#include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace kelvarine {
 
-// Settings, kept in the configuration file. A value outside its range produces nothing for its
-// element of a name.
-extern std::int32_t ColumnFormat;   // 0 digit, 1 "A", 2 "a", 3 "C1", 4 "c1"; default 1
-extern std::int32_t RowFormat;      // 0 digit, 1 "A", 2 "a", 3 "R1", 4 "r1"; default 0
-extern std::int32_t CoordSeparator; // 0 none, 1 ",", 2 "-", 3 "/"; default 0
-extern std::int32_t CoordBrackets;  // 0 none, 1 "()", 2 "{}", 3 "[]", 4 "<>"; default 3
+// How a line is called: what stands before its sign, and the signs of the nine lines.
+struct LineForm {
+    std::string_view Prefix;
+    std::string_view Signs;
+};
+
+inline constexpr std::string_view DigitSigns = "123456789";
+// The letter I is left out on purpose: beside a digit it reads as a one.
+inline constexpr std::string_view CapitalSigns = "ABCDEFGHJ";
+inline constexpr std::string_view SmallSigns = "abcdefghj";
+
+struct BracketForm {
+    std::string_view Opening;
+    std::string_view Closing;
+};
+
+// The choices, by the number that each has in its setting. They make the settings' ranges, too.
+inline constexpr std::array ColumnForms{LineForm{"", DigitSigns}, LineForm{"", CapitalSigns},
+                                        LineForm{"", SmallSigns}, LineForm{"C", DigitSigns},
+                                        LineForm{"c", DigitSigns}};
+inline constexpr std::array RowForms{LineForm{"", DigitSigns}, LineForm{"", CapitalSigns},
+                                     LineForm{"", SmallSigns}, LineForm{"R", DigitSigns},
+                                     LineForm{"r", DigitSigns}};
+inline constexpr std::array<std::string_view, 4> SeparatorForms{"", ",", "-", "/"};
+inline constexpr std::array BracketForms{BracketForm{"", ""}, BracketForm{"(", ")"},
+                                         BracketForm{"{", "}"}, BracketForm{"[", "]"},
+                                         BracketForm{"<", ">"}};
+
+// Settings, kept in the configuration file: which of the forms is chosen. A value outside its range
+// produces nothing for its element of a name.
+inline constexpr Range ColumnFormatRange = IndicesOf(ColumnForms);
+inline constexpr Range RowFormatRange = IndicesOf(RowForms);
+inline constexpr Range CoordSeparatorRange = IndicesOf(SeparatorForms);
+inline constexpr Range CoordBracketsRange = IndicesOf(BracketForms);
+extern std::int32_t ColumnFormat;   // default 1
+extern std::int32_t RowFormat;      // default 0
+extern std::int32_t CoordSeparator; // default 0
+extern std::int32_t CoordBrackets;  // default 3
 extern Flag CoordRowFirst;          // whether the row part stands first; default false
 
 // Puts the settings above to their defaults.

@@ -1,6 +1,7 @@
 #include "input/menu_table.h"
 
 #include "board/look.h"
+#include "board/margin.h"
 #include "commands/file_commands.h"
 #include "commands/new_games.h"
 #include "commands/restart.h"
@@ -85,14 +86,13 @@ void SetStrongLinks(std::int32_t mode)
 
 void ToggleCoordinates()
 {
-    constexpr std::int32_t roomForText = 28;
     CoordinatesVisible = Flipped(CoordinatesVisible);
-    if (CoordinatesVisible != False && MarginThickness < roomForText) {
+    if (CoordinatesVisible != False && MarginThickness < LeastTextMargin) {
         if (ConfigureOpen != False) {
-            MoveMarginBar(roomForText); // its change does the rest
+            MoveMarginBar(LeastTextMargin); // its change does the rest
             return;
         }
-        MarginThickness = roomForText;
+        MarginThickness = LeastTextMargin;
     }
     ResizeWindow();
 }

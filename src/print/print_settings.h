@@ -2,6 +2,7 @@
 #pragma once
 
 #include "grid/cell_word.h"
+#include "grid/range.h"
 
 #include <cstdint>
 
@@ -18,6 +19,10 @@ extern Flag PrintCentre;   // left and top are worked out; default true
 extern Flag PrintFullPage; // the picture takes the printable area; default false
 
 // The picture's size and its place from the corner of the printable area, in inches.
+// Their ranges are hundredths of inches: no paper is so large, but a picture that is larger than
+// its page stands beyond the page's edge when it is centred.
+inline constexpr Range PrintSizeRange{0, 100000};
+inline constexpr Range PrintPlaceRange{-100000, 100000};
 extern double PrintWidth; // default 5
 extern double PrintHeight;
 extern double PrintLeft; // default 0

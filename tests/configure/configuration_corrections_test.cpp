@@ -7,6 +7,7 @@
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "generator/generator.h"
+#include "generator/patterns.h"
 #include "grid/grid.h"
 #include "grid/names.h"
 #include "logic/technique_masks.h"
@@ -161,33 +162,32 @@ struct RangeCase {
     std::size_t Record;
     std::size_t Element;
     std::int32_t *Setting;
-    std::int32_t Lowest;
-    std::int32_t Highest;
+    Range Values;
     std::int32_t Default;
 };
 
 const std::array RangeCases{
-    RangeCase{1, 1, &PrimaryThickness, 0, 50, 8},
-    RangeCase{1, 2, &SecondaryThickness, 0, 50, 0},
-    RangeCase{1, 3, &BorderThickness, 0, 50, 10},
-    RangeCase{1, 4, &MarginThickness, 0, 100, 30},
-    RangeCase{1, 8, &ColumnFormat, 0, 4, 1},
-    RangeCase{1, 9, &RowFormat, 0, 4, 0},
-    RangeCase{2, 0, &SolutionsFormat, 0, 1, 1},
-    RangeCase{2, 2, &PencilmarkLayout, 0, 1, 1},
-    RangeCase{2, 4, &CurrentTab, 0, 9, 0},
-    RangeCase{2, 7, &GivenTexture, 0, 12, 0},
-    RangeCase{2, 8, &UnknownTexture, 0, 12, 0},
-    RangeCase{2, 9, &GridTexture, 0, 12, 0},
-    RangeCase{4, 2, &RevealPattern, 0, 9, 5},
-    RangeCase{4, 7, &MinGivens, Least, Most, 17},
-    RangeCase{4, 8, &MaxGivens, Least, Most, 40},
-    RangeCase{9, 4, &CoordSeparator, 0, 3, 0},
-    RangeCase{9, 5, &CoordBrackets, 0, 4, 3},
-    RangeCase{11, 4, &SoundVolumes[0], 0, 65280, 32000},
-    RangeCase{11, 5, &SoundVolumes[1], 0, 65280, 32000},
-    RangeCase{11, 6, &SoundVolumes[2], 0, 65280, 32000},
-    RangeCase{11, 7, &SoundVolumes[3], 0, 65280, 32000},
+    RangeCase{1, 1, &PrimaryThickness, LineThicknessRange, 8},
+    RangeCase{1, 2, &SecondaryThickness, LineThicknessRange, 0},
+    RangeCase{1, 3, &BorderThickness, LineThicknessRange, 10},
+    RangeCase{1, 4, &MarginThickness, MarginThicknessRange, 30},
+    RangeCase{1, 8, &ColumnFormat, ColumnFormatRange, 1},
+    RangeCase{1, 9, &RowFormat, RowFormatRange, 0},
+    RangeCase{2, 0, &SolutionsFormat, SolutionsFormatRange, 1},
+    RangeCase{2, 2, &PencilmarkLayout, PencilmarkLayoutRange, 1},
+    RangeCase{2, 4, &CurrentTab, CurrentTabRange, 0},
+    RangeCase{2, 7, &GivenTexture, TextureRange, 0},
+    RangeCase{2, 8, &UnknownTexture, TextureRange, 0},
+    RangeCase{2, 9, &GridTexture, TextureRange, 0},
+    RangeCase{4, 2, &RevealPattern, RevealPatternRange, 5},
+    RangeCase{4, 7, &MinGivens, Range{Least, Most}, 17},
+    RangeCase{4, 8, &MaxGivens, Range{Least, Most}, 40},
+    RangeCase{9, 4, &CoordSeparator, CoordSeparatorRange, 0},
+    RangeCase{9, 5, &CoordBrackets, CoordBracketsRange, 3},
+    RangeCase{11, 4, &SoundVolumes[0], VolumeRange, 32000},
+    RangeCase{11, 5, &SoundVolumes[1], VolumeRange, 32000},
+    RangeCase{11, 6, &SoundVolumes[2], VolumeRange, 32000},
+    RangeCase{11, 7, &SoundVolumes[3], VolumeRange, 32000},
 };
 
 TEST_F(ConfigurationCorrections, NumbersInTheirRangeAreTakenAndOthersAreNot)
@@ -196,16 +196,17 @@ TEST_F(ConfigurationCorrections, NumbersInTheirRangeAreTakenAndOthersAreNot)
         const auto place = [&] {
             return std::to_string(range.Record) + "/" + std::to_string(range.Element);
         };
-        for (const std::int32_t inside :
-             {range.Lowest, range.Highest, std::midpoint(range.Lowest, range.Highest)}) {
+        for (const std::int32_t inside : {range.Values.Least, range.Values.Most,
+                                          std::midpoint(range.Values.Least, range.Values.Most)}) {
             StartWith(range.Record, range.Element, inside);
             EXPECT_EQ(*range.Setting, inside) << place();
         }
-        std::vector<std::int64_t> outside{std::int64_t{range.Lowest} - 1,
-                                          std::int64_t{range.Highest} + 1, 1000000, Least, Most};
+        std::vector<std::int64_t> outside{std::int64_t{range.Values.Least} - 1,
+                                          std::int64_t{range.Values.Most} + 1, 1000000, Least,
+                                          Most};
         for (const std::int64_t value : outside) {
             if (value < Least || value > Most ||
-                (value >= range.Lowest && value <= range.Highest)) {
+                (value >= range.Values.Least && value <= range.Values.Most)) {
                 continue;
             }
             StartWith(range.Record, range.Element, static_cast<std::int32_t>(value));
@@ -277,8 +278,8 @@ TEST_F(ConfigurationCorrections, RandomBytesNeverHarmAStart)
         StartGame(NewGame);
         EXPECT_EQ(GameRating, 6);
         for (const RangeCase &range : RangeCases) {
-            EXPECT_GE(*range.Setting, range.Lowest);
-            EXPECT_LE(*range.Setting, range.Highest);
+            EXPECT_GE(*range.Setting, range.Values.Least);
+            EXPECT_LE(*range.Setting, range.Values.Most);
         }
         const std::string taken = ConfigurationBytes();
         RestartWithSounds();

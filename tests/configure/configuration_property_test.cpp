@@ -5,6 +5,7 @@
 #include "game/event_sound.h"
 #include "game/screens.h"
 #include "generator/generator.h"
+#include "generator/patterns.h"
 #include "grid/colour.h"
 #include "grid/grid.h"
 #include "grid/names.h"
@@ -22,9 +23,9 @@
 namespace kelvarine::testing {
 namespace {
 
-std::int32_t Below(std::int32_t count)
+std::int32_t AnyOf(const Range &range)
 {
-    return *rc::gen::inRange(0, count);
+    return *rc::gen::inRange(range.Least, range.Most + 1);
 }
 
 Flag AnyFlag()
@@ -34,42 +35,42 @@ Flag AnyFlag()
 
 WindowPlace AnyPlace()
 {
-    return {*rc::gen::inRange(-100000, 100000), *rc::gen::inRange(-100000, 100000), Below(8193),
-            Below(8193)};
+    return {*rc::gen::inRange(-100000, 100000), *rc::gen::inRange(-100000, 100000),
+            AnyOf(WindowSideRange), AnyOf(WindowSideRange)};
 }
 
-double AnyInches(std::int32_t lowest)
+double AnyInches(const Range &hundredths)
 {
-    return *rc::gen::inRange(lowest, 100001) / 100.0;
+    return AnyOf(hundredths) / 100.0;
 }
 
 void FillLook()
 {
     for (std::int32_t *thickness : {&PrimaryThickness, &SecondaryThickness, &BorderThickness}) {
-        *thickness = Below(51);
+        *thickness = AnyOf(LineThicknessRange);
     }
-    MarginThickness = Below(101);
+    MarginThickness = AnyOf(MarginThicknessRange);
     for (std::int32_t *texture : {&GivenTexture, &UnknownTexture, &GridTexture}) {
-        *texture = Below(13);
+        *texture = AnyOf(TextureRange);
     }
     for (Colour &colour : ColourTable) {
-        colour = static_cast<Colour>(Below(0x1000000));
+        colour = static_cast<Colour>(*rc::gen::inRange(0, 0x1000000));
     }
     for (Flag *flag :
          {&GivenCells3D, &UnknownCells3D, &SelectedCells3D, &PrimaryGrid3D, &SecondaryGrid3D,
           &PencilmarkLines, &ToolbarVisible, &ToolTipsVisible, &CoordinatesVisible}) {
         *flag = AnyFlag();
     }
-    PencilmarkLayout = Below(2);
-    StrongLinkMode = Below(3);
+    PencilmarkLayout = AnyOf(PencilmarkLayoutRange);
+    StrongLinkMode = AnyOf(StrongLinkModeRange);
 }
 
 void FillNames()
 {
-    ColumnFormat = Below(5);
-    RowFormat = Below(5);
-    CoordSeparator = Below(4);
-    CoordBrackets = Below(5);
+    ColumnFormat = AnyOf(ColumnFormatRange);
+    RowFormat = AnyOf(RowFormatRange);
+    CoordSeparator = AnyOf(CoordSeparatorRange);
+    CoordBrackets = AnyOf(CoordBracketsRange);
     CoordRowFirst = AnyFlag();
 }
 
@@ -82,23 +83,23 @@ void FillLogic()
         LevelTable.at(level) = *rc::gen::arbitrary<std::uint32_t>();
     }
     // As every table of the player's own.
-    LevelTable.at(static_cast<std::size_t>(1 + Below(5))) |= BitTable[1];
-    LevelTable.at(static_cast<std::size_t>(1 + Below(5))) |= BitTable[2];
+    LevelTable.at(static_cast<std::size_t>(*rc::gen::inRange(1, 6))) |= BitTable[1];
+    LevelTable.at(static_cast<std::size_t>(*rc::gen::inRange(1, 6))) |= BitTable[2];
     LevelTable[5] |= TrialBit;
-    MaxSinglesLinks = Below(82);
-    MaxRPLinks = Below(82);
-    MaxXYLinks = Below(82);
+    MaxSinglesLinks = AnyOf(LinkLimitRange);
+    MaxRPLinks = AnyOf(LinkLimitRange);
+    MaxXYLinks = AnyOf(LinkLimitRange);
     IncludeSingles = AnyFlag();
 }
 
 void FillGenerator()
 {
-    RevealPattern = Below(10);
+    RevealPattern = AnyOf(RevealPatternRange);
     FillOnStart = AnyFlag();
     SolveOnStart = AnyFlag();
     DifficultySelection = *rc::gen::arbitrary<std::uint32_t>();
-    MinGivens = Below(100);
-    MaxGivens = Below(100);
+    MinGivens = *rc::gen::inRange(0, 100);
+    MaxGivens = *rc::gen::inRange(0, 100);
 }
 
 void FillScreens()
@@ -111,9 +112,9 @@ void FillScreens()
     ConfigurePlace = AnyPlace();
     SolutionsPlace = AnyPlace();
     FileDialogPlace = AnyPlace();
-    StatisticsPlace = {Below(5000), Below(5000), 0, 0};
-    CurrentTab = Below(10);
-    SolutionsFormat = Below(2);
+    StatisticsPlace = {*rc::gen::inRange(0, 5000), *rc::gen::inRange(0, 5000), 0, 0};
+    CurrentTab = AnyOf(CurrentTabRange);
+    SolutionsFormat = AnyOf(SolutionsFormatRange);
 }
 
 void FillPrint()
@@ -122,10 +123,10 @@ void FillPrint()
     PrintCentre = AnyFlag();
     PrintFullPage = AnyFlag();
     PrintIncludeSolutions = AnyFlag();
-    PrintWidth = AnyInches(0);
-    PrintHeight = AnyInches(0);
-    PrintLeft = AnyInches(-100000);
-    PrintTop = AnyInches(-100000);
+    PrintWidth = AnyInches(PrintSizeRange);
+    PrintHeight = AnyInches(PrintSizeRange);
+    PrintLeft = AnyInches(PrintPlaceRange);
+    PrintTop = AnyInches(PrintPlaceRange);
 }
 
 void SetSoundLists()
@@ -137,11 +138,11 @@ void SetSoundLists()
 
 void FillSound()
 {
-    AnnouncerSound = Below(2);
-    AlertSound = Below(3);
+    AnnouncerSound = AnyOf(IndicesOf(AnnouncerFiles));
+    AlertSound = AnyOf(IndicesOf(AlertFiles));
     WinSound = 0;
     for (std::int32_t &volume : SoundVolumes) {
-        volume = Below(65281);
+        volume = AnyOf(VolumeRange);
     }
     SoundDisabled = AnyFlag();
 }

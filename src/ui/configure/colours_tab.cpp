@@ -31,7 +31,7 @@ constexpr QSize PaletteSize{148, 228};
 constexpr int TilesBelowPalette = 11;
 constexpr int TilesIndent = 2;
 constexpr int TileColumns = 3;
-constexpr int Tiles = 12; // that can be chosen; the strip holds one more
+constexpr int Tiles = TextureRange.Most; // the last tile of the strip cannot be chosen
 constexpr BarSteps ColourSteps{255, 1, 10};
 constexpr std::array<const char *, 3> BarCaptions{"Red", "Green", "Blue"};
 

@@ -29,13 +29,13 @@ struct ThicknessRow {
 
 constexpr std::array ThicknessRows{
     ThicknessRow{"Primary Grid Lines", "hsbPrimGridThick", "lblPrimGridThick", &PrimaryThickness,
-                 BarSteps{50, 2, 10}, "chk3DPrimGrid", &PrimaryGrid3D},
+                 BarSteps{LineThicknessRange.Most, 2, 10}, "chk3DPrimGrid", &PrimaryGrid3D},
     ThicknessRow{"Secondary Grid Lines", "hsbSecGridThick", "lblSecGridThick", &SecondaryThickness,
-                 BarSteps{50, 1, 10}, "chk3DSecGrid", &SecondaryGrid3D},
+                 BarSteps{LineThicknessRange.Most, 1, 10}, "chk3DSecGrid", &SecondaryGrid3D},
     ThicknessRow{"Exterior 3D Border", "hsbThicknessExt3dBorder", "lblThicknessExt3DBorder",
-                 &BorderThickness, BarSteps{50, 1, 10}, "", nullptr},
+                 &BorderThickness, BarSteps{LineThicknessRange.Most, 1, 10}, "", nullptr},
     ThicknessRow{"Exterior Margins", "hsbExtMarginThickness", "lblExtMarginThickness",
-                 &MarginThickness, BarSteps{100, 1, 10}, "", nullptr},
+                 &MarginThickness, BarSteps{MarginThicknessRange.Most, 1, 10}, "", nullptr},
 };
 
 struct EffectRow {
@@ -49,8 +49,6 @@ constexpr std::array EffectRows{
     EffectRow{"chk3DUnknownCells", " Unknown cells", &UnknownCells3D},
     EffectRow{"chk3DSelectedCells", " Selected cells", &SelectedCells3D},
 };
-
-constexpr std::array<std::string_view, 2> LayoutCaptions{" Variable", " 3 X 3"};
 
 QCheckBox *MakeEffect(QWidget *parent, std::string_view name, std::string_view caption,
                       Flag *setting)

@@ -23,9 +23,6 @@ namespace {
 
 constexpr QPoint MenuOffset{100, 16}; // of the window, and below the top of the label
 
-// What the box of a limit shows that nothing reads.
-constexpr int DefaultLimit = 81;
-
 // The entries of the menu by level, from easy.
 constexpr std::array LevelEntries{"mnuEasy", "mnuMedium", "mnuHard", "mnuVeryhard", "mnuExtreme"};
 static_assert(LevelEntries.size() == Levels);
@@ -132,7 +129,7 @@ void LogicPanel::AddLimit(const TechniqueRow &technique)
     std::int32_t *limit = technique.LinkLimit;
     auto *box = MakeNumberBox(
         this, TextOf(technique.LimitBox), SpokenText(technique.Caption) + ": max # links",
-        limit != nullptr ? *limit : DefaultLimit, [limit](std::int32_t links) {
+        limit != nullptr ? *limit : LinkLimitRange.Most, [limit](std::int32_t links) {
             if (limit != nullptr) {
                 SetLinkLimit(*limit, links);
             }

@@ -19,8 +19,7 @@ namespace kelvarine {
 
 namespace {
 
-constexpr BarSteps VolumeSteps{255, 1, 20};
-constexpr int Volumes = 4;
+constexpr BarSteps VolumeSteps{VolumeBarMost, 1, 20};
 
 // What one event has on the tab. A row without a list of files has one that stays empty.
 struct SoundRow {
@@ -120,10 +119,10 @@ QWidget *MakeSoundTab(QWidget *parent)
 void ShowVolumes(const QWidget &panel, bool readable)
 {
     const QScopedValueRollback loading(LoadingControls, true);
-    for (int k = 0; k < Volumes; ++k) {
-        auto *bar = panel.findChild<QScrollBar *>(IndexedName("hsbVolume", k));
+    for (std::size_t k = 0; k < VolumeCount; ++k) {
+        auto *bar = panel.findChild<QScrollBar *>(IndexedName("hsbVolume", static_cast<int>(k)));
         bar->setEnabled(readable);
-        bar->setValue(readable ? VolumeBar(static_cast<std::size_t>(k)) : 0);
+        bar->setValue(readable ? VolumeBar(k) : 0);
     }
 }
 

@@ -1,6 +1,8 @@
 // frmSolutions: the listed solutions as text, beside the board.
 #pragma once
 
+#include "game/screens.h"
+
 #include <QDialog>
 
 #include <array>
@@ -39,7 +41,7 @@ private:
 
     QLabel *lblNumSolutions;
     QPlainTextEdit *txtSolutions;
-    std::array<QRadioButton *, 2> formats;
+    std::array<QRadioButton *, CountOf(SolutionsFormatRange)> formats;
     QPushButton *cmdSave;
 };
 
