@@ -190,6 +190,7 @@ TEST_F(HelpPages, PastedPositionOfATechniquePageShowsThatTechnique)
         SCOPED_TRACE(row.HelpPage);
         const Program program;
         const QString page = Page(name + QStringLiteral(".html"));
+        ASSERT_FALSE(page.isEmpty()) << "the technique has no page";
         SetClipboardText(PositionOf(page.toStdString()));
         mnuGameClipboard();
         EXPECT_GE(GameRating, 1);
