@@ -1,4 +1,6 @@
-// Texts of the engine as the toolkit takes them.
+// Texts as the toolkit takes them. They are fixed English and come from here alone: a literal is
+// handed over as it stands, and Text makes the toolkit's text of any other one, or of a literal
+// that is put together with others.
 #pragma once
 
 #include <QString>

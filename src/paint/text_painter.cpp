@@ -1,6 +1,7 @@
 #include "paint/text_painter.h"
 
 #include "grid/colour.h"
+#include "paint/text.h"
 
 #include <QFont>
 #include <QGlyphRun>
@@ -22,11 +23,6 @@ Face FaceOf(const QRawFont &font)
     const int ascent = static_cast<int>(std::lround(font.ascent()));
     const int height = ascent + static_cast<int>(std::lround(font.descent()));
     return {font, ascent, height};
-}
-
-QString Letters(std::string_view text)
-{
-    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 // ---- Cache of digits -----------------------------------------------------------------------
@@ -96,7 +92,7 @@ int TextWidth(const Face &face, std::string_view text)
 {
     double width = 0;
     for (const QPointF &advance :
-         face.Font.advancesForGlyphIndexes(face.Font.glyphIndexesForString(Letters(text)))) {
+         face.Font.advancesForGlyphIndexes(face.Font.glyphIndexesForString(Text(text)))) {
         width += advance.x();
     }
     return static_cast<int>(std::lround(width));
@@ -105,7 +101,7 @@ int TextWidth(const Face &face, std::string_view text)
 void WriteText(QPainter &painter, const Face &face, Point place, std::string_view text,
                Colour colour)
 {
-    const QVector<quint32> glyphs = face.Font.glyphIndexesForString(Letters(text));
+    const QVector<quint32> glyphs = face.Font.glyphIndexesForString(Text(text));
     QVector<QPointF> places;
     QPointF pen;
     for (const QPointF &advance : face.Font.advancesForGlyphIndexes(glyphs)) {

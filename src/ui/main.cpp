@@ -11,9 +11,10 @@
 int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("kelvarine"));
+    QApplication::setApplicationName("kelvarine");
+    // In these letters the version is looked for in the finished program.
     QApplication::setApplicationVersion(QStringLiteral(KELVARINE_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("kelvarine"));
+    QApplication::setDesktopFileName("kelvarine");
     QApplication::setWindowIcon(kelvarine::ProgramIcon());
     kelvarine::SetDefaults();
     const QStringList arguments = QApplication::arguments();

@@ -2,6 +2,7 @@
 
 #include "configure/look_settings.h"
 #include "grid/colour.h"
+#include "paint/text.h"
 #include "ui/controls/colour_swatches.h"
 #include "ui/controls/configure_controls.h"
 #include "ui/controls/palette_picture.h"
@@ -108,7 +109,7 @@ QLayout *ColoursPanel::MakeOptionColumn()
     grid->setColumnMinimumWidth(0, OptionWidth);
     for (std::size_t k = 0; k < ColourCaptions.size(); ++k) {
         const int row = static_cast<int>(k);
-        auto *option = new QRadioButton(TextOf(ColourCaptions[k]), this);
+        auto *option = new QRadioButton(Text(ColourCaptions[k]), this);
         option->setObjectName(IndexedName("optTableColors", row));
         option->setAccessibleName(SpokenText(ColourCaptions[k]));
         option->setChecked(k == ColourIndex);
@@ -153,15 +154,15 @@ QLayout *ColoursPanel::MakeBars()
     auto *grid = new QGridLayout;
     for (std::size_t k = 0; k < bars.size(); ++k) {
         const int row = static_cast<int>(k);
-        bars[k] = MakeBar(this, IndexedName("hsbColor", row), TextOf(BarCaptions[k]), ColourSteps,
-                          0, [this](int /*value*/) { TakeBars(); });
+        bars[k] = MakeBar(this, IndexedName("hsbColor", row), Text(BarCaptions[k]), ColourSteps, 0,
+                          [this](int /*value*/) { TakeBars(); });
         auto *value = new QLabel("0", this);
         value->setObjectName(IndexedName("lblColor", row));
         value->setMinimumWidth(value->fontMetrics().horizontalAdvance("000"));
         value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         connect(bars[k], &QScrollBar::valueChanged, value,
                 [value](int shown) { value->setText(QString::number(shown)); });
-        grid->addWidget(new QLabel(TextOf(BarCaptions[k]), this), row, 0);
+        grid->addWidget(new QLabel(Text(BarCaptions[k]), this), row, 0);
         grid->addWidget(bars[k], row, 1);
         grid->addWidget(value, row, 2);
     }

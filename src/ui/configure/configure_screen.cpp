@@ -3,6 +3,7 @@
 #include "game/screens.h"
 #include "grid/grid.h"
 #include "outside/screens.h"
+#include "paint/text.h"
 #include "ui/configure/colours_tab.h"
 #include "ui/configure/coordinates_tab.h"
 #include "ui/configure/grid_tab.h"
@@ -63,7 +64,7 @@ std::array<QString, TabCount> TabTexts()
 {
     std::array<QString, TabCount> texts;
     std::ranges::transform(TabRows, texts.begin(),
-                           [](const TabRow &row) { return TextOf(row.Text); });
+                           [](const TabRow &row) { return Text(row.Text); });
     return texts;
 }
 
@@ -100,11 +101,11 @@ ConfigureScreen::ConfigureScreen(QWidget *parent)
 {
     const QScopedValueRollback loading(LoadingControls, true);
     setObjectName("frmConfigure");
-    setWindowTitle(tr("Configure"));
+    setWindowTitle("Configure");
     setAttribute(Qt::WA_DeleteOnClose);
     container->setObjectName("picTabContainer");
     scrollBar->setObjectName("vsbTabContainer");
-    scrollBar->setAccessibleName(tr("Scroll"));
+    scrollBar->setAccessibleName("Scroll");
     scrollBar->setRange(0, 500);
     scrollBar->setSingleStep(50);
     scrollBar->setPageStep(140);
@@ -116,7 +117,7 @@ ConfigureScreen::ConfigureScreen(QWidget *parent)
     QSize size = PanelDesign;
     for (std::size_t tab = 0; tab < TabRows.size(); ++tab) {
         panels[tab] = TabRows[tab].Make(container);
-        panels[tab]->setObjectName(TextOf(TabRows[tab].PanelName));
+        panels[tab]->setObjectName(Text(TabRows[tab].PanelName));
         panels[tab]->hide();
         size = size.expandedTo(panels[tab]->minimumSizeHint());
     }

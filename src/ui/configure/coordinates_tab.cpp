@@ -2,6 +2,7 @@
 
 #include "configure/naming_settings.h"
 #include "grid/names.h"
+#include "paint/text.h"
 #include "ui/controls/configure_controls.h"
 
 #include <QGroupBox>
@@ -24,7 +25,7 @@ constexpr int LargestLetters = 15; // pixels; smaller when the names are long
 
 QString NameOf(int column, int row)
 {
-    return QString::fromStdString(CellName(column, row));
+    return Text(CellName(column, row));
 }
 
 class NameSample : public QWidget {
@@ -98,7 +99,7 @@ QWidget *MakeCoordinatesTab(QWidget *parent)
                 set(index);
                 sample->update();
             });
-        box->setObjectName("frame" + TextOf(frame));
+        box->setObjectName("frame" + Text(frame));
         frames->addWidget(box, 1);
     };
     add("optColumnFormat", "Column", ColumnCaptions, ColumnFormat, SetColumnFormat);

@@ -1,6 +1,7 @@
 #include "ui/configure/grid_tab.h"
 
 #include "configure/look_settings.h"
+#include "paint/text.h"
 #include "ui/controls/configure_controls.h"
 
 #include <QCheckBox>
@@ -53,30 +54,30 @@ constexpr std::array EffectRows{
 QCheckBox *MakeEffect(QWidget *parent, std::string_view name, std::string_view caption,
                       Flag *setting)
 {
-    return MakeCheckBox(parent, TextOf(name), caption, *setting != False,
+    return MakeCheckBox(parent, Text(name), caption, *setting != False,
                         [setting](bool on) { SetLookFlag(*setting, on); });
 }
 
 QWidget *MakeThickness(QWidget *parent, const ThicknessRow &row)
 {
-    auto *frame = new QGroupBox(TextOf(row.Frame), parent);
+    auto *frame = new QGroupBox(Text(row.Frame), parent);
     auto *grid = new QGridLayout(frame);
     auto *bar =
-        MakeBar(frame, TextOf(row.Bar), TextOf(row.Frame) + " thickness", row.Steps, *row.Setting,
+        MakeBar(frame, Text(row.Bar), Text(row.Frame) + " thickness", row.Steps, *row.Setting,
                 [setting = row.Setting](int pixels) { SetThickness(*setting, pixels); });
     auto *value = new QLabel(QString::number(bar->value()), frame);
-    value->setObjectName(TextOf(row.Label));
+    value->setObjectName(Text(row.Label));
     value->setMinimumWidth(value->fontMetrics().horizontalAdvance("000"));
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     // The label follows the bar whoever moves it.
     QObject::connect(bar, &QScrollBar::valueChanged, value,
                      [value](int pixels) { value->setText(QString::number(pixels)); });
-    grid->addWidget(new QLabel(TextOf("Thickness"), frame), 0, 0);
+    grid->addWidget(new QLabel("Thickness", frame), 0, 0);
     grid->addWidget(value, 0, 1);
     grid->addWidget(bar, 1, 0, 1, 2);
     if (row.Effect != nullptr) {
         QCheckBox *effect = MakeEffect(frame, row.EffectName, " 3D effect", row.Effect);
-        effect->setAccessibleName(TextOf(row.Frame) + " 3D effect");
+        effect->setAccessibleName(Text(row.Frame) + " 3D effect");
         grid->addWidget(effect, 2, 0, 1, 2);
     }
     grid->setRowStretch(3, 1);
@@ -85,7 +86,7 @@ QWidget *MakeThickness(QWidget *parent, const ThicknessRow &row)
 
 QWidget *MakeEffects(QWidget *parent)
 {
-    auto *frame = new QGroupBox(TextOf("3D effects"), parent);
+    auto *frame = new QGroupBox("3D effects", parent);
     auto *column = new QVBoxLayout(frame);
     for (const EffectRow &row : EffectRows) {
         column->addWidget(MakeEffect(frame, row.Name, row.Caption, row.Setting));
@@ -100,7 +101,7 @@ QWidget *MakePencilmarks(QWidget *parent)
                                    PencilmarkLayout, SetPencilmarkLayout);
     auto *column = qobject_cast<QVBoxLayout *>(frame->layout());
     column->insertWidget(static_cast<int>(LayoutCaptions.size()),
-                         MakeCheckBox(frame, TextOf("chkPencilmarkGridLines"), " Use lines",
+                         MakeCheckBox(frame, "chkPencilmarkGridLines", " Use lines",
                                       PencilmarkLines != False,
                                       [](bool on) { SetLookFlag(PencilmarkLines, on); }));
     return frame;
@@ -128,13 +129,13 @@ void ShowPresetOnGridTab(const QWidget &screen)
 {
     const QScopedValueRollback showing(ShowingValues, true);
     for (const ThicknessRow &row : ThicknessRows) {
-        screen.findChild<QScrollBar *>(TextOf(row.Bar))->setValue(*row.Setting);
+        screen.findChild<QScrollBar *>(Text(row.Bar))->setValue(*row.Setting);
         if (row.Effect != nullptr) {
-            screen.findChild<QCheckBox *>(TextOf(row.EffectName))->setChecked(*row.Effect != False);
+            screen.findChild<QCheckBox *>(Text(row.EffectName))->setChecked(*row.Effect != False);
         }
     }
     for (const EffectRow &row : EffectRows) {
-        screen.findChild<QCheckBox *>(TextOf(row.Name))->setChecked(*row.Setting != False);
+        screen.findChild<QCheckBox *>(Text(row.Name))->setChecked(*row.Setting != False);
     }
 }
 

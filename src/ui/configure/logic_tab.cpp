@@ -3,6 +3,7 @@
 #include "configure/logic_settings.h"
 #include "grid/grid.h"
 #include "logic/technique_table.h"
+#include "paint/text.h"
 #include "ui/controls/configure_controls.h"
 #include "ui/controls/level_label.h"
 
@@ -68,9 +69,8 @@ private:
 };
 
 LogicPanel::LogicPanel(QWidget *parent)
-    : QWidget(parent), grid(new QGridLayout),
-      requireMessage(new QLabel(TextOf(" * required"), this)),
-      ratings(new QMenu(TextOf("Ratings"), this))
+    : QWidget(parent), grid(new QGridLayout), requireMessage(new QLabel(" * required", this)),
+      ratings(new QMenu("Ratings", this))
 {
     auto *rows = new QVBoxLayout(this);
     rows->setSpacing(6);
@@ -92,8 +92,8 @@ LogicPanel::LogicPanel(QWidget *parent)
 
 void LogicPanel::AddHeads()
 {
-    grid->addWidget(new QLabel(TextOf("Solve"), this), 0, SolveColumn, Qt::AlignHCenter);
-    grid->addWidget(new QLabel(TextOf("Alert"), this), 0, AlertColumn);
+    grid->addWidget(new QLabel("Solve", this), 0, SolveColumn, Qt::AlignHCenter);
+    grid->addWidget(new QLabel("Alert", this), 0, AlertColumn);
 }
 
 void LogicPanel::AddTechnique(const TechniqueRow &technique)
@@ -128,7 +128,7 @@ void LogicPanel::AddLimit(const TechniqueRow &technique)
 {
     std::int32_t *limit = technique.LinkLimit;
     auto *box = MakeNumberBox(
-        this, TextOf(technique.LimitBox), SpokenText(technique.Caption) + ": max # links",
+        this, Text(technique.LimitBox), SpokenText(technique.Caption) + ": max # links",
         limit != nullptr ? *limit : LinkLimitRange.Most, [limit](std::int32_t links) {
             if (limit != nullptr) {
                 SetLinkLimit(*limit, links);
@@ -138,7 +138,7 @@ void LogicPanel::AddLimit(const TechniqueRow &technique)
         box->hide();
         return;
     }
-    auto *label = new QLabel(TextOf("max # links:"), this);
+    auto *label = new QLabel("max # links:", this);
     label->setBuddy(box);
     box->setFixedWidth(box->fontMetrics().horizontalAdvance("00000"));
     box->setFixedHeight(box->fontMetrics().height() + 4);
@@ -156,10 +156,10 @@ void LogicPanel::AddFoot(QVBoxLayout *rows)
     grid->addWidget(requireMessage, 0, LevelColumn);
     // Room for a star in front of the longest word, so that the column never grows.
     LevelLabel longest(this, {});
-    longest.setText(TextOf(RequiredMark) + TextOf(WordsOfRating(RatedVeryHard).Capital));
+    longest.setText(Text(RequiredMark) + Text(WordsOfRating(RatedVeryHard).Capital));
     grid->setColumnMinimumWidth(LevelColumn, longest.sizeHint().width());
     rows->addWidget(MakeSelectors());
-    rows->addWidget(MakeCheckBox(this, TextOf("chkIncludeSingles"),
+    rows->addWidget(MakeCheckBox(this, "chkIncludeSingles",
                                  " Include singles in naked && hidden pairs/triples/quads",
                                  IncludeSingles != False, SetIncludeSingles));
 }
@@ -170,12 +170,12 @@ QWidget *LogicPanel::MakeSelectors()
     auto *selectors = new QGridLayout(part);
     selectors->setContentsMargins(0, 0, 0, 0);
     selectors->setVerticalSpacing(2);
-    selectors->addWidget(new QLabel(TextOf("Select all"), part), 0, 0, 1, 2);
-    selectors->addWidget(new QLabel(TextOf("De-select all"), part), 0, 3, 1, 2);
+    selectors->addWidget(new QLabel("Select all", part), 0, 0, 1, 2);
+    selectors->addWidget(new QLabel("De-select all", part), 0, 3, 1, 2);
     const auto add = [&](int column, const char *name, const char *caption, const char *spoken,
                          const std::function<void()> &act) {
-        QPushButton *button = MakeButton(part, TextOf(name), caption, act);
-        button->setAccessibleName(TextOf(spoken));
+        QPushButton *button = MakeButton(part, Text(name), caption, act);
+        button->setAccessibleName(Text(spoken));
         selectors->addWidget(button, 1, column);
     };
     add(0, "cmdSelectAllSolves", "Solve", "Select all for solving",
@@ -209,14 +209,14 @@ void LogicPanel::BuildMenu()
     std::int32_t level = 0;
     for (const char *name : LevelEntries) {
         ++level;
-        QAction *action = ratings->addAction(TextOf(WordsOfRating(level).Capital));
-        action->setObjectName(TextOf(name));
+        QAction *action = ratings->addAction(Text(WordsOfRating(level).Capital));
+        action->setObjectName(Text(name));
         connect(action, &QAction::triggered, this, [this, level] {
             SetLevel(menuRow, level);
             ShowLevel(menuRow);
         });
     }
-    QAction *require = ratings->addAction(TextOf("Require (*)"));
+    QAction *require = ratings->addAction("Require (*)");
     require->setObjectName("mnuRequire");
     connect(require, &QAction::triggered, this, [this] {
         ToggleRequired(menuRow);

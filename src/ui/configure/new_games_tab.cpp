@@ -3,6 +3,7 @@
 #include "configure/new_game_settings.h"
 #include "generator/generator.h"
 #include "generator/patterns.h"
+#include "paint/text.h"
 #include "ui/controls/configure_controls.h"
 
 #include <QCheckBox>
@@ -30,7 +31,7 @@ void TakeDifficulties(const QWidget *frame)
 
 QWidget *MakeDifficulties(QWidget *parent)
 {
-    auto *frame = new QGroupBox(TextOf("Difficulty"), parent);
+    auto *frame = new QGroupBox("Difficulty", parent);
     auto *column = new QVBoxLayout(frame);
     for (int level = 1; level <= Levels; ++level) {
         column->addWidget(MakeCheckBox(frame, IndexedName("chkDifficulty", level),
@@ -44,8 +45,8 @@ void AddNumberBox(QGridLayout *grid, int row, const char *name, const char *capt
                   std::int32_t &setting)
 {
     QWidget *parent = grid->parentWidget();
-    auto *label = new QLabel(TextOf(caption), parent);
-    QLineEdit *box = MakeNumberBox(parent, TextOf(name), TextOf(caption), setting,
+    auto *label = new QLabel(Text(caption), parent);
+    QLineEdit *box = MakeNumberBox(parent, Text(name), Text(caption), setting,
                                    [&setting](std::int32_t number) { setting = number; });
     box->setMaximumWidth(box->fontMetrics().horizontalAdvance("0000000"));
     label->setBuddy(box);
@@ -74,7 +75,7 @@ QWidget *MakePatterns(QWidget *parent)
 
 QWidget *MakeStartFlag(QWidget *parent, const char *name, const char *caption, Flag &setting)
 {
-    return MakeCheckBox(parent, TextOf(name), caption, setting != False,
+    return MakeCheckBox(parent, Text(name), caption, setting != False,
                         [&setting](bool on) { setting = on ? True : False; });
 }
 

@@ -1,6 +1,7 @@
 #include "ui/configure/preset_tab.h"
 
 #include "configure/presets.h"
+#include "paint/text.h"
 #include "ui/configure/grid_tab.h"
 #include "ui/controls/configure_controls.h"
 #include "ui/controls/preset_pictures.h"
@@ -31,7 +32,7 @@ public:
           mark(std::move(markIt))
     {
         setObjectName(IndexedName("picPresetGrid", number));
-        setAccessibleName(QStringLiteral("Preset grid %1").arg(number + 1));
+        setAccessibleName(Text("Preset grid %1").arg(number + 1));
         setFixedSize(PictureSide, PictureSide);
         setFocusPolicy(Qt::StrongFocus);
         setAttribute(Qt::WA_OpaquePaintEvent);

@@ -1,6 +1,7 @@
 #include "ui/configure/sound_tab.h"
 
 #include "configure/sound_settings.h"
+#include "paint/text.h"
 #include "ui/controls/configure_controls.h"
 
 #include <QAudioDevice>
@@ -53,9 +54,9 @@ QStringList Entries(const SoundList *files)
 {
     QStringList entries;
     if (files != nullptr) {
-        entries << TextOf(NoSoundCaption);
+        entries << Text(NoSoundCaption);
         for (std::size_t k = 1; k < files->size(); ++k) {
-            entries << TextOf(SoundCaption((*files)[k]));
+            entries << Text(SoundCaption((*files)[k]));
         }
     }
     return entries;
@@ -64,15 +65,15 @@ QStringList Entries(const SoundList *files)
 void AddRow(QGridLayout *grid, int row, const SoundRow &sound, bool visible)
 {
     QWidget *parent = grid->parentWidget();
-    const QString spoken = TextOf(sound.Caption);
+    const QString spoken = Text(sound.Caption);
     auto *list =
-        MakeList(parent, TextOf(sound.List), spoken + " sound", Entries(sound.Files),
+        MakeList(parent, Text(sound.List), spoken + " sound", Entries(sound.Files),
                  sound.Setting != nullptr ? *sound.Setting : 0, [setting = sound.Setting](int k) {
                      if (setting != nullptr) {
                          *setting = k;
                      }
                  });
-    auto *button = MakeButton(parent, TextOf(sound.Button), sound.Caption, sound.Test);
+    auto *button = MakeButton(parent, Text(sound.Button), sound.Caption, sound.Test);
     auto *bar = MakeBar(parent, IndexedName("hsbVolume", static_cast<int>(sound.Volume)),
                         spoken + " volume", VolumeSteps, 0,
                         [volume = sound.Volume](int value) { SetVolume(volume, value); });
@@ -96,7 +97,7 @@ QWidget *MakeSoundTab(QWidget *parent)
     auto *grid = new QGridLayout(part);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setVerticalSpacing(12);
-    grid->addWidget(new QLabel(TextOf("Volume"), part), 0, 2, Qt::AlignHCenter);
+    grid->addWidget(new QLabel("Volume", part), 0, 2, Qt::AlignHCenter);
     int row = 1;
     for (const SoundRow &sound : SoundRows) {
         AddRow(grid, row++, sound, true);
@@ -108,7 +109,7 @@ QWidget *MakeSoundTab(QWidget *parent)
     grid->setColumnStretch(2, 1);
     rows->addWidget(part);
     rows->addSpacing(16);
-    rows->addWidget(MakeCheckBox(panel, TextOf("chkDisableAllSound"), " Disable all game sounds",
+    rows->addWidget(MakeCheckBox(panel, "chkDisableAllSound", " Disable all game sounds",
                                  SoundDisabled != False,
                                  [](bool on) { SoundDisabled = on ? True : False; }));
     rows->addStretch();

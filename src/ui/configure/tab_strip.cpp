@@ -71,7 +71,7 @@ TabStrip::TabStrip(QWidget *parent, std::array<QString, TabCount> texts,
 {
     InstallTabStripAccess();
     setFocusPolicy(Qt::TabFocus);
-    setAccessibleName(tr("Tabs"));
+    setAccessibleName("Tabs");
 }
 
 const QString &TabStrip::TextOfTab(int tab) const

@@ -3,6 +3,7 @@
 #include "configure/look_settings.h"
 #include "grid/colour.h"
 #include "paint/frame_painter.h"
+#include "paint/text.h"
 #include "paint/texture_painter.h"
 #include "ui/controls/configure_controls.h"
 
@@ -66,7 +67,7 @@ ColourSwatch::ColourSwatch(QWidget *parent, std::size_t colour)
     : PressButton(parent), colourIndex(colour)
 {
     setObjectName(IndexedName("swatch", static_cast<int>(colour)));
-    setAccessibleName("Take the color of" + TextOf(" ") + SpokenText(ColourCaptions[colour]));
+    setAccessibleName(Text("Take the color of ") + SpokenText(ColourCaptions[colour]));
     setFixedWidth(SwatchWidth);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     setFocusPolicy(Qt::StrongFocus);
@@ -86,7 +87,7 @@ void ColourSwatch::paintEvent(QPaintEvent * /*event*/)
 TextureTile::TextureTile(QWidget *parent, int tile) : PressButton(parent), tileNumber(tile)
 {
     setObjectName(IndexedName("tile", tile));
-    setAccessibleName(QStringLiteral("Texture %1").arg(tile));
+    setAccessibleName(Text("Texture %1").arg(tile));
     setFixedSize(TileWidth, TileHeight);
     setFocusPolicy(Qt::StrongFocus);
 }

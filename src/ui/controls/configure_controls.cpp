@@ -2,6 +2,7 @@
 
 #include "configure/box_number.h"
 #include "grid/grid.h"
+#include "paint/text.h"
 #include "ui/controls/digit_box.h"
 #include "ui/controls/focus_bar.h"
 
@@ -23,37 +24,20 @@ bool ChangesCount()
     return !LoadingControls && !ShowingValues && SearchActive == False;
 }
 
-QString TextOf(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 QString IndexedName(std::string_view name, int index)
 {
-    return TextOf(name) + QString::number(index);
+    return Text(name) + QString::number(index);
 }
 
 QString SpokenText(std::string_view caption)
 {
-    return TextOf(caption).trimmed().replace(QStringLiteral("&&"), QStringLiteral("&"));
+    return Text(caption).trimmed().replace(Text("&&"), Text("&"));
 }
-
-namespace {
-
-template <typename Control>
-Control *Named(Control *control, const QString &name, const QString &spoken)
-{
-    control->setObjectName(name);
-    control->setAccessibleName(spoken);
-    return control;
-}
-
-} // namespace
 
 QCheckBox *MakeCheckBox(QWidget *parent, const QString &name, std::string_view caption, bool on,
                         const std::function<void(bool)> &change)
 {
-    auto *box = Named(new QCheckBox(TextOf(caption), parent), name, SpokenText(caption));
+    auto *box = Named(new QCheckBox(Text(caption), parent), name, SpokenText(caption));
     box->setChecked(on);
     QObject::connect(box, &QCheckBox::toggled, box, [change](bool checked) {
         if (ChangesCount()) {
@@ -66,7 +50,7 @@ QCheckBox *MakeCheckBox(QWidget *parent, const QString &name, std::string_view c
 QPushButton *MakeButton(QWidget *parent, const QString &name, std::string_view caption,
                         const std::function<void()> &act)
 {
-    auto *button = Named(new QPushButton(TextOf(caption), parent), name, SpokenText(caption));
+    auto *button = Named(new QPushButton(Text(caption), parent), name, SpokenText(caption));
     button->setAutoDefault(false);
     QObject::connect(button, &QPushButton::clicked, button, [act] {
         if (ChangesCount()) {
@@ -109,13 +93,13 @@ QGroupBox *MakeOptions(QWidget *parent, std::string_view name, std::string_view 
                        std::span<const std::string_view> captions, std::int32_t current,
                        const std::function<void(std::int32_t)> &change)
 {
-    auto *box = new QGroupBox(TextOf(frame), parent);
+    auto *box = new QGroupBox(Text(frame), parent);
     auto *column = new QVBoxLayout(box);
     auto *group = new QButtonGroup(box);
     for (int k = 0; k < static_cast<int>(captions.size()); ++k) {
         const std::string_view caption = captions[static_cast<std::size_t>(k)];
-        auto *option = Named(new QRadioButton(TextOf(caption), box), IndexedName(name, k),
-                             TextOf(frame) + ' ' + SpokenText(caption));
+        auto *option = Named(new QRadioButton(Text(caption), box), IndexedName(name, k),
+                             Text(frame) + ' ' + SpokenText(caption));
         option->setChecked(k == current);
         group->addButton(option, k);
         column->addWidget(option);

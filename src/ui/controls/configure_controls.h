@@ -33,8 +33,6 @@ bool ChangesCount();
 
 // ---- Texts -----------------------------------------------------------------------------------
 
-QString TextOf(std::string_view text);
-
 // Name of a control of an array, such as "chkUseLogic3".
 QString IndexedName(std::string_view name, int index);
 
@@ -42,6 +40,15 @@ QString IndexedName(std::string_view name, int index);
 QString SpokenText(std::string_view caption);
 
 // ---- Controls; each belongs to parent and is named for tests and screen readers --------------
+
+// Names a control of any kind.
+template <typename Control>
+Control *Named(Control *control, const QString &name, const QString &spoken)
+{
+    control->setObjectName(name);
+    control->setAccessibleName(spoken);
+    return control;
+}
 
 QCheckBox *MakeCheckBox(QWidget *parent, const QString &name, std::string_view caption, bool on,
                         const std::function<void(bool)> &change);

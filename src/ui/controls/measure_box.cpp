@@ -1,6 +1,7 @@
 #include "ui/controls/measure_box.h"
 
 #include "outside/printer.h"
+#include "paint/text.h"
 #include "print/page_layout.h"
 
 #include <QKeyEvent>
@@ -13,7 +14,7 @@ constexpr int LongestMeasure = 6; // "999.99"
 
 QString Sign()
 {
-    return QString::fromStdString(DecimalSign());
+    return Text(DecimalSign());
 }
 
 bool IsPrintable(const QString &typed)
@@ -36,7 +37,7 @@ double MeasureBox::Measure() const
 void MeasureBox::ShowMeasure(double inches)
 {
     if (!hasFocus() || !isModified()) {
-        setText(QString::fromStdString(MeasureText(inches, DecimalSign())));
+        setText(Text(MeasureText(inches, DecimalSign())));
     }
 }
 

@@ -69,7 +69,7 @@ void DrawProgress(QPainter &painter, QSize page)
 PrintPreview::PrintPreview(QWidget *parent) : QWidget(parent)
 {
     setObjectName("picPrintPreview");
-    setAccessibleName(tr("Preview of the page"));
+    setAccessibleName("Preview of the page");
     FitPage();
 }
 

@@ -75,7 +75,7 @@ void ShowMessage(std::string_view text, std::string_view title)
 bool AskYesNo(std::string_view text, std::string_view title)
 {
     // Questions are worded for boxes that show a doubled "&" as one.
-    const QString shown = BoxText(text).replace(QStringLiteral("&&"), QStringLiteral("&"));
+    const QString shown = BoxText(text).replace(Text("&&"), Text("&"));
     return RunBox(QMessageBox::Question, shown, title, QMessageBox::Yes | QMessageBox::No,
                   QMessageBox::No) == QMessageBox::Yes;
 }

@@ -5,6 +5,7 @@
 #include "outside/printer.h"
 #include "outside/whole_file.h"
 #include "paint/print_painter.h"
+#include "paint/text.h"
 #include "paint/text_painter.h"
 
 #include <QApplication>
@@ -72,7 +73,7 @@ void OpenPdf()
     document->Pdf = std::make_unique<QPdfWriter>(&document->Bytes);
     document->Pdf->setResolution(ChosenPrinter().resolution());
     document->Pdf->setPageLayout(ChosenPrinter().pageLayout());
-    document->Pdf->setTitle(QString::fromLatin1(ProgramName.data()));
+    document->Pdf->setTitle(Text(ProgramName));
 }
 
 bool Fail()

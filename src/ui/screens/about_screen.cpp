@@ -23,18 +23,18 @@ constexpr QSize LicenceSize{460, 220};
 // The licence without the line breaks inside its paragraphs, which the screen makes itself.
 QString LicenceText()
 {
-    QFile file(QStringLiteral(":/LICENSE"));
+    QFile file(Text(":/LICENSE"));
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
-    static const QRegularExpression breakInside(QStringLiteral("(?<!\n)\n(?!\n)"));
-    return QString::fromUtf8(file.readAll()).trimmed().replace(breakInside, QStringLiteral(" "));
+    static const QRegularExpression breakInside("(?<!\n)\n(?!\n)");
+    return QString::fromUtf8(file.readAll()).trimmed().replace(breakInside, Text(" "));
 }
 
 QLabel *NameLabel(QWidget *parent)
 {
     auto *label = new QLabel(Text(ProgramName), parent);
-    label->setObjectName(QStringLiteral("lblName"));
+    label->setObjectName("lblName");
     QFont font = label->font();
     font.setBold(true);
     font.setPointSizeF(font.pointSizeF() * 2);
@@ -47,14 +47,14 @@ QLabel *VersionLabel(QWidget *parent)
     const QString version = QCoreApplication::applicationVersion();
     auto *label =
         new QLabel(QCoreApplication::translate("About", "Version %1").arg(version), parent);
-    label->setObjectName(QStringLiteral("lblVersion"));
+    label->setObjectName("lblVersion");
     return label;
 }
 
 QPlainTextEdit *LicenceBox(QWidget *parent)
 {
     auto *box = new QPlainTextEdit(LicenceText(), parent);
-    box->setObjectName(QStringLiteral("txtLicence"));
+    box->setObjectName("txtLicence");
     box->setAccessibleName(QCoreApplication::translate("About", "Licence"));
     box->setReadOnly(true);
     box->setTabChangesFocus(true);
@@ -67,7 +67,7 @@ QPlainTextEdit *LicenceBox(QWidget *parent)
 void ShowAboutScreen()
 {
     QDialog screen(Window());
-    screen.setObjectName(QStringLiteral("frmAbout"));
+    screen.setObjectName("frmAbout");
     screen.setWindowTitle(QCoreApplication::translate("About", "About Kelvarine"));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, &screen);
     QPushButton *ok = buttons->button(QDialogButtonBox::Ok);

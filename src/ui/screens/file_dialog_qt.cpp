@@ -4,6 +4,7 @@
 #include "game/screens.h"
 #include "outside/file_dialog.h"
 #include "outside/help.h"
+#include "paint/text.h"
 #include "ui/window/help_key.h"
 #include "ui/window/main_window.h"
 #include "ui/window/placing.h"
@@ -31,11 +32,6 @@ constexpr QSize StartSize{600, 420};
 constexpr QSize SmallestSize{290, 290};
 constexpr int Margin = 4;
 
-QString Shown(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 QString DecodedPath(const std::string &path)
 {
     return QFile::decodeName(QByteArray::fromStdString(path));
@@ -49,7 +45,7 @@ std::string EncodedPath(const QString &path)
 template <typename Control>
 Control *Named(const char *name, Control *control)
 {
-    control->setObjectName(QString::fromLatin1(name));
+    control->setObjectName(Text(name));
     return control;
 }
 
@@ -70,13 +66,13 @@ FileDialog::FileDialog(QWidget *parent, std::size_t fileType)
       filFiles(Named("filFiles", new QListWidget(this))),
       txtFileName(Named("txtFileName", new QLineEdit(this))),
       cmbFileTypes(Named("cmbFileTypes", new QComboBox(this))),
-      cmdOK(Named("cmdOK", new QPushButton(tr("OK"), this))),
-      cmdCancel(Named("cmdCancel", new QPushButton(tr("Cancel"), this))),
-      cmdHelp(Named("cmdHelp", new QPushButton(tr("&Help"), this)))
+      cmdOK(Named("cmdOK", new QPushButton("OK", this))),
+      cmdCancel(Named("cmdCancel", new QPushButton("Cancel", this))),
+      cmdHelp(Named("cmdHelp", new QPushButton("&Help", this)))
 {
-    setObjectName(QStringLiteral("frmFile"));
+    setObjectName("frmFile");
     SetHelpContext(this, FileDialogTopic);
-    setWindowTitle(Shown(DialogCaption));
+    setWindowTitle(Text(DialogCaption));
     BuildControls(fileType);
     BuildFolders();
     setLayout(Arrange());
@@ -94,14 +90,14 @@ FileDialog::FileDialog(QWidget *parent, std::size_t fileType)
 void FileDialog::BuildControls(std::size_t fileType)
 {
     for (const std::string_view type : FileTypes) {
-        cmbFileTypes->addItem(Shown(type));
+        cmbFileTypes->addItem(Text(type));
     }
     cmbFileTypes->setCurrentIndex(static_cast<int>(fileType));
-    cmbFileTypes->setAccessibleName(tr("File types"));
+    cmbFileTypes->setAccessibleName("File types");
     txtFileName->setText(DecodedPath(DialogName));
     txtFileName->selectAll();
-    txtFileName->setAccessibleName(tr("File name"));
-    filFiles->setAccessibleName(tr("Files"));
+    txtFileName->setAccessibleName("File name");
+    filFiles->setAccessibleName("Files");
     lblFolder->setTextFormat(Qt::PlainText);
     // A long path must not widen the window.
     lblFolder->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -120,7 +116,7 @@ void FileDialog::BuildFolders()
     for (int column = 1; column < folders.columnCount(); ++column) {
         dirDirectory->hideColumn(column);
     }
-    dirDirectory->setAccessibleName(tr("Folders"));
+    dirDirectory->setAccessibleName("Folders");
 }
 
 QLayout *FileDialog::Arrange()
@@ -128,14 +124,14 @@ QLayout *FileDialog::Arrange()
     auto *grid = new QGridLayout;
     grid->setContentsMargins(Margin, Margin, Margin, Margin);
     grid->addWidget(lblFolder, 0, 0, 1, 3);
-    grid->addWidget(LabelFor(dirDirectory, tr("Fol&ders:")), 1, 0);
-    grid->addWidget(LabelFor(filFiles, tr("Fi&les:")), 1, 1);
+    grid->addWidget(LabelFor(dirDirectory, "Fol&ders:"), 1, 0);
+    grid->addWidget(LabelFor(filFiles, "Fi&les:"), 1, 1);
     grid->addWidget(dirDirectory, 2, 0);
     grid->addWidget(filFiles, 2, 1, 1, 2);
-    grid->addWidget(LabelFor(txtFileName, tr("File &name:")), 3, 0, Qt::AlignRight);
+    grid->addWidget(LabelFor(txtFileName, "File &name:"), 3, 0, Qt::AlignRight);
     grid->addWidget(txtFileName, 3, 1);
     grid->addWidget(cmdOK, 3, 2);
-    grid->addWidget(LabelFor(cmbFileTypes, tr("File &types:")), 4, 0, Qt::AlignRight);
+    grid->addWidget(LabelFor(cmbFileTypes, "File &types:"), 4, 0, Qt::AlignRight);
     grid->addWidget(cmbFileTypes, 4, 1);
     grid->addWidget(cmdCancel, 4, 2);
     grid->addWidget(cmdHelp, 5, 2);

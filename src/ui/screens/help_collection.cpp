@@ -1,5 +1,7 @@
 #include "ui/screens/help_collection.h"
 
+#include "paint/text.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -42,9 +44,8 @@ QString HelpFolder()
     constexpr std::array places{"/../share/kelvarine/help/", "/help/", "/../help/"};
     for (const char *place : places) {
         QString folder =
-            QDir::cleanPath(QCoreApplication::applicationDirPath() + QString::fromLatin1(place)) +
-            u'/';
-        if (QFile::exists(folder + QLatin1String(CompiledHelp))) {
+            QDir::cleanPath(QCoreApplication::applicationDirPath() + Text(place)) + u'/';
+        if (QFile::exists(folder + Text(CompiledHelp))) {
             return folder;
         }
     }
@@ -58,15 +59,15 @@ std::unique_ptr<HelpCollection> OpenHelp(const QString &folder)
     }
     auto help = std::make_unique<HelpCollection>();
     if (help->Folder.isValid()) {
-        const QString collection = help->Folder.filePath(QLatin1String(Collection));
-        if (MakeCollection(collection, folder + QLatin1String(CompiledHelp))) {
+        const QString collection = help->Folder.filePath(Text(Collection));
+        if (MakeCollection(collection, folder + Text(CompiledHelp))) {
             help->Engine = OpenEngine(collection, false);
             help->Searchable = help->Engine != nullptr;
         }
     }
     if (help->Engine == nullptr) {
         // No room to write in: the collection as it was built will do, without the search.
-        help->Engine = OpenEngine(folder + QLatin1String(Collection), true);
+        help->Engine = OpenEngine(folder + Text(Collection), true);
     }
     return help->Engine != nullptr ? std::move(help) : nullptr;
 }

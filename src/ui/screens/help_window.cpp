@@ -3,6 +3,7 @@
 #include "outside/clipboard.h"
 #include "outside/help.h"
 #include "outside/messages.h"
+#include "paint/text.h"
 #include "ui/screens/help_page.h"
 
 #include <QAction>
@@ -64,7 +65,7 @@ HelpBrowser::HelpBrowser(const QHelpEngineCore &helpEngine, QWidget *parent)
     : QTextBrowser(parent), engine(helpEngine)
 {
     setOpenLinks(false);
-    setAccessibleName(tr("Help page"));
+    setAccessibleName("Help page");
     document()->setDocumentMargin(PageMargin);
 }
 
@@ -116,13 +117,13 @@ HelpWindow::HelpWindow(std::unique_ptr<HelpCollection> opened)
       IndexText(new QLineEdit(this)), SearchText(new QLineEdit(this)),
       SearchResults(new QListWidget(this)), help(std::move(opened)), searcher(help->Engine.get())
 {
-    setObjectName(QStringLiteral("frmHelp"));
+    setObjectName("frmHelp");
     setAttribute(Qt::WA_QuitOnClose, false);
     BuildToolBar();
-    Tabs->addTab(BuildContents(), tr("&Contents"));
-    Tabs->addTab(BuildIndex(), tr("&Index"));
-    Tabs->addTab(BuildSearch(), tr("&Search"));
-    Tabs->setAccessibleName(tr("Ways into the help"));
+    Tabs->addTab(BuildContents(), "&Contents");
+    Tabs->addTab(BuildIndex(), "&Index");
+    Tabs->addTab(BuildSearch(), "&Search");
+    Tabs->setAccessibleName("Ways into the help");
 
     auto *splitter = new QSplitter(this);
     splitter->addWidget(Tabs);
@@ -142,32 +143,30 @@ HelpWindow::~HelpWindow() = default;
 
 void HelpWindow::BuildToolBar()
 {
-    auto *bar = addToolBar(tr("Help"));
+    auto *bar = addToolBar("Help");
     bar->setMovable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     const auto add = [&](const QString &text, const QList<QKeySequence> &keys, const auto &run) {
         QAction *action = bar->addAction(text);
         action->setShortcuts(keys);
-        action->setToolTip(text + QStringLiteral(" (") +
-                           keys.front().toString(QKeySequence::NativeText) + u')');
+        action->setToolTip(text + " (" + keys.front().toString(QKeySequence::NativeText) + u')');
         connect(action, &QAction::triggered, this, run);
         return action;
     };
     QAction *back =
-        add(tr("Back"), {QKeySequence(Qt::ALT | Qt::Key_Left)}, [this] { Browser->backward(); });
+        add("Back", {QKeySequence(Qt::ALT | Qt::Key_Left)}, [this] { Browser->backward(); });
     QAction *forward =
-        add(tr("Forward"), {QKeySequence(Qt::ALT | Qt::Key_Right)}, [this] { Browser->forward(); });
-    QAction *home = add(tr("Home"), {QKeySequence(Qt::ALT | Qt::Key_Home)},
+        add("Forward", {QKeySequence(Qt::ALT | Qt::Key_Right)}, [this] { Browser->forward(); });
+    QAction *home = add("Home", {QKeySequence(Qt::ALT | Qt::Key_Home)},
                         [this] { Browser->setSource(PageOfContext(*help->Engine, 0)); });
     bar->addSeparator();
-    add(tr("Larger"),
+    add("Larger",
         QKeySequence::keyBindings(QKeySequence::ZoomIn) +
             QList{QKeySequence(Qt::CTRL | Qt::Key_Equal)},
         [this] { Browser->Zoom(1); });
-    add(tr("Smaller"), QKeySequence::keyBindings(QKeySequence::ZoomOut),
-        [this] { Browser->Zoom(-1); });
-    add(tr("Usual size"), {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { Browser->ResetZoom(); });
+    add("Smaller", QKeySequence::keyBindings(QKeySequence::ZoomOut), [this] { Browser->Zoom(-1); });
+    add("Usual size", {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { Browser->ResetZoom(); });
 
     back->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
     forward->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
@@ -181,7 +180,7 @@ void HelpWindow::BuildToolBar()
 QWidget *HelpWindow::BuildContents()
 {
     QHelpContentWidget *contents = help->Engine->contentWidget();
-    contents->setAccessibleName(tr("Contents of the help"));
+    contents->setAccessibleName("Contents of the help");
     connect(contents, &QHelpContentWidget::linkActivated, Browser,
             [this](const QUrl &page) { Browser->setSource(page); });
     connect(contents, &QAbstractItemView::clicked, contents,
@@ -196,7 +195,7 @@ QWidget *HelpWindow::BuildContents()
 QWidget *HelpWindow::BuildIndex()
 {
     QHelpIndexWidget *index = help->Engine->indexWidget();
-    index->setAccessibleName(tr("Words of the index"));
+    index->setAccessibleName("Words of the index");
     IndexText->setClearButtonEnabled(true);
     connect(IndexText, &QLineEdit::textChanged, index,
             [index](const QString &text) { index->filterIndices(text, text + u'*'); });
@@ -205,12 +204,12 @@ QWidget *HelpWindow::BuildIndex()
             [this](const QHelpLink &page) { Browser->setSource(page.url); });
     connect(index, &QHelpIndexWidget::documentsActivated, Browser,
             [this](const QList<QHelpLink> &pages) { Browser->setSource(pages.front().url); });
-    return UnderText(IndexText, tr("&Look for:"), index);
+    return UnderText(IndexText, "&Look for:", index);
 }
 
 QWidget *HelpWindow::BuildSearch()
 {
-    SearchResults->setAccessibleName(tr("Pages found"));
+    SearchResults->setAccessibleName("Pages found");
     SearchText->setClearButtonEnabled(true);
     SearchText->setEnabled(help->Searchable);
     connect(SearchText, &QLineEdit::returnPressed, this, &HelpWindow::Search);
@@ -234,14 +233,14 @@ QWidget *HelpWindow::BuildSearch()
     if (help->Searchable) {
         searcher.reindexDocumentation();
     } else {
-        SearchResults->addItem(tr("There is no room on the disk to search in."));
+        SearchResults->addItem("There is no room on the disk to search in.");
     }
-    return UnderText(SearchText, tr("&Words, then Enter:"), SearchResults);
+    return UnderText(SearchText, "&Words, then Enter:", SearchResults);
 }
 
 void HelpWindow::OpenLink(const QUrl &link)
 {
-    if (link.scheme() == QLatin1String("copy")) {
+    if (link.scheme() == "copy") {
         CopyPosition();
     } else {
         Browser->setSource(Browser->source().resolved(link));
@@ -251,12 +250,12 @@ void HelpWindow::OpenLink(const QUrl &link)
 void HelpWindow::CopyPosition()
 {
     SetClipboardText(Browser->Position());
-    statusBar()->showMessage(tr("The position is copied. Press Ctrl+V on the board."), MessageTime);
+    statusBar()->showMessage("The position is copied. Press Ctrl+V on the board.", MessageTime);
 }
 
 void HelpWindow::PageChanged(const QUrl &page)
 {
-    setWindowTitle(Browser->documentTitle() + QStringLiteral(" - Kelvarine Help"));
+    setWindowTitle(Browser->documentTitle() + " - Kelvarine Help");
     QHelpContentWidget *contents = help->Engine->contentWidget();
     const QModelIndex place = contents->indexOf(page);
     if (place.isValid()) {
@@ -281,7 +280,7 @@ void HelpWindow::ShowSearchResults()
         item->setData(Qt::UserRole, result.url());
     }
     if (SearchResults->count() == 0) {
-        SearchResults->addItem(tr("No page holds these words."));
+        SearchResults->addItem("No page holds these words.");
     }
 }
 

@@ -60,18 +60,16 @@ void PlaceInStrip(QWidget &control, int x, int top, int height)
 
 SolutionsScreen::SolutionsScreen(QWidget *parent)
     : QDialog(parent), lblNumSolutions(new QLabel(this)),
-      txtSolutions(new QPlainTextEdit(this)), formats{new QRadioButton(QStringLiteral(" 1-81"),
-                                                                       this),
-                                                      new QRadioButton(QStringLiteral(" 9 x 9"),
-                                                                       this)},
-      cmdSave(new QPushButton(tr("Save as text file"), this))
+      txtSolutions(new QPlainTextEdit(this)), formats{new QRadioButton(" 1-81", this),
+                                                      new QRadioButton(" 9 x 9", this)},
+      cmdSave(new QPushButton("Save as text file", this))
 {
-    setObjectName(QStringLiteral("frmSolutions"));
-    setWindowTitle(tr("Solutions"));
-    lblNumSolutions->setObjectName(QStringLiteral("lblNumSolutions"));
+    setObjectName("frmSolutions");
+    setWindowTitle("Solutions");
+    lblNumSolutions->setObjectName("lblNumSolutions");
     BuildText();
     BuildFormats();
-    cmdSave->setObjectName(QStringLiteral("cmdSaveAsTextFile"));
+    cmdSave->setObjectName("cmdSaveAsTextFile");
     cmdSave->setAutoDefault(false);
     connect(cmdSave, &QPushButton::clicked, this, cmdSaveAsTextFile);
     txtSolutions->setFocus();
@@ -86,9 +84,9 @@ SolutionsScreen::SolutionsScreen(QWidget *parent)
 
 void SolutionsScreen::BuildText()
 {
-    txtSolutions->setObjectName(QStringLiteral("txtSolutions"));
-    txtSolutions->setAccessibleName(tr("Solutions"));
-    QFont font(QStringLiteral("Courier New"));
+    txtSolutions->setObjectName("txtSolutions");
+    txtSolutions->setAccessibleName("Solutions");
+    QFont font("Courier New");
     font.setStyleHint(QFont::Monospace);
     font.setPixelSize(TextPixels);
     txtSolutions->setFont(font);
@@ -103,11 +101,11 @@ void SolutionsScreen::BuildFormats()
     auto *group = new QButtonGroup(this);
     for (std::size_t k = 0; k < formats.size(); ++k) {
         const auto index = static_cast<int>(k);
-        formats[k]->setObjectName(QStringLiteral("optSolutionsFormat%1").arg(index));
+        formats[k]->setObjectName(Text("optSolutionsFormat%1").arg(index));
         group->addButton(formats[k], index);
     }
-    formats[0]->setAccessibleName(tr("Solutions in lines of 81 digits"));
-    formats[1]->setAccessibleName(tr("Solutions in frames of 9 by 9"));
+    formats[0]->setAccessibleName("Solutions in lines of 81 digits");
+    formats[1]->setAccessibleName("Solutions in frames of 9 by 9");
     connect(group, &QButtonGroup::idClicked, this, optSolutionsFormat);
 }
 

@@ -25,8 +25,8 @@ QPointer<StatisticsScreen> statisticsScreen;
 QString LabelName(std::size_t table, std::size_t row, std::size_t column)
 {
     const QString name = Text(StatisticsRowNames[row]).remove(u' ');
-    return QStringLiteral("lbl%1%2%3")
-        .arg(name, table == SessionTable ? QStringLiteral("Session") : QStringLiteral("Total"))
+    return Text("lbl%1%2%3")
+        .arg(name, table == SessionTable ? Text("Session") : Text("Total"))
         .arg(column);
 }
 
@@ -34,11 +34,11 @@ QString LabelName(std::size_t table, std::size_t row, std::size_t column)
 QString SpokenName(std::size_t table, std::size_t row, std::size_t column)
 {
     QString place =
-        QStringLiteral("%1, %2").arg(Text(StatisticsTitles[table]), Text(StatisticsRowNames[row]));
+        Text("%1, %2").arg(Text(StatisticsTitles[table]), Text(StatisticsRowNames[row]));
     if (column == 0) {
         return place;
     }
-    return QStringLiteral("%1, %2: %3")
+    return Text("%1, %2: %3")
         .arg(place, Text(StatisticsColumns[column].Heading),
              Text(StatisticsLabels[table][row][column]).trimmed());
 }
@@ -69,14 +69,14 @@ void MakeBold(QLabel &label)
 
 StatisticsScreen::StatisticsScreen(QWidget *parent) : QDialog(parent)
 {
-    setObjectName(QStringLiteral("frmStatistics"));
-    setWindowTitle(tr("Statistics"));
+    setObjectName("frmStatistics");
+    setWindowTitle("Statistics");
     auto *layout = new QGridLayout(this);
     layout->addWidget(BuildTable(SessionTable), 0, 0);
     layout->addWidget(BuildTable(AllSessionsTable), 0, 1);
-    auto *clear = new QPushButton(tr("&Clear"), this);
-    clear->setObjectName(QStringLiteral("cmdClearStats"));
-    clear->setAccessibleName(tr("Clear statistics"));
+    auto *clear = new QPushButton("&Clear", this);
+    clear->setObjectName("cmdClearStats");
+    clear->setAccessibleName("Clear statistics");
     clear->setAutoDefault(false); // Enter alone must not come near it
     connect(clear, &QPushButton::clicked, this, cmdClearStats);
     layout->addWidget(clear, 1, 1, Qt::AlignRight);

@@ -3,6 +3,7 @@
 #include "board/geometry.h"
 #include "grid/grid.h"
 #include "input/spoken.h"
+#include "paint/text.h"
 #include "ui/window/board_widget.h"
 #include "ui/window/main_window.h"
 
@@ -75,7 +76,7 @@ public:
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Name ? QString::fromStdString(SpokenCell(place)) : QString();
+        return kind == QAccessible::Name ? Text(SpokenCell(place)) : QString();
     }
 
     void setText(QAccessible::Text /*kind*/, const QString & /*text*/) override

@@ -36,7 +36,7 @@ BoardWidget::BoardWidget(QWidget *parent) : QWidget(parent)
     setFocusPolicy(Qt::StrongFocus);
     // The picture covers all of it, so there is nothing to erase.
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setAccessibleName(tr("Sudoku board"));
+    setAccessibleName("Sudoku board");
 }
 
 void BoardWidget::paintEvent(QPaintEvent * /*event*/)

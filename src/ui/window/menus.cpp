@@ -33,9 +33,9 @@ bool IsAccelerator(std::string_view shortcut)
 void SetCaption(QAction &action)
 {
     const auto [row, number] = EntryOf(action);
-    QString caption = QString::fromStdString(MenuCaption(*row, number));
+    QString caption = Text(MenuCaption(*row, number));
     if (!row->Shortcut.empty() && !IsAccelerator(row->Shortcut)) {
-        caption += u'\t' + QString::fromStdString(WithNumber(row->Shortcut, number));
+        caption += u'\t' + Text(WithNumber(row->Shortcut, number));
     }
     action.setText(caption);
 }
@@ -152,7 +152,7 @@ void UpdateMenus(QMenuBar *timeBar)
     QMenu *menu = timeBar->actions().front()->menu();
     for (const MenuRow &row : MenuTable) {
         if (Text(row.Name) == menu->objectName()) {
-            menu->setTitle(QString::fromStdString(MenuCaption(row, 0)));
+            menu->setTitle(Text(MenuCaption(row, 0)));
         }
     }
     for (QAction *action : menu->actions()) {

@@ -1,5 +1,7 @@
 #include "ui/window/program_icon.h"
 
+#include "paint/text.h"
+
 #include <array>
 
 // The pictures lie in a static library, which the linker takes in only when it is asked to. The
@@ -16,7 +18,7 @@ QIcon ProgramIcon()
     LoadPictures();
     QIcon icon;
     for (const int size : std::array{16, 32, 48, 64, 128, 256}) {
-        icon.addFile(QStringLiteral(":/icons/%1.png").arg(size), QSize(size, size));
+        icon.addFile(Text(":/icons/%1.png").arg(size), QSize(size, size));
     }
     return icon;
 }

@@ -1,6 +1,7 @@
 #include "ui/window/toolbar_widget.h"
 
 #include "input/toolbar.h"
+#include "paint/text.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -36,9 +37,9 @@ QColor InkOn(const QColor &background)
 QString SpokenName(std::int32_t index, const ToolButton &button)
 {
     if (!button.Caption.empty()) {
-        return QString::fromStdString(button.Caption);
+        return Text(button.Caption);
     }
-    return QObject::tr("Highlight color %1").arg(index);
+    return Text("Highlight color %1").arg(index);
 }
 
 } // namespace
@@ -46,7 +47,7 @@ QString SpokenName(std::int32_t index, const ToolButton &button)
 ToolButtonWidget::ToolButtonWidget(std::int32_t index, QWidget *parent)
     : QPushButton(parent), number(index)
 {
-    setObjectName(QStringLiteral("cmdTool%1").arg(index));
+    setObjectName(Text("cmdTool%1").arg(index));
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
     setAutoDefault(false);
@@ -55,10 +56,10 @@ ToolButtonWidget::ToolButtonWidget(std::int32_t index, QWidget *parent)
 void ToolButtonWidget::Update()
 {
     const ToolButton &button = ToolButtons[static_cast<std::size_t>(number)];
-    setText(QString::fromStdString(button.Caption));
-    setToolTip(QString::fromStdString(button.Tip));
+    setText(Text(button.Caption));
+    setToolTip(Text(button.Tip));
     setAccessibleName(SpokenName(number, button));
-    setAccessibleDescription(QString::fromStdString(button.Tip));
+    setAccessibleDescription(Text(button.Tip));
     const QColor background = QColor::fromRgb(button.Background);
     QPalette colours = palette();
     colours.setColor(QPalette::Button, background);
@@ -116,7 +117,7 @@ void ToolButtonWidget::keyPressEvent(QKeyEvent * /*event*/)
 
 ToolbarWidget::ToolbarWidget(QWidget *parent) : QWidget(parent)
 {
-    setObjectName(QStringLiteral("picToolbar"));
+    setObjectName("picToolbar");
     setAutoFillBackground(true);
     for (std::size_t index = 0; index < ToolButtonCount; ++index) {
         buttons.push_back(new ToolButtonWidget(static_cast<std::int32_t>(index), this));
