@@ -27,11 +27,6 @@ Flag CoordinatesVisible;
 
 namespace {
 
-constexpr Colour Rgb(std::uint32_t red, std::uint32_t green, std::uint32_t blue)
-{
-    return red << 16 | green << 8 | blue;
-}
-
 constexpr Colour White = Rgb(255, 255, 255);
 constexpr Colour Black = Rgb(0, 0, 0);
 
@@ -39,9 +34,18 @@ constexpr Colour Black = Rgb(0, 0, 0);
 
 void SetDefaultLook()
 {
-    ColourTable = {
-        Rgb(32, 96, 80), Rgb(66, 120, 107), Rgb(54, 162, 253), White,          White, Black, Black,
-        White,           Rgb(204, 204, 0),  Rgb(136, 136, 0),  Rgb(255, 0, 0), Black};
+    ColourTable[GivenCellColour] = Rgb(32, 96, 80);
+    ColourTable[UnknownCellColour] = Rgb(66, 120, 107);
+    ColourTable[SelectedCellColour] = Rgb(54, 162, 253);
+    ColourTable[GivenNumberColour] = White;
+    ColourTable[UnknownNumberColour] = White;
+    ColourTable[PrimaryLineColour] = Black;
+    ColourTable[SecondaryLineColour] = Black;
+    ColourTable[PencilmarkLineColour] = White;
+    ColourTable[HintCellColour] = Rgb(204, 204, 0);
+    ColourTable[HintDomainColour] = Rgb(136, 136, 0);
+    ColourTable[AlertColour] = Rgb(255, 0, 0);
+    ColourTable[MarginColour] = Black;
     GivenTexture = 0;
     UnknownTexture = 0;
     GridTexture = 0;

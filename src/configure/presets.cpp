@@ -12,6 +12,21 @@ namespace kelvarine {
 
 namespace {
 
+struct Colours {
+    Colour GivenCells;
+    Colour UnknownCells;
+    Colour SelectedCells;
+    Colour GivenNumbers;
+    Colour UnknownNumbers;
+    Colour PrimaryLines;
+    Colour SecondaryLines;
+    Colour PencilmarkLines;
+    Colour HintCells;
+    Colour HintDomains;
+    Colour Alerts; // also links and chains
+    Colour Margin;
+};
+
 struct Textures {
     std::int32_t Given;
     std::int32_t Unknown;
@@ -32,7 +47,7 @@ struct Effects {
 
 struct Preset {
     std::int32_t Number;
-    std::array<Colour, ColourCount> Colours;
+    Colours In;
     Textures Tiles;
     Thicknesses Lines;
     Effects In3D;
@@ -41,78 +56,204 @@ struct Preset {
 // The look of a start, which stands with the other defaults and not in the table.
 constexpr std::int32_t DefaultPreset = 2;
 
-constexpr std::array<Preset, 11> Presets{{
-    {0,
-     {0x7875FA, 0xFFFFFF, 0xFE86C4, 0xF6F4F7, 0x000000, 0x000000, 0x5D5D5D, 0x0067BB, 0x03FB04,
-      0x00BB46, 0xFF0000, 0x89C7FF},
-     {4, 0, 0},
-     {8, 1, 10},
-     {True, False, False}},
-    {1,
-     {0xFFFFFF, 0xFFFFFF, 0xCDCDCD, 0x000000, 0x6E6E6E, 0x000000, 0x000000, 0x888888, 0x00FE00,
-      0x87FC87, 0xFF0000, 0x89C7FF},
-     {0, 0, 0},
-     {4, 1, 10},
-     {False, False, False}},
-    {3,
-     {0x2B262A, 0x2B262A, 0x038AFF, 0xFEFE00, 0xF6F6F6, 0xFFFF77, 0xFFFF77, 0x6E6E6E, 0xFF7F00,
-      0xC76504, 0xFF0000, 0x000000},
-     {0, 0, 0},
-     {16, 6, 0},
-     {False, True, True}},
-    {4,
-     {0xB9B9BB, 0xB9B9BB, 0x77FFFF, 0x0200D3, 0x000000, 0xFF5555, 0x000000, 0x6E6E6E, 0xFFFF00,
-      0xAAAA00, 0xFF0000, 0x036ECC},
-     {9, 9, 8},
-     {16, 0, 0},
-     {True, True, True}},
-    {5,
-     {0x770000, 0xFFB366, 0xFF4444, 0xFFFF11, 0x000000, 0x773C00, 0x994D00, 0x000000, 0x4444FF,
-      0x55B3FF, 0xFFFFFF, 0xBBBBBB},
-     {7, 7, 7},
-     {20, 6, 0},
-     {False, True, True}},
-    {6,
-     {0x1194FF, 0x55B3FF, 0xFFFFFF, 0x000000, 0x000000, 0x000000, 0x000000, 0x6E6E6E, 0xFFFF00,
-      0xAAAA00, 0xFF0000, 0x838383},
-     {0, 0, 0},
-     {14, 4, 8},
-     {True, False, False}},
-    {7,
-     {0xC0C0C0, 0xC0C0C0, 0x77FFFF, 0x000000, 0x0000EE, 0xC0C0C0, 0xC0C0C0, 0x6E6E6E, 0xFF77FF,
-      0xBE66FF, 0xFF0000, 0x4C0086},
-     {0, 0, 1},
-     {12, 4, 12},
-     {True, False, False}},
-    {8,
-     {0x000000, 0xFF00FF, 0xFF0086, 0x77003F, 0x333333, 0x0000FF, 0x0000FF, 0x0000FF, 0x00BB46,
-      0x00FF00, 0xFF0000, 0x000000},
-     {0, 9, 5},
-     {20, 10, 0},
-     {True, True, True}},
-    {9,
-     {0xC0C0C0, 0xBBFFD5, 0x77FFFF, 0x000000, 0x000000, 0xBBBBBB, 0x000000, 0x6E6E6E, 0x00BB46,
-      0x00FF00, 0xFF0000, 0xC0C0C0},
-     {0, 9, 5},
-     {20, 10, 0},
-     {True, True, True}},
-    {10,
-     {0x000000, 0x000000, 0xAAAAAA, 0xFFFF00, 0xFFFFFF, 0x008CFF, 0xBBBBBB, 0xBBBBBB, 0x0079DD,
-      0x00FFFF, 0xFF0000, 0xFFFFFF},
-     {0, 0, 7},
-     {10, 1, 0},
-     {False, True, False}},
-    {100,
-     {0xEE0000, 0xF6F6F6, 0x77FFFF, 0x000000, 0x000000, 0x0079DD, 0x000000, 0x6E6E6E, 0x00BB46,
-      0x00FF00, 0xFF0000, 0xC0C0C0},
-     {9, 9, 5},
-     {20, 0, 0},
-     {True, True, True}},
-}};
+constexpr std::array Presets{
+    Preset{.Number = 0,
+           .In = {.GivenCells = 0x7875FA,
+                  .UnknownCells = 0xFFFFFF,
+                  .SelectedCells = 0xFE86C4,
+                  .GivenNumbers = 0xF6F4F7,
+                  .UnknownNumbers = 0x000000,
+                  .PrimaryLines = 0x000000,
+                  .SecondaryLines = 0x5D5D5D,
+                  .PencilmarkLines = 0x0067BB,
+                  .HintCells = 0x03FB04,
+                  .HintDomains = 0x00BB46,
+                  .Alerts = 0xFF0000,
+                  .Margin = 0x89C7FF},
+           .Tiles = {.Given = 4, .Unknown = 0, .Grid = 0},
+           .Lines = {.Primary = 8, .Secondary = 1, .Border = 10},
+           .In3D = {.Cells = True, .Primary = False, .Secondary = False}},
+    Preset{.Number = 1,
+           .In = {.GivenCells = 0xFFFFFF,
+                  .UnknownCells = 0xFFFFFF,
+                  .SelectedCells = 0xCDCDCD,
+                  .GivenNumbers = 0x000000,
+                  .UnknownNumbers = 0x6E6E6E,
+                  .PrimaryLines = 0x000000,
+                  .SecondaryLines = 0x000000,
+                  .PencilmarkLines = 0x888888,
+                  .HintCells = 0x00FE00,
+                  .HintDomains = 0x87FC87,
+                  .Alerts = 0xFF0000,
+                  .Margin = 0x89C7FF},
+           .Tiles = {.Given = 0, .Unknown = 0, .Grid = 0},
+           .Lines = {.Primary = 4, .Secondary = 1, .Border = 10},
+           .In3D = {.Cells = False, .Primary = False, .Secondary = False}},
+    Preset{.Number = 3,
+           .In = {.GivenCells = 0x2B262A,
+                  .UnknownCells = 0x2B262A,
+                  .SelectedCells = 0x038AFF,
+                  .GivenNumbers = 0xFEFE00,
+                  .UnknownNumbers = 0xF6F6F6,
+                  .PrimaryLines = 0xFFFF77,
+                  .SecondaryLines = 0xFFFF77,
+                  .PencilmarkLines = 0x6E6E6E,
+                  .HintCells = 0xFF7F00,
+                  .HintDomains = 0xC76504,
+                  .Alerts = 0xFF0000,
+                  .Margin = 0x000000},
+           .Tiles = {.Given = 0, .Unknown = 0, .Grid = 0},
+           .Lines = {.Primary = 16, .Secondary = 6, .Border = 0},
+           .In3D = {.Cells = False, .Primary = True, .Secondary = True}},
+    Preset{.Number = 4,
+           .In = {.GivenCells = 0xB9B9BB,
+                  .UnknownCells = 0xB9B9BB,
+                  .SelectedCells = 0x77FFFF,
+                  .GivenNumbers = 0x0200D3,
+                  .UnknownNumbers = 0x000000,
+                  .PrimaryLines = 0xFF5555,
+                  .SecondaryLines = 0x000000,
+                  .PencilmarkLines = 0x6E6E6E,
+                  .HintCells = 0xFFFF00,
+                  .HintDomains = 0xAAAA00,
+                  .Alerts = 0xFF0000,
+                  .Margin = 0x036ECC},
+           .Tiles = {.Given = 9, .Unknown = 9, .Grid = 8},
+           .Lines = {.Primary = 16, .Secondary = 0, .Border = 0},
+           .In3D = {.Cells = True, .Primary = True, .Secondary = True}},
+    Preset{.Number = 5,
+           .In = {.GivenCells = 0x770000,
+                  .UnknownCells = 0xFFB366,
+                  .SelectedCells = 0xFF4444,
+                  .GivenNumbers = 0xFFFF11,
+                  .UnknownNumbers = 0x000000,
+                  .PrimaryLines = 0x773C00,
+                  .SecondaryLines = 0x994D00,
+                  .PencilmarkLines = 0x000000,
+                  .HintCells = 0x4444FF,
+                  .HintDomains = 0x55B3FF,
+                  .Alerts = 0xFFFFFF,
+                  .Margin = 0xBBBBBB},
+           .Tiles = {.Given = 7, .Unknown = 7, .Grid = 7},
+           .Lines = {.Primary = 20, .Secondary = 6, .Border = 0},
+           .In3D = {.Cells = False, .Primary = True, .Secondary = True}},
+    Preset{.Number = 6,
+           .In = {.GivenCells = 0x1194FF,
+                  .UnknownCells = 0x55B3FF,
+                  .SelectedCells = 0xFFFFFF,
+                  .GivenNumbers = 0x000000,
+                  .UnknownNumbers = 0x000000,
+                  .PrimaryLines = 0x000000,
+                  .SecondaryLines = 0x000000,
+                  .PencilmarkLines = 0x6E6E6E,
+                  .HintCells = 0xFFFF00,
+                  .HintDomains = 0xAAAA00,
+                  .Alerts = 0xFF0000,
+                  .Margin = 0x838383},
+           .Tiles = {.Given = 0, .Unknown = 0, .Grid = 0},
+           .Lines = {.Primary = 14, .Secondary = 4, .Border = 8},
+           .In3D = {.Cells = True, .Primary = False, .Secondary = False}},
+    Preset{.Number = 7,
+           .In = {.GivenCells = 0xC0C0C0,
+                  .UnknownCells = 0xC0C0C0,
+                  .SelectedCells = 0x77FFFF,
+                  .GivenNumbers = 0x000000,
+                  .UnknownNumbers = 0x0000EE,
+                  .PrimaryLines = 0xC0C0C0,
+                  .SecondaryLines = 0xC0C0C0,
+                  .PencilmarkLines = 0x6E6E6E,
+                  .HintCells = 0xFF77FF,
+                  .HintDomains = 0xBE66FF,
+                  .Alerts = 0xFF0000,
+                  .Margin = 0x4C0086},
+           .Tiles = {.Given = 0, .Unknown = 0, .Grid = 1},
+           .Lines = {.Primary = 12, .Secondary = 4, .Border = 12},
+           .In3D = {.Cells = True, .Primary = False, .Secondary = False}},
+    Preset{.Number = 8,
+           .In = {.GivenCells = 0x000000,
+                  .UnknownCells = 0xFF00FF,
+                  .SelectedCells = 0xFF0086,
+                  .GivenNumbers = 0x77003F,
+                  .UnknownNumbers = 0x333333,
+                  .PrimaryLines = 0x0000FF,
+                  .SecondaryLines = 0x0000FF,
+                  .PencilmarkLines = 0x0000FF,
+                  .HintCells = 0x00BB46,
+                  .HintDomains = 0x00FF00,
+                  .Alerts = 0xFF0000,
+                  .Margin = 0x000000},
+           .Tiles = {.Given = 0, .Unknown = 9, .Grid = 5},
+           .Lines = {.Primary = 20, .Secondary = 10, .Border = 0},
+           .In3D = {.Cells = True, .Primary = True, .Secondary = True}},
+    Preset{.Number = 9,
+           .In = {.GivenCells = 0xC0C0C0,
+                  .UnknownCells = 0xBBFFD5,
+                  .SelectedCells = 0x77FFFF,
+                  .GivenNumbers = 0x000000,
+                  .UnknownNumbers = 0x000000,
+                  .PrimaryLines = 0xBBBBBB,
+                  .SecondaryLines = 0x000000,
+                  .PencilmarkLines = 0x6E6E6E,
+                  .HintCells = 0x00BB46,
+                  .HintDomains = 0x00FF00,
+                  .Alerts = 0xFF0000,
+                  .Margin = 0xC0C0C0},
+           .Tiles = {.Given = 0, .Unknown = 9, .Grid = 5},
+           .Lines = {.Primary = 20, .Secondary = 10, .Border = 0},
+           .In3D = {.Cells = True, .Primary = True, .Secondary = True}},
+    Preset{.Number = 10,
+           .In = {.GivenCells = 0x000000,
+                  .UnknownCells = 0x000000,
+                  .SelectedCells = 0xAAAAAA,
+                  .GivenNumbers = 0xFFFF00,
+                  .UnknownNumbers = 0xFFFFFF,
+                  .PrimaryLines = 0x008CFF,
+                  .SecondaryLines = 0xBBBBBB,
+                  .PencilmarkLines = 0xBBBBBB,
+                  .HintCells = 0x0079DD,
+                  .HintDomains = 0x00FFFF,
+                  .Alerts = 0xFF0000,
+                  .Margin = 0xFFFFFF},
+           .Tiles = {.Given = 0, .Unknown = 0, .Grid = 7},
+           .Lines = {.Primary = 10, .Secondary = 1, .Border = 0},
+           .In3D = {.Cells = False, .Primary = True, .Secondary = False}},
+    Preset{.Number = 100,
+           .In = {.GivenCells = 0xEE0000,
+                  .UnknownCells = 0xF6F6F6,
+                  .SelectedCells = 0x77FFFF,
+                  .GivenNumbers = 0x000000,
+                  .UnknownNumbers = 0x000000,
+                  .PrimaryLines = 0x0079DD,
+                  .SecondaryLines = 0x000000,
+                  .PencilmarkLines = 0x6E6E6E,
+                  .HintCells = 0x00BB46,
+                  .HintDomains = 0x00FF00,
+                  .Alerts = 0xFF0000,
+                  .Margin = 0xC0C0C0},
+           .Tiles = {.Given = 9, .Unknown = 9, .Grid = 5},
+           .Lines = {.Primary = 20, .Secondary = 0, .Border = 0},
+           .In3D = {.Cells = True, .Primary = True, .Secondary = True}},
+};
+
+void Load(const Colours &colours)
+{
+    ColourTable[GivenCellColour] = colours.GivenCells;
+    ColourTable[UnknownCellColour] = colours.UnknownCells;
+    ColourTable[SelectedCellColour] = colours.SelectedCells;
+    ColourTable[GivenNumberColour] = colours.GivenNumbers;
+    ColourTable[UnknownNumberColour] = colours.UnknownNumbers;
+    ColourTable[PrimaryLineColour] = colours.PrimaryLines;
+    ColourTable[SecondaryLineColour] = colours.SecondaryLines;
+    ColourTable[PencilmarkLineColour] = colours.PencilmarkLines;
+    ColourTable[HintCellColour] = colours.HintCells;
+    ColourTable[HintDomainColour] = colours.HintDomains;
+    ColourTable[AlertColour] = colours.Alerts;
+    ColourTable[MarginColour] = colours.Margin;
+}
 
 void Load(const Preset &preset)
 {
-    ColourTable = preset.Colours;
+    Load(preset.In);
     GivenTexture = preset.Tiles.Given;
     UnknownTexture = preset.Tiles.Unknown;
     GridTexture = preset.Tiles.Grid;

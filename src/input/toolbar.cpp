@@ -30,11 +30,6 @@ namespace {
 std::int32_t selectTag;
 std::int32_t editTag;
 
-constexpr Colour Rgb(std::uint32_t red, std::uint32_t green, std::uint32_t blue)
-{
-    return red << 16 | green << 8 | blue;
-}
-
 constexpr Colour IdleColour = Rgb(192, 192, 192);
 
 // What the button of a mode shows while the mode is on.
