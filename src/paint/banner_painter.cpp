@@ -5,6 +5,7 @@
 #include "outside/board.h"
 #include "paint/board_painter.h"
 #include "paint/text_painter.h"
+#include "paint/toolkit_colour.h"
 
 #include <array>
 
@@ -41,7 +42,7 @@ Box MakeBox(double points, std::string_view text, int pictureWidth)
 void FillBox(QPainter &painter, const Rectangle &place, int margin, std::size_t colour)
 {
     painter.fillRect(place.X - margin, place.Y - margin, place.Width + 2 * margin,
-                     place.Height + 2 * margin, QColor::fromRgb(StandardColours[colour]));
+                     place.Height + 2 * margin, ToolkitColour(StandardColours[colour]));
 }
 
 void WriteBoxText(QPainter &painter, const Box &box, int offset, std::size_t colour)

@@ -71,9 +71,8 @@ void FrameCell(const Canvas &canvas, CellWord word, int x, int y)
     const bool given = (word & GivenBit) != 0;
     const Flag shown = selected ? SelectedCells3D : given ? GivenCells3D : UnknownCells3D;
     if (shown != False) {
-        DrawFrame3D(canvas, selected ? Sunken : Raised, FrameThickness, x + FrameThickness,
-                    CellWidth - 2 * FrameThickness, y + FrameThickness,
-                    CellHeight - 2 * FrameThickness);
+        DrawFrameWithin3D(canvas, selected ? Sunken : Raised, FrameThickness,
+                          {x, y, CellWidth, CellHeight});
     }
 }
 

@@ -20,7 +20,7 @@ struct LegColours {
 
 constexpr Colour Grey(Colour level)
 {
-    return level << 16 | level << 8 | level;
+    return Rgb(level, level, level);
 }
 
 constexpr std::array<LegColours, 3> Styles{{
@@ -66,6 +66,12 @@ void DrawFrame3D(const Canvas &target, int style, int thickness, int x, int widt
     if (index < Styles.size()) {
         DrawLegs(target, Styles[index], thickness, {x, y, width, height});
     }
+}
+
+void DrawFrameWithin3D(const Canvas &target, int style, int thickness, const Rectangle &place)
+{
+    DrawFrame3D(target, style, thickness, place.X + thickness, place.Width - 2 * thickness,
+                place.Y + thickness, place.Height - 2 * thickness);
 }
 
 void DrawBoxFrame3D(const Canvas &target, bool raised, int thickness, int x, int width, int y,

@@ -16,8 +16,11 @@ inline constexpr int RaisedDimmer = 2;
 void DrawFrame3D(const Canvas &target, int style, int thickness, int x, int width, int y,
                  int height);
 
-// The same frame in the colour of the primary lines and its dark shade: dark at the bottom and
-// the right when raised, at the top and the left when not.
+// Draws the same frame within a rectangle, along its edges.
+void DrawFrameWithin3D(const Canvas &target, int style, int thickness, const Rectangle &place);
+
+// Draws a frame round a rectangle in the colour of the primary lines and its dark shade: dark at
+// the bottom and the right when raised, at the top and the left when not.
 void DrawBoxFrame3D(const Canvas &target, bool raised, int thickness, int x, int width, int y,
                     int height);
 

@@ -121,9 +121,7 @@ void TextureBackground(const Canvas &canvas)
 
 void DrawExteriorBorder(const Canvas &canvas)
 {
-    DrawFrame3D(canvas, Raised, BorderThickness, BorderThickness,
-                canvas.Width - 2 * BorderThickness, BorderThickness,
-                canvas.Height - 2 * BorderThickness);
+    DrawFrameWithin3D(canvas, Raised, BorderThickness, {0, 0, canvas.Width, canvas.Height});
 }
 
 } // namespace kelvarine

@@ -4,6 +4,7 @@
 #include "board/look.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
+#include "paint/toolkit_colour.h"
 
 #include <QImage>
 #include <QPainter>
@@ -42,7 +43,7 @@ void DrawLinks(QImage &picture)
     }
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor::fromRgb(ColourTable[AlertColour]), LinkPen));
+    painter.setPen(QPen(ToolkitColour(ColourTable[AlertColour]), LinkPen));
     if (links) {
         DrawLines(painter, StrongLinks());
     }

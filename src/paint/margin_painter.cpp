@@ -4,6 +4,7 @@
 #include "board/margin.h"
 #include "grid/colour.h"
 #include "paint/text_painter.h"
+#include "paint/toolkit_colour.h"
 
 #include <algorithm>
 
@@ -28,8 +29,8 @@ void Write(QPainter &painter, const Pen &pen, Point place, std::string_view text
 // A thin edge that lets the client area look sunk into the window.
 void DrawWindowEdge(QPainter &painter, int width, int height)
 {
-    const QColor light = QColor::fromRgb(StandardColours[15]);
-    const QColor dark = QColor::fromRgb(StandardColours[8]);
+    const QColor light = ToolkitColour(StandardColours[15]);
+    const QColor dark = ToolkitColour(StandardColours[8]);
     painter.fillRect(0, 0, width, 1, dark);
     painter.fillRect(0, 0, 1, height, dark);
     painter.fillRect(0, height - 1, width, 1, light);
@@ -73,7 +74,7 @@ void WriteRatingAndGivenCount(QPainter &painter, const Pen &pen)
 
 void PaintWindowTexts(QPainter &painter, int clientWidth, int clientHeight)
 {
-    painter.fillRect(0, 0, clientWidth, clientHeight, QColor::fromRgb(ColourTable[MarginColour]));
+    painter.fillRect(0, 0, clientWidth, clientHeight, ToolkitColour(ColourTable[MarginColour]));
     DrawWindowEdge(painter, clientWidth, clientHeight);
     if (MarginThickness < LeastTextMargin) {
         return;
@@ -84,7 +85,7 @@ void PaintWindowTexts(QPainter &painter, int clientWidth, int clientHeight)
         WriteColumnLabels(painter, pen);
         WriteRowLabels(painter, pen);
     } else {
-        pen = {FaceOf(painter.font()), painter.pen().color().rgb() & 0xFFFFFF};
+        pen = {FaceOf(painter.font()), ColourOf(painter.pen().color().rgb())};
     }
     WriteRatingAndGivenCount(painter, pen);
 }

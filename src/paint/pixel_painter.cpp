@@ -1,6 +1,7 @@
 #include "paint/pixel_painter.h"
 
 #include "grid/colour.h"
+#include "paint/toolkit_colour.h"
 
 #include <algorithm>
 #include <cmath>
@@ -94,7 +95,7 @@ void FillCorners(const Canvas &canvas, Point a, Point b, Colour colour)
     if (canvas.Paper != nullptr) {
         canvas.Paper->fillRect(
             QRectF(area.Left, area.Top, area.Right - area.Left, area.Bottom - area.Top),
-            QColor::fromRgb(colour));
+            ToolkitColour(colour));
     }
 }
 
@@ -106,7 +107,7 @@ void DrawLine(const Canvas &canvas, Point from, Point to, Colour colour)
     }
     if (canvas.Paper != nullptr) {
         const QPointF middle(0.5, 0.5); // of a pixel
-        canvas.Paper->setPen(QPen(QColor::fromRgb(colour), 1, Qt::SolidLine, Qt::FlatCap));
+        canvas.Paper->setPen(QPen(ToolkitColour(colour), 1, Qt::SolidLine, Qt::FlatCap));
         canvas.Paper->drawLine(QPointF(from.X, from.Y) + middle, QPointF(to.X, to.Y) + middle);
         return;
     }

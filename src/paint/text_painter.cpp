@@ -2,6 +2,7 @@
 
 #include "grid/colour.h"
 #include "paint/text.h"
+#include "paint/toolkit_colour.h"
 
 #include <QFont>
 #include <QGlyphRun>
@@ -112,7 +113,7 @@ void WriteText(QPainter &painter, const Face &face, Point place, std::string_vie
     run.setRawFont(face.Font);
     run.setGlyphIndexes(glyphs);
     run.setPositions(places);
-    painter.setPen(QColor::fromRgb(colour));
+    painter.setPen(ToolkitColour(colour));
     painter.drawGlyphRun(QPointF(place.X, place.Y + face.Ascent), run);
 }
 

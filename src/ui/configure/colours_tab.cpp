@@ -3,6 +3,7 @@
 #include "configure/look_settings.h"
 #include "grid/colour.h"
 #include "paint/text.h"
+#include "paint/toolkit_colour.h"
 #include "ui/controls/colour_swatches.h"
 #include "ui/controls/configure_controls.h"
 #include "ui/controls/palette_picture.h"
@@ -59,7 +60,7 @@ protected:
     {
         const QPoint place = event->position().toPoint();
         if (picture.valid(place) && ChangesCount()) {
-            pick(picture.pixel(place) & RGB_MASK);
+            pick(ColourOf(picture.pixel(place)));
         }
     }
 
@@ -173,7 +174,7 @@ QLayout *ColoursPanel::MakeBars()
 void ColoursPanel::ShowColour()
 {
     const QScopedValueRollback showing(ShowingValues, true);
-    const QColor colour = QColor::fromRgb(ColourTable[ColourIndex]);
+    const QColor colour = ToolkitColour(ColourTable[ColourIndex]);
     bars[0]->setValue(colour.red());
     bars[1]->setValue(colour.green());
     bars[2]->setValue(colour.blue());
@@ -183,7 +184,7 @@ void ColoursPanel::ShowColour()
 void ColoursPanel::TakeBars()
 {
     const QRgb colour = qRgb(bars[0]->value(), bars[1]->value(), bars[2]->value());
-    SetColour(ColourIndex, colour & RGB_MASK);
+    SetColour(ColourIndex, ColourOf(colour));
     update();
 }
 

@@ -46,12 +46,6 @@ void PaintButton(QAbstractButton &button, Colour colour, const Painting &paint)
     }
 }
 
-void DrawFrame(const Canvas &canvas, int style, int thickness, int width, int height)
-{
-    DrawFrame3D(canvas, style, thickness, thickness, width - 2 * thickness, thickness,
-                height - 2 * thickness);
-}
-
 } // namespace
 
 void PressButton::mousePressEvent(QMouseEvent *event)
@@ -77,7 +71,7 @@ void ColourSwatch::paintEvent(QPaintEvent * /*event*/)
 {
     const std::int32_t *texture = TextureOf(colourIndex);
     PaintButton(*this, ColourTable[colourIndex], [&](const Canvas &canvas, int width, int height) {
-        DrawFrame(canvas, Sunken, FrameThickness, width, height);
+        DrawFrameWithin3D(canvas, Sunken, FrameThickness, {0, 0, width, height});
         if (texture != nullptr) {
             TextureRectangle(canvas, {0, 0, width, height}, *texture);
         }
@@ -97,7 +91,7 @@ void TextureTile::paintEvent(QPaintEvent * /*event*/)
     constexpr Colour white = 0xFFFFFF;
     PaintButton(*this, white, [&](const Canvas &canvas, int width, int height) {
         TextureRectangle(canvas, {0, 0, width, height}, tileNumber);
-        DrawFrame(canvas, RaisedDimmer, 1, width, height);
+        DrawFrameWithin3D(canvas, RaisedDimmer, 1, {0, 0, width, height});
     });
 }
 

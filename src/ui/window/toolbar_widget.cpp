@@ -2,6 +2,7 @@
 
 #include "input/toolbar.h"
 #include "paint/text.h"
+#include "paint/toolkit_colour.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -60,7 +61,7 @@ void ToolButtonWidget::Update()
     setToolTip(Text(button.Tip));
     setAccessibleName(SpokenName(number, button));
     setAccessibleDescription(Text(button.Tip));
-    const QColor background = QColor::fromRgb(button.Background);
+    const QColor background = ToolkitColour(button.Background);
     QPalette colours = palette();
     colours.setColor(QPalette::Button, background);
     colours.setColor(QPalette::ButtonText, InkOn(background));
