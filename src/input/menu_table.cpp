@@ -53,7 +53,7 @@ void PressKey(std::int32_t /*number*/)
     KeyDown(Code, Shift);
 }
 
-void ViewNumber(std::int32_t number)
+void mnuGridView(std::int32_t number)
 {
     Flag update = False;
     ProcessNumKey(number, ViewMode, Replace, update);
@@ -65,26 +65,26 @@ Flag Flipped(Flag flag)
     return flag == False ? True : False;
 }
 
-void ToggleToolbar()
+void mnuViewToolBar()
 {
     ToolbarVisible = Flipped(ToolbarVisible);
     ResizeWindow();
 }
 
-void ToggleToolTips()
+void mnuViewToolTips()
 {
     ToolTipsVisible = Flipped(ToolTipsVisible);
     UpdateToolTips();
     UpdateToolbar();
 }
 
-void SetStrongLinks(std::int32_t mode)
+void mnuStrongLinks(std::int32_t mode)
 {
     StrongLinkMode = mode;
     DrawBoard();
 }
 
-void ToggleCoordinates()
+void mnuViewCoordinates()
 {
     CoordinatesVisible = Flipped(CoordinatesVisible);
     if (CoordinatesVisible != False && MarginThickness < LeastTextMargin) {
@@ -186,20 +186,21 @@ constexpr std::array Rows{
     MenuRow{3, "mnuMirrorGrid", "&Mirror (horizontal)", "Shift+M", Plain<mnuMirrorGrid>},
     MenuRow{3, "mnuFlipGrid", "&Flip (vertical)", "Shift+F", Plain<mnuFlipGrid>},
     MenuRow{1, "mnuView", "&View", ""},
-    MenuRow{2, "mnuViewToolBar", "&Toolbar", "", Plain<ToggleToolbar>, 0, 0, nullptr, ShowsToolbar},
-    MenuRow{2, "mnuViewToolTips", "T&oolbar tips", "", Plain<ToggleToolTips>, 0, 0, ShowsToolbar,
+    MenuRow{2, "mnuViewToolBar", "&Toolbar", "", Plain<mnuViewToolBar>, 0, 0, nullptr,
+            ShowsToolbar},
+    MenuRow{2, "mnuViewToolTips", "T&oolbar tips", "", Plain<mnuViewToolTips>, 0, 0, ShowsToolbar,
             ShowsToolTips},
-    MenuRow{2, "mnuViewCoordinates", "&Coordinates", "", Plain<ToggleCoordinates>, 0, 0, nullptr,
+    MenuRow{2, "mnuViewCoordinates", "&Coordinates", "", Plain<mnuViewCoordinates>, 0, 0, nullptr,
             ShowsCoordinates},
     MenuRow{2, "mnuAlerts", "&Alerts ...", "", Plain<mnuAlerts>},
     MenuRow{2, "mnuStrong", "&Strong links", ""},
-    MenuRow{3, "mnuStrongLinks", "&Never", "", SetStrongLinks, 0, 0, nullptr, LinksAsSet},
-    MenuRow{3, "mnuStrongLinks", "&Only in isolated views", "", SetStrongLinks, 1, 1, nullptr,
+    MenuRow{3, "mnuStrongLinks", "&Never", "", mnuStrongLinks, 0, 0, nullptr, LinksAsSet},
+    MenuRow{3, "mnuStrongLinks", "&Only in isolated views", "", mnuStrongLinks, 1, 1, nullptr,
             LinksAsSet},
-    MenuRow{3, "mnuStrongLinks", "&Always", "", SetStrongLinks, 2, 2, nullptr, LinksAsSet},
+    MenuRow{3, "mnuStrongLinks", "&Always", "", mnuStrongLinks, 2, 2, nullptr, LinksAsSet},
     MenuRow{2, "mnuIsolatedNumbers", "&Isolated numbers", ""},
-    MenuRow{3, "mnuGridView", "&All", "Ctrl+Shift+#", ViewNumber, 0, 0, nullptr, IsInView},
-    MenuRow{3, "mnuGridView", "&#'s", "Ctrl+Shift+#", ViewNumber, 1, 9, nullptr, IsInView},
+    MenuRow{3, "mnuGridView", "&All", "Ctrl+Shift+#", mnuGridView, 0, 0, nullptr, IsInView},
+    MenuRow{3, "mnuGridView", "&#'s", "Ctrl+Shift+#", mnuGridView, 1, 9, nullptr, IsInView},
     MenuRow{1, "mnuStatistics", "&Statistics", "", Plain<mnuStatistics>},
     MenuRow{1, "mnuHelp", "&Help", ""},
     MenuRow{2, "mnuHelpContents", "&Contents ...", "", Plain<mnuHelpContents>},

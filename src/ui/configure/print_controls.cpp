@@ -50,7 +50,7 @@ MeasureBox *AddMeasure(QFormLayout *form, const char *name, const char *caption,
 
 void MakePlaceFrame(PrintControls &on, QWidget *panel, const Refresh &refresh)
 {
-    on.PlaceFrame = Named(new QGroupBox(panel), "fraPrintPlace", "Place and size");
+    on.PlaceFrame = Named(new QGroupBox(panel), "framePrintPlace", "Place and size");
     auto *form = new QFormLayout(on.PlaceFrame);
     on.Left = AddMeasure(
         form, "txtPrintLeft", "Left", [](double inches) { PrintLeft = inches; }, refresh);
@@ -82,7 +82,7 @@ QStringList LayoutEntries()
 
 void MakeBatchFrame(PrintControls &on, QWidget *panel, const Refresh &refresh)
 {
-    on.BatchFrame = Named(new QGroupBox(panel), "fraPrintBatch", "Batch");
+    on.BatchFrame = Named(new QGroupBox(panel), "framePrintBatch", "Batch");
     auto *form = new QFormLayout(on.BatchFrame);
     on.GamesPerPageList = MakeList(on.BatchFrame, "cmbGamesPerPage", "Games per page",
                                    LayoutEntries(), PrintGamesPerPage, [refresh](int index) {

@@ -72,12 +72,12 @@ void CallFromEventLoop(std::function<void()> deed)
 
 void SetClockTimer(bool on)
 {
-    SwitchTimer(Window()->ClockTimer, on, ClockInterval);
+    SwitchTimer(Window()->tmrSolveTime, on, ClockInterval);
 }
 
 void SetWinTimer(bool on, int milliseconds)
 {
-    SwitchTimer(Window()->WinTimer, on, milliseconds);
+    SwitchTimer(Window()->tmrGameWon, on, milliseconds);
 }
 
 } // namespace kelvarine

@@ -34,7 +34,7 @@ constexpr std::chrono::seconds TimeToFinish{2};
 class SampleSource : public QIODevice {
 public:
     SampleSource(WaveSound sound, bool loop, QObject *parent)
-        : QIODevice(parent), sound_(std::move(sound)), loop_(loop)
+        : QIODevice(parent), wave(std::move(sound)), repeats(loop)
     {
         open(QIODevice::ReadOnly | QIODevice::Unbuffered);
     }
@@ -46,7 +46,7 @@ public:
 
     [[nodiscard]] qint64 bytesAvailable() const override
     {
-        const std::size_t rest = loop_ ? sound_.Samples.size() : sound_.Samples.size() - place_;
+        const std::size_t rest = repeats ? wave.Samples.size() : wave.Samples.size() - place;
         return static_cast<qint64>(rest) + QIODevice::bytesAvailable();
     }
 
@@ -54,7 +54,7 @@ protected:
     qint64 readData(char *data, qint64 size) override
     {
         return static_cast<qint64>(
-            TakeSamples(sound_, place_, loop_, data, static_cast<std::size_t>(size)));
+            TakeSamples(wave, place, repeats, data, static_cast<std::size_t>(size)));
     }
 
     qint64 writeData(const char * /*data*/, qint64 /*size*/) override
@@ -63,9 +63,9 @@ protected:
     }
 
 private:
-    WaveSound sound_;
-    std::size_t place_ = 0;
-    bool loop_;
+    WaveSound wave;
+    std::size_t place = 0;
+    bool repeats;
 };
 
 double volumeInForce = 1.0; // 0..1

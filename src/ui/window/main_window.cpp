@@ -89,8 +89,8 @@ void ClientArea::mousePressEvent(QMouseEvent *event)
 MainWindow::MainWindow() : Client(new ClientArea(this)), timeBar(new QMenuBar(this))
 {
     mainWindow = this;
-    connect(&ClockTimer, &QTimer::timeout, this, ClockTick);
-    connect(&WinTimer, &QTimer::timeout, this, WinDisplayTick);
+    connect(&tmrSolveTime, &QTimer::timeout, this, ClockTick);
+    connect(&tmrGameWon, &QTimer::timeout, this, WinDisplayTick);
     setCentralWidget(Client);
     BuildMenus();
     setMinimumSize(SmallestSize);

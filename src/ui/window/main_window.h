@@ -43,8 +43,8 @@ public:
     void UpdateMenuCaptions();
 
     ClientArea *const Client;
-    QTimer ClockTimer; // tmrSolveTime
-    QTimer WinTimer;   // tmrGameWon
+    QTimer tmrSolveTime;
+    QTimer tmrGameWon;
 
     // Puts the window where it last stood, in reach of the screens that are there, and shows it.
     void ShowAtItsPlace();

@@ -159,12 +159,12 @@ TEST_F(PrintTabs, TabulatorGoesThroughTheControlsAsTheyAreRead)
 
 TEST_F(PrintTabs, CurrentGameEnablesTheFrameOfThePlaceAndNewGamesThatOfTheBatch)
 {
-    EXPECT_TRUE(Find<QGroupBox>("fraPrintPlace")->isEnabled());
-    EXPECT_FALSE(Find<QGroupBox>("fraPrintBatch")->isEnabled());
+    EXPECT_TRUE(Find<QGroupBox>("framePrintPlace")->isEnabled());
+    EXPECT_FALSE(Find<QGroupBox>("framePrintBatch")->isEnabled());
     Find<QRadioButton>("optPrintGame(1)")->click();
     EXPECT_EQ(PrintMode, PrintNewGames);
-    EXPECT_FALSE(Find<QGroupBox>("fraPrintPlace")->isEnabled());
-    EXPECT_TRUE(Find<QGroupBox>("fraPrintBatch")->isEnabled());
+    EXPECT_FALSE(Find<QGroupBox>("framePrintPlace")->isEnabled());
+    EXPECT_TRUE(Find<QGroupBox>("framePrintBatch")->isEnabled());
     Find<QRadioButton>("optPrintGame(0)")->click();
     EXPECT_EQ(PrintMode, PrintCurrent);
 }

@@ -56,7 +56,7 @@ TEST(MainWindow, CancelledClosingLeavesTheWinDisplayOn)
     GameModified = True;
     AnswerBoxes([&] { program.Main->close(); }, {QMessageBox::Cancel});
     EXPECT_EQ(WinDisplayRunning, True);
-    EXPECT_TRUE(program.Main->WinTimer.isActive());
+    EXPECT_TRUE(program.Main->tmrGameWon.isActive());
     StopWinDisplay();
 }
 
