@@ -29,7 +29,7 @@ std::int32_t VolumeBar(std::size_t index)
 void SetVolume(std::size_t index, std::int32_t bar)
 {
     assert(index < SoundVolumes.size());
-    assert(bar >= 0 && bar <= 255);
+    assert(bar >= 0 && bar <= VolumeBarMost);
     SoundVolumes[index] = bar * VolumeStep;
 }
 
