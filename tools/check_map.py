@@ -19,8 +19,11 @@ IDENTIFIER = re.compile(r"[A-Za-z_]\w*$")
 PATH = re.compile(r"[\w.*<>-]+(/[\w.*<>-]+)+/?$|[\w-]+\.(h|cpp|py|txt|md)$")
 LINKS = re.compile(r"^\| `(\w+)` \| (engine|engine and desktop|neither) \|$", re.M)
 
-# Words in the map's quotes that are no names of this house: the toolkit's, the language's, the system's.
-FOREIGN = {"extern", "constexpr", "static_assert", "closeEvent", "ctest", "debug", "sanitize", "fuzz",
+# Words in the map's quotes that are no names of this house: the toolkit's, the language's, the system's,
+# and forms that names have.
+FOREIGN = {"LikeThis", "likeThis", "likeThis_", "mnu", "cmd", "opt", "chk", "txt", "cmb", "hsb", "vsb",
+           "lbl", "tmr", "pic", "frm",
+           "extern", "constexpr", "static_assert", "closeEvent", "ctest", "debug", "sanitize", "fuzz",
            "player", "release", "Signature: N"}
 
 

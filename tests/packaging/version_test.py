@@ -47,9 +47,11 @@ def main():
     expect(metainfo(packaging), (version, day), "the metainfo")
     expect(manual_page(packaging), (version, day), "the manual page")
     expect(package_changelog(packaging), (version, day), "the package's changelog")
-    # About asks the program for its version, which stands there as the toolkit's text.
+    # About asks the program for its version, which stands there as the toolkit's text: to its end, and
+    # not as the end of a longer one.
     program = (pathlib.Path(build) / "kelvarine").read_bytes()
-    expect(f"\0{version}\0".encode("utf-16-le") in program, True, "the program")
+    text = re.escape(f"{version}\0".encode("utf-16-le"))
+    expect(re.search(rb"(?<![0-9.]\0)" + text, program) is not None, True, "the program")
 
 
 if __name__ == "__main__":
