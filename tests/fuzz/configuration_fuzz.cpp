@@ -58,7 +58,7 @@ void UseSettings(std::uint8_t column, std::uint8_t row)
     Require(CellAt(CellX(c), CellY(r)).has_value());
     Require(PartnersOf(RevealPattern, MakeCell(c, r)).size() <= 8);
     for (const std::int32_t texture : {GivenTexture, UnknownTexture, GridTexture}) {
-        Require(texture >= 0 && texture < 13);
+        Require(IsIn(TextureRange, texture));
     }
     for (std::size_t event = 0; event < SoundVolumes.size(); ++event) {
         PlayEventSound(SoundFile(AlertFiles, AlertSound), event, false);
