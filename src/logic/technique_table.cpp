@@ -270,19 +270,12 @@ constexpr bool IsWhole(const TechniqueRow &row)
            &row == &Rows[static_cast<std::size_t>(row.Number) - 1];
 }
 
-constexpr bool HasOperations(const TechniqueRow &row)
-{
-    return row.DriverApply[0] != nullptr && row.Driver[0] != nullptr && row.AlertScan[0] != nullptr;
-}
-
 static_assert(std::ranges::all_of(Rows, IsWhole), "a row lacks something or stands out of order");
-static_assert(std::ranges::all_of(RealRows, HasOperations), "a technique does nothing");
 static_assert(std::ranges::all_of(RealRows,
                                   [](const TechniqueRow &row) {
                                       return !row.ReportName.empty() && !row.HelpPage.empty();
                                   }),
               "a technique has no name in the report or no page in the help");
-static_assert(!HasOperations(Rows.back()), "the last row is the one kept free");
 
 // The bits of the rows whose level is wished, of all rows with 0.
 constexpr std::uint32_t BitsOfRows(std::int32_t level)

@@ -156,6 +156,16 @@ TEST_F(TechniqueList, EachHasOneLevelAtTheStartAndItsWord)
     }
 }
 
+TEST_F(TechniqueList, EachDoesSomethingForDriverAndAlerts)
+{
+    for (const TechniqueRow &row : TechniqueRows) {
+        const bool isKeptFree = &row == &TechniqueRows.back();
+        for (const OperationList &operations : {row.DriverApply, row.Driver, row.AlertScan}) {
+            EXPECT_EQ(operations[0] == nullptr, isKeptFree) << row.Caption;
+        }
+    }
+}
+
 TEST_F(TechniqueList, EachHasNamesOfItsOwn)
 {
     std::set<std::string_view> captions;
