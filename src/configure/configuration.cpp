@@ -49,7 +49,7 @@ void TakeConfiguration(std::string_view bytes)
     }
     for (const SettingRow &row : SettingTable) {
         if (const std::size_t offset = OffsetOf(row); offset < whole) {
-            const std::uint32_t word = NumberAt<std::uint32_t>(bytes, offset);
+            const auto word = NumberAt<std::uint32_t>(bytes, offset);
             TakeSetting(row.Target, word);
         }
     }

@@ -76,7 +76,7 @@ std::optional<WaveSound> ReadForm(std::string_view chunk)
         kind = NumberAt<std::uint16_t>(chunk, ExtendedKindAt);
     }
     const std::uint32_t channels = NumberAt<std::uint16_t>(chunk, 2);
-    const std::uint32_t rate = NumberAt<std::uint32_t>(chunk, 4);
+    const auto rate = NumberAt<std::uint32_t>(chunk, 4);
     const std::optional<SampleForm> form = FormOf(kind, NumberAt<std::uint16_t>(chunk, 14));
     if (!form || channels < 1 || channels > 8 || rate < 1000 || rate > 192000) {
         return std::nullopt;

@@ -67,7 +67,7 @@ Day Today()
 
 void CallFromEventLoop(std::function<void()> deed)
 {
-    QTimer::singleShot(0, Window(), std::move(deed));
+    QMetaObject::invokeMethod(Window(), std::move(deed), Qt::QueuedConnection);
 }
 
 void SetClockTimer(bool on)
