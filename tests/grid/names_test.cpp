@@ -130,11 +130,11 @@ TEST_F(Names, UnknownSettingsProduceNothingForTheirElement)
 
 TEST_F(Names, BoxesByAllTheirCells)
 {
-    constexpr const char *expected[3][3]{
+    constexpr std::array<std::array<std::string_view, 3>, 3> expected{{
         {"upper-left", "upper-center", "upper-right"},
         {"center-left", "center", "center-right"},
         {"lower-left", "lower-center", "lower-right"},
-    };
+    }};
     for (int column = 1; column <= 9; ++column) {
         for (int row = 1; row <= 9; ++row) {
             EXPECT_EQ(BoxName(column, row), expected[(row - 1) / 3][(column - 1) / 3]);

@@ -67,7 +67,13 @@ Day Today()
 
 void CallFromEventLoop(std::function<void()> deed)
 {
-    QMetaObject::invokeMethod(Window(), std::move(deed), Qt::QueuedConnection);
+    auto *turn = new QTimer(Window());
+    turn->setSingleShot(true);
+    QObject::connect(turn, &QTimer::timeout, turn, [turn, deed = std::move(deed)] {
+        turn->deleteLater();
+        deed();
+    });
+    turn->start(0);
 }
 
 void SetClockTimer(bool on)
