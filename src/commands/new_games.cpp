@@ -23,21 +23,17 @@ constexpr std::int32_t FewestGivensFound = 17; // no game with one solution has 
 
 // ---- Checks of the settings ----------------------------------------------------------------
 
-bool IsSelected(std::size_t level)
+bool AcceptsNoLevel()
 {
-    return (DifficultySelection & BitTable[level]) != 0;
-}
-
-bool SelectsNoLevel()
-{
-    return (DifficultySelection & 0x3E) == 0;
+    return (DifficultySelection & LevelBits) == 0;
 }
 
 // Trial and error makes up the extreme level, so that one always has something.
 bool SelectsLevelWithTechniques()
 {
-    for (std::size_t level = 1; level <= Levels; ++level) {
-        if (IsSelected(level) && (LevelTable[level] != 0 || level == RatedExtreme)) {
+    for (std::int32_t level = RatedEasy; level <= Levels; ++level) {
+        if (AcceptsLevel(level) &&
+            (LevelTable[static_cast<std::size_t>(level)] != 0 || level == RatedExtreme)) {
             return true;
         }
     }
@@ -47,11 +43,12 @@ bool SelectsLevelWithTechniques()
 // Whether the logic that is applied to new games would solve every game of the wished levels.
 bool AppliedLogicSolvesAll()
 {
-    if (SolveOnStart == False || IsSelected(RatedExtreme)) {
+    if (SolveOnStart == False || AcceptsLevel(RatedExtreme)) {
         return false;
     }
-    for (std::size_t level = 1; level <= Levels; ++level) {
-        if (IsSelected(level) && (LevelTable[level] & ~SolveMask) != 0) {
+    for (std::int32_t level = RatedEasy; level <= Levels; ++level) {
+        if (AcceptsLevel(level) &&
+            (LevelTable[static_cast<std::size_t>(level)] & ~SolveMask) != 0) {
             return false;
         }
     }
@@ -95,7 +92,7 @@ std::string FewGivensQuestion()
 // True when the settings can work, or the player wants to try all the same.
 bool SettingsAreAccepted()
 {
-    if (SelectsNoLevel()) {
+    if (AcceptsNoLevel()) {
         ShowMessage(NoLevelNotice);
         return false;
     }

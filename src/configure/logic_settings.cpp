@@ -61,7 +61,7 @@ void DeselectAllAlerts()
 
 void SetIncludeSingles(bool on)
 {
-    IncludeSingles = on ? True : False;
+    IncludeSingles = FlagOf(on);
     ScanAndPaint();
 }
 

@@ -62,7 +62,7 @@ void SetThickness(std::int32_t &thickness, std::int32_t pixels)
 
 void SetLookFlag(Flag &flag, bool on)
 {
-    flag = on ? True : False;
+    flag = FlagOf(on);
     DrawBoard();
 }
 

@@ -37,7 +37,7 @@ void SetCoordBrackets(std::int32_t brackets)
 
 void SwitchCoordOrder()
 {
-    CoordRowFirst = CoordRowFirst == False ? True : False;
+    CoordRowFirst = FlagOf(CoordRowFirst == False);
 }
 
 } // namespace kelvarine

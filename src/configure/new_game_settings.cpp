@@ -10,11 +10,6 @@ std::string DifficultyCaption(std::int32_t level)
     return " " + std::string(WordsOfRating(level).Capital);
 }
 
-bool AcceptsLevel(std::int32_t level)
-{
-    return (DifficultySelection & BitOf(level)) != 0;
-}
-
 void SetAcceptedLevels(const std::array<bool, Levels + 1> &boxes)
 {
     DifficultySelection = 0;

@@ -13,9 +13,6 @@ namespace kelvarine {
 // Caption of the box of a level, 1..5.
 std::string DifficultyCaption(std::int32_t level);
 
-// True when games of a level, 1..5, are accepted.
-bool AcceptsLevel(std::int32_t level);
-
 // Makes the accepted levels anew out of the five boxes; element 0 is not used.
 void SetAcceptedLevels(const std::array<bool, Levels + 1> &boxes);
 

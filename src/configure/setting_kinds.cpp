@@ -51,7 +51,7 @@ std::uint32_t WordOf(const Truth &truth)
 
 void Take(const Truth &truth, std::uint32_t word)
 {
-    *truth.Setting = word != 0 ? True : False;
+    *truth.Setting = FlagOf(word != 0);
 }
 
 std::uint32_t WordOf(const Mask &mask)
@@ -121,7 +121,7 @@ std::uint32_t WordOf(const WindowState &state)
 
 void Take(const WindowState &state, std::uint32_t word)
 {
-    *state.Maximised = word == MaximisedState ? True : False;
+    *state.Maximised = FlagOf(word == MaximisedState);
 }
 
 std::uint32_t WordOf(const SoundIndex &index)

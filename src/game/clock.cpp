@@ -26,7 +26,7 @@ constexpr std::string_view PausedPrefix = "Paused";
 
 void RunClock(bool on)
 {
-    ClockRunning = on ? True : False;
+    ClockRunning = FlagOf(on);
     SetClockTimer(on);
 }
 

@@ -267,9 +267,7 @@ bool UsedWhatIsRequired()
 
 bool HasWishedDifficulty()
 {
-    const std::uint32_t bit = BitOf(GameRating);
-    return (DifficultySelection & bit) != 0 &&
-           (LevelTable[RequiredRow] == 0 || UsedWhatIsRequired());
+    return AcceptsLevel(GameRating) && (LevelTable[RequiredRow] == 0 || UsedWhatIsRequired());
 }
 
 bool HasWishedGivens()
@@ -326,6 +324,11 @@ void FinishGame()
 }
 
 } // namespace
+
+bool AcceptsLevel(std::int32_t level)
+{
+    return (DifficultySelection & BitOf(level)) != 0;
+}
 
 void SetGeneratorDefaults()
 {

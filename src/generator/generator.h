@@ -3,6 +3,7 @@
 #pragma once
 
 #include "grid/cell_word.h"
+#include "grid/rating_words.h"
 
 #include <cstdint>
 
@@ -21,6 +22,12 @@ extern std::int32_t GamesScreened;
 
 // Puts the state above to its defaults.
 void SetGeneratorDefaults();
+
+// The bits of DifficultySelection that stand for a level.
+inline constexpr std::uint32_t LevelBits = BitOf(Levels + 1) - BitOf(RatedEasy);
+
+// True when games of a level, 1..5, are accepted.
+bool AcceptsLevel(std::int32_t level);
 
 // Fills Grid with a random complete solution: GivenBit and one bit of SolutionMask in each word.
 void MakeSolvedGrid();

@@ -22,6 +22,11 @@ using Flag = std::int32_t;
 inline constexpr Flag True = -1;
 inline constexpr Flag False = 0;
 
+constexpr Flag FlagOf(bool truth)
+{
+    return truth ? True : False;
+}
+
 inline constexpr CellWord GivenBit = 0x1;
 inline constexpr CellWord CandidateMask = 0x3FE;
 inline constexpr CellWord SelectedBit = 0x400;

@@ -62,7 +62,7 @@ void mnuGridView(std::int32_t number)
 
 Flag Flipped(Flag flag)
 {
-    return flag == False ? True : False;
+    return FlagOf(flag == False);
 }
 
 void mnuViewToolBar()

@@ -13,11 +13,6 @@ bool OneIn(std::mt19937 &random, unsigned count)
     return random() % count == 0;
 }
 
-CellWord BitOf(int number)
-{
-    return CellWord{1} << number;
-}
-
 CellWord &WordAtPlace(std::size_t place)
 {
     return Grid[place % 9 + 1][place / 9 + 1];

@@ -76,7 +76,7 @@ QWidget *MakePatterns(QWidget *parent)
 QWidget *MakeStartFlag(QWidget *parent, const char *name, const char *caption, Flag &setting)
 {
     return MakeCheckBox(parent, Text(name), caption, setting != False,
-                        [&setting](bool on) { setting = on ? True : False; });
+                        [&setting](bool on) { setting = FlagOf(on); });
 }
 
 } // namespace

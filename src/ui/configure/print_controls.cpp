@@ -27,7 +27,7 @@ QCheckBox *MakeFlagBox(QWidget *parent, const char *name, std::string_view capti
                        const Refresh &refresh)
 {
     return MakeCheckBox(parent, name, caption, setting != False, [&setting, refresh](bool on) {
-        setting = on ? True : False;
+        setting = FlagOf(on);
         refresh();
     });
 }
@@ -62,7 +62,7 @@ void MakePlaceFrame(PrintControls &on, QWidget *panel, const Refresh &refresh)
         MakeFlagBox(on.PlaceFrame, "chkPrintCenter", " Center on page", PrintCentre, refresh);
     on.FullPage = MakeCheckBox(on.PlaceFrame, "chkFullPage", " Fit to full page",
                                PrintFullPage != False, [refresh](bool full) {
-                                   SetPrintFullPage(full ? True : False);
+                                   SetPrintFullPage(FlagOf(full));
                                    refresh();
                                });
     on.Aspect = MakeFlagBox(on.PlaceFrame, "chkAspect", " Maintain aspect", PrintAspect, refresh);

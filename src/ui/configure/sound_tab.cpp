@@ -111,7 +111,7 @@ QWidget *MakeSoundTab(QWidget *parent)
     rows->addSpacing(16);
     rows->addWidget(MakeCheckBox(panel, "chkDisableAllSound", " Disable all game sounds",
                                  SoundDisabled != False,
-                                 [](bool on) { SoundDisabled = on ? True : False; }));
+                                 [](bool on) { SoundDisabled = FlagOf(on); }));
     rows->addStretch();
     ShowVolumes(*panel, !QMediaDevices::defaultAudioOutput().isNull());
     return panel;

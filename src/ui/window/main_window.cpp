@@ -159,7 +159,7 @@ void MainWindow::KeepPlace()
     if (!isVisible() || isMinimized()) {
         return;
     }
-    MainMaximised = isMaximized() ? True : False;
+    MainMaximised = FlagOf(isMaximized());
     if (!isMaximized() && !isFullScreen()) {
         kelvarine::KeepPlace(*this, MainPlace);
     }
