@@ -6,6 +6,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
+#include "logic/filling_runs.h"
 #include "logic/kept_settings.h"
 #include "logic/rating.h"
 #include "logic/technique.h"
@@ -132,7 +133,7 @@ void mnuSolveGame()
     const KeptSettings kept;
     SolveMask = CountingMask;
     FillPencilmarks();
-    if (ApplyLogic(SolveForPlayer) != NotSolved) {
+    if (RunByFillings(SolveForPlayer) != NotSolved) {
         StatsCounted = True;
         UpdateStatistics();
     }

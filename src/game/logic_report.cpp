@@ -25,6 +25,9 @@ void AddReportLine(std::string &report, std::string_view name)
 void mnuShowLogicNeeded()
 {
     RateGame();
+    if (GameRating == RatedMultiple) {
+        FindLogicOfCount();
+    }
     // RateGame never yields 0; the branch waits for a value that does not come up.
     if (GameRating == NotRated) {
         ShowMessage("This sudoku has no rating because it has no unknown cells to solve.");

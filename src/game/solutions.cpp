@@ -4,6 +4,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
+#include "logic/filling_runs.h"
 #include "logic/kept_settings.h"
 #include "logic/technique_masks.h"
 #include "outside/board.h"
@@ -96,7 +97,7 @@ void ListSolutions()
         SolveMask = ListingMask;
         SolutionList.clear();
         FillPencilmarks();
-        ApplyLogic(ListSolutions25);
+        RunByFillings(ListSolutions25);
         ShowSolutions();
     }
     Grid = History[SolutionsCopySlot];

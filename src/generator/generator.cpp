@@ -4,6 +4,7 @@
 #include "generator/random_source.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
+#include "logic/filling_runs.h"
 #include "logic/kept_settings.h"
 #include "logic/rating.h"
 #include "logic/technique_masks.h"
@@ -246,7 +247,7 @@ std::optional<bool> HasOneSolution(Cell cell, bool hadOne)
     if (hadOne && GroupIsForced(cell)) {
         return true;
     }
-    if (ApplyLogic(CountSolutions) == Stopped) {
+    if (RunByFillings(CountSolutions) == Stopped) {
         return std::nullopt;
     }
     return SolutionCount == 1;

@@ -2,7 +2,6 @@
 
 #include "grid/history.h"
 #include "logic/chain_search.h"
-#include "logic/solvability.h"
 #include "logic/technique.h"
 #include "logic/technique_masks.h"
 #include "logic/technique_table.h"
@@ -14,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <cassert>
+#include <limits>
 #include <set>
 #include <vector>
 
@@ -53,7 +53,7 @@ struct Run {
     // Set to false before each pass alone. After a dead end it is still true when the techniques
     // are tried with the next number, so that the first of them ends that round; intended.
     Flag Found = False;
-    std::int64_t Passes = 0;
+    std::int64_t PassesLeft = 0;
     int TrialDepth = 0;
     std::array<Trial, MostTrials + 1> Trials{}; // 1..81 used
     std::vector<const TechniqueRow *> Order;
@@ -75,11 +75,6 @@ std::vector<const TechniqueRow *> TechniquesInUse()
         }
     }
     return order;
-}
-
-void RestoreSafeCopy()
-{
-    CopyCells(History[SafeCopySlot], Grid);
 }
 
 void SetTrialNumber(const Trial &trial)
@@ -147,25 +142,6 @@ bool RepeatsTrial(Run &run)
     return false;
 }
 
-// A walk that has been counting for long without a first solution is often one through all trials
-// of a position that has none. When that can be proved, the outcome of the walk is known.
-bool IsHopeless(Run &run)
-{
-    constexpr std::int64_t patience = 20'000; // passes, a tenth of a second
-    ++run.Passes;
-    return run.Mode == CountSolutions && run.Passes == patience && SolutionCount == 0 &&
-           IsProvenUnsolvable(History[SafeCopySlot]);
-}
-
-void RecordSolution()
-{
-    for (std::size_t row = 1; row <= 9; ++row) {
-        for (std::size_t column = 1; column <= 9; ++column) {
-            SolutionList += static_cast<char>('0' + LowestCandidate(Grid[column][row]));
-        }
-    }
-}
-
 Step OnSolvedGrid(Run &run)
 {
     ++SolutionCount;
@@ -202,7 +178,7 @@ Step StartPass(Run &run)
         run.Result = Stopped;
         return Step::Leave;
     }
-    if (IsHopeless(run)) {
+    if (--run.PassesLeft < 0) {
         return Step::NoSolution;
     }
     ClearCellBits(PassMarks);
@@ -356,16 +332,41 @@ void SetDriverDefaults()
     StopRequested = False;
 }
 
-std::int32_t ApplyLogic(std::int32_t mode)
+void StartRun()
 {
-    assert(mode >= SolveAsPlayer && mode <= ListSolutions25);
     SearchActive = True;
     UsedMask = 0;
     SolutionCount = 0;
     CopyCells(Grid, History[SafeCopySlot]);
+}
+
+void RestoreSafeCopy()
+{
+    CopyCells(History[SafeCopySlot], Grid);
+}
+
+void RecordSolution()
+{
+    for (std::size_t row = 1; row <= 9; ++row) {
+        for (std::size_t column = 1; column <= 9; ++column) {
+            SolutionList += static_cast<char>('0' + LowestCandidate(Grid[column][row]));
+        }
+    }
+}
+
+std::int32_t ApplyLogic(std::int32_t mode)
+{
+    return ApplyLogicWithin(std::numeric_limits<std::int64_t>::max(), mode);
+}
+
+std::int32_t ApplyLogicWithin(std::int64_t mostPasses, std::int32_t mode)
+{
+    assert(mode >= SolveAsPlayer && mode <= ListSolutions25);
+    StartRun();
     const ChainBudget budget;
     Run run;
     run.Mode = mode;
+    run.PassesLeft = mostPasses;
     run.Order = TechniquesInUse();
     Step step = Step::Pass;
     while (step != Step::Leave) {

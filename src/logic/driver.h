@@ -41,4 +41,13 @@ void SetDriverDefaults();
 // grid that a technique changed; mode 0 tells the player when there is no solution.
 std::int32_t ApplyLogic(std::int32_t mode);
 
+// The same, but after mostPasses passes it ends as a search that has tried everything.
+std::int32_t ApplyLogicWithin(std::int64_t mostPasses, std::int32_t mode);
+
+// Parts of a run, for those that are not walked: the state that a run starts with, the grid as it
+// was then, and the numbers on the grid as one more solution of SolutionList.
+void StartRun();
+void RestoreSafeCopy();
+void RecordSolution();
+
 } // namespace kelvarine

@@ -2,6 +2,7 @@
 
 #include "logic/alerts.h"
 #include "logic/driver.h"
+#include "logic/filling_runs.h"
 #include "logic/kept_settings.h"
 #include "logic/technique.h"
 #include "logic/technique_masks.h"
@@ -23,7 +24,7 @@ void CountForRating()
     }
     SolveMask = CountingMask;
     FillPencilmarks();
-    ApplyLogic(CountSolutions);
+    RunByFillings(CountSolutions);
 }
 
 // Solves the grid with everything and returns the highest level used. A game that needed nothing
@@ -72,6 +73,19 @@ void RateGame()
         WriteSolution(words);
     }
 
+    Grid = words;
+}
+
+void FindLogicOfCount()
+{
+    constexpr std::int64_t mostPasses = 20'000; // a tenth of a second
+    const GridTable words = Grid;
+    const std::int32_t count = SolutionCount;
+    const KeptSettings kept;
+    SolveMask = CountingMask;
+    FillPencilmarks();
+    ApplyLogicWithin(mostPasses, CountSolutions);
+    SolutionCount = count;
     Grid = words;
 }
 

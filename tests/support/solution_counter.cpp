@@ -1,6 +1,7 @@
 #include "support/solution_counter.h"
 
 #include <bit>
+#include <limits>
 
 namespace kelvarine::testing {
 
@@ -13,6 +14,7 @@ struct Search {
     std::array<std::uint16_t, 9> BoxUsed{};
     Solution Numbers{}; // 0 for an open cell
     std::size_t Limit = 0;
+    std::int64_t StepsLeft = 0;
     std::vector<Solution> Found;
 };
 
@@ -54,6 +56,9 @@ std::size_t NarrowestCell(const Search &search)
 
 void Extend(Search &search)
 {
+    if (--search.StepsLeft < 0) {
+        return;
+    }
     const std::size_t place = NarrowestCell(search);
     if (place == 81) {
         search.Found.push_back(search.Numbers);
@@ -87,11 +92,21 @@ CandidateField FieldOf(std::string_view line)
 
 std::vector<Solution> SolutionsOf(const CandidateField &field, std::size_t limit)
 {
+    return *SolutionsWithin(std::numeric_limits<std::int64_t>::max(), field, limit);
+}
+
+std::optional<std::vector<Solution>> SolutionsWithin(std::int64_t steps,
+                                                     const CandidateField &field, std::size_t limit)
+{
     Search search;
     search.Field = field;
     search.Limit = limit;
+    search.StepsLeft = steps;
     if (limit > 0) {
         Extend(search);
+    }
+    if (search.StepsLeft < 0) {
+        return std::nullopt;
     }
     return search.Found;
 }

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -24,5 +25,9 @@ CandidateField FieldOf(std::string_view line);
 
 // The solutions of a field in the order of the search, at most limit of them.
 std::vector<Solution> SolutionsOf(const CandidateField &field, std::size_t limit);
+
+// The same, or nothing when it would take more than so many steps.
+std::optional<std::vector<Solution>>
+SolutionsWithin(std::int64_t steps, const CandidateField &field, std::size_t limit);
 
 } // namespace kelvarine::testing

@@ -2,6 +2,7 @@
 #include "outside/events.h"
 
 #include "outside/timers.h"
+#include "ui/outside/yield_pace.h"
 #include "ui/window/main_window.h"
 
 #include <QApplication>
@@ -9,15 +10,15 @@
 #include <QTime>
 #include <QTimer>
 
-#include <chrono>
 #include <utility>
 
 namespace kelvarine {
 
+std::chrono::milliseconds YieldInterval{10};
+
 namespace {
 
 constexpr int ClockInterval = 1000; // milliseconds
-constexpr std::chrono::milliseconds YieldInterval{10};
 
 void SwitchTimer(QTimer &timer, bool on, int milliseconds)
 {
