@@ -24,9 +24,10 @@ std::string AskText(std::string_view /*prompt*/) { return {}; }
 void YieldToEvents() {}
 void RunPendingEvents() {}
 void SetWaitCursor(bool /*on*/) {}
-void CallFromEventLoop(std::function<void()> /*deed*/) {}
+void CallFromEventLoop(std::function<void()> deed) { deed = {}; }
 Day Today() { return {}; }
 double SecondsSinceMidnight() { return 0; }
+double SteadySeconds() { return 0; }
 void SetClockTimer(bool /*on*/) {}
 void SetWinTimer(bool /*on*/, int /*milliseconds*/) {}
 
@@ -40,6 +41,7 @@ void SetClipboardText(std::string_view /*text*/) {}
 void MakeMainWindow() {}
 void ShowMainWindow() {}
 void ActivateMainWindow() {}
+void CloseMainWindow() {}
 void KeepMainPlace() {}
 void SetWindowTitle(std::string_view /*title*/) {}
 void UpdateCaptions() {}

@@ -47,6 +47,13 @@ void Expose(CellWord &word)
     ++GivenCount;
 }
 
+// True when the player has stopped a run that took too long, and the game goes back to what it was.
+// Any other stop counts as a result, and the grid stays as far as the run had come; intended.
+bool GaveUpLongRun(std::int32_t result)
+{
+    return result == Stopped && RunIsLong != False;
+}
+
 } // namespace
 
 void MendArticles()
@@ -112,8 +119,11 @@ void mnuApplyLogic()
     if (IsGridSolved() != False) {
         return;
     }
-    // A search that the player stopped counts as a result too; intended.
-    if (ApplyLogic(SolveAsPlayer) != NotSolved) {
+    const GridTable before = Grid;
+    const std::int32_t result = ApplyLogic(SolveAsPlayer);
+    if (GaveUpLongRun(result)) {
+        Grid = before;
+    } else if (result != NotSolved) {
         UpdateStatistics();
     } else {
         ScanAlerts(ModeAlert);
@@ -131,12 +141,17 @@ void mnuSolveGame()
         return;
     }
     const KeptSettings kept;
+    const GridTable before = Grid;
     SolveMask = CountingMask;
     FillPencilmarks();
-    if (RunByFillings(SolveForPlayer) != NotSolved) {
+    const std::int32_t result = RunByFillings(SolveForPlayer);
+    if (GaveUpLongRun(result)) {
+        Grid = before;
+    } else if (result != NotSolved) {
         StatsCounted = True;
         UpdateStatistics();
     }
+    TakeBannerAway();
 }
 
 void mnuExposeSelectedCells()

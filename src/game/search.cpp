@@ -20,7 +20,7 @@ void QueryStopSearch()
 bool ReadyForCommand()
 {
     if (SearchActive != False) {
-        if (SearchKind == SearchingGame) {
+        if (SearchKind == SearchingGame || RunIsLong != False) {
             QueryStopSearch();
         }
         return false;

@@ -6,7 +6,8 @@ namespace kelvarine {
 // Asks whether to stop a running search. On yes clears SearchActive and sets StopRequested.
 void QueryStopSearch();
 
-// First steps of every command that the player starts: while a game search runs, asks whether to
+// First steps of every command that the player starts: while a game search or a long run of the
+// driver goes on, asks whether to
 // stop it; otherwise ends the win display. False when the command must not act.
 bool ReadyForCommand();
 

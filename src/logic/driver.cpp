@@ -5,6 +5,7 @@
 #include "logic/technique.h"
 #include "logic/technique_masks.h"
 #include "logic/technique_table.h"
+#include "outside/board.h"
 #include "outside/events.h"
 #include "outside/messages.h"
 #include "outside/screens.h"
@@ -15,16 +16,24 @@
 #include <cassert>
 #include <limits>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace kelvarine {
 
 std::int32_t SearchKind;
 Flag StopRequested;
+Flag RunIsLong;
+Flag RunUnderWay;
+std::function<void()> AfterRun;
 
 namespace {
 
 constexpr int MostTrials = 81;
+
+// Trials after which a run yields though no pass has come: where no technique finds anything, trial
+// follows upon trial without one.
+constexpr int MostTrialsWithoutYield = 16;
 
 // The numbered steps of the driver that others jump to.
 enum class Step : std::uint8_t {
@@ -54,6 +63,8 @@ struct Run {
     // are tried with the next number, so that the first of them ends that round; intended.
     Flag Found = False;
     std::int64_t PassesLeft = 0;
+    int TrialsSinceYield = 0;
+    double Start = SteadySeconds();
     int TrialDepth = 0;
     std::array<Trial, MostTrials + 1> Trials{}; // 1..81 used
     std::vector<const TechniqueRow *> Order;
@@ -171,11 +182,26 @@ Step OnSolvedGrid(Run &run)
     }
 }
 
-Step StartPass(Run &run)
+// Lets the player stop the run, and tells one that waits for long what it waits for.
+bool MayGoOn(Run &run)
 {
+    run.TrialsSinceYield = 0;
+    if (RunIsLong == False && SteadySeconds() - run.Start >= LongRunSeconds) {
+        RunIsLong = True;
+        if (SearchKind == NotStoppable) {
+            DrawBanner(" Standby ");
+        }
+    }
     YieldToEvents();
     if (SearchActive == False) {
         run.Result = Stopped;
+    }
+    return SearchActive != False;
+}
+
+Step StartPass(Run &run)
+{
+    if (!MayGoOn(run)) {
         return Step::Leave;
     }
     if (--run.PassesLeft < 0) {
@@ -278,7 +304,10 @@ Step NextNumber(Run &run)
     } while ((trial.Mask & BitOf(trial.Number)) == 0);
     SetTrialNumber(trial);
     run.Seen.clear();
-    // A fresh trial goes straight to the techniques, without a yield and without the tests.
+    // A fresh trial goes straight to the techniques, without a pass and without its tests.
+    if (++run.TrialsSinceYield == MostTrialsWithoutYield && !MayGoOn(run)) {
+        return Step::Leave;
+    }
     return Step::TryTechniques;
 }
 
@@ -330,14 +359,34 @@ void SetDriverDefaults()
 {
     SearchKind = NotStoppable;
     StopRequested = False;
+    RunIsLong = False;
+    RunUnderWay = False;
+    AfterRun = nullptr;
+}
+
+void TakeBannerAway()
+{
+    if (RunIsLong != False && SearchKind == NotStoppable) {
+        DrawBoard();
+    }
 }
 
 void StartRun()
 {
     SearchActive = True;
+    RunUnderWay = True;
+    RunIsLong = False;
     UsedMask = 0;
     SolutionCount = 0;
     CopyCells(Grid, History[SafeCopySlot]);
+}
+
+void EndRun()
+{
+    RunUnderWay = False;
+    if (AfterRun) {
+        CallFromEventLoop(std::exchange(AfterRun, nullptr));
+    }
 }
 
 void RestoreSafeCopy()
@@ -372,6 +421,7 @@ std::int32_t ApplyLogicWithin(std::int64_t mostPasses, std::int32_t mode)
     while (step != Step::Leave) {
         step = Take(run, step);
     }
+    EndRun();
     return run.Result;
 }
 

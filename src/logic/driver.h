@@ -5,6 +5,7 @@
 #include "grid/grid.h"
 
 #include <cstdint>
+#include <functional>
 
 namespace kelvarine {
 
@@ -26,6 +27,16 @@ inline constexpr std::int32_t SearchingGame = 1;
 inline constexpr std::int32_t ListingSolutions = 4;
 extern std::int32_t SearchKind;
 
+// True when a run has lasted so long that it can be stopped whatever SearchKind says; stands until
+// the next run starts.
+inline constexpr double LongRunSeconds = 2;
+extern Flag RunIsLong;
+
+// True from the start of a run to its end, also after it was told to stop. What is due when it has
+// ended is then done by the event loop, and forgotten.
+extern Flag RunUnderWay;
+extern std::function<void()> AfterRun;
+
 // Set when the player has agreed to stop a search; cleared by whoever starts one. It outlasts
 // SearchActive, which every run of the driver sets anew.
 extern Flag StopRequested;
@@ -44,9 +55,14 @@ std::int32_t ApplyLogic(std::int32_t mode);
 // The same, but after mostPasses passes it ends as a search that has tried everything.
 std::int32_t ApplyLogicWithin(std::int64_t mostPasses, std::int32_t mode);
 
-// Parts of a run, for those that are not walked: the state that a run starts with, the grid as it
-// was then, and the numbers on the grid as one more solution of SolutionList.
+// Paints the board anew when the last run was so long that it has left a banner there.
+void TakeBannerAway();
+
+// Parts of a run, for those that are not walked: the state that a run starts with and ends with,
+// the grid as it was at the start, and the numbers on the grid as one more solution of
+// SolutionList.
 void StartRun();
+void EndRun();
 void RestoreSafeCopy();
 void RecordSolution();
 

@@ -56,13 +56,11 @@ std::int32_t EndWith(std::int32_t result)
 std::int32_t FillForPlayer()
 {
     const bool solvedBefore = IsGridSolved() != False;
-    OrderedFillings fillings(FieldOf(Grid));
-    if (!fillings.Next()) {
+    if (!FillGrid()) {
         return EndWith(NotSolved);
     }
     ++SolutionCount;
     ClearCellBits(PassMarks);
-    WriteFilling(fillings.Filling());
     if (!solvedBefore) {
         PushUndoState();
     }
@@ -94,18 +92,8 @@ std::int32_t ListFillings()
     return EndWith(NotSolved);
 }
 
-} // namespace
-
-std::int32_t RunByFillings(std::int32_t mode)
+std::int32_t Fill(std::int32_t mode)
 {
-    assert(mode == SolveForPlayer || mode == CountSolutions || mode == ListSolutions25);
-    if (!WalkFindsFillings()) {
-        return ApplyLogic(mode);
-    }
-    StartRun();
-    if (IsStopped()) {
-        return Stopped;
-    }
     switch (mode) {
     case SolveForPlayer:
         return FillForPlayer();
@@ -114,6 +102,30 @@ std::int32_t RunByFillings(std::int32_t mode)
     default:
         return ListFillings();
     }
+}
+
+} // namespace
+
+bool FillGrid()
+{
+    OrderedFillings fillings(FieldOf(Grid));
+    const bool any = fillings.Next();
+    if (any) {
+        WriteFilling(fillings.Filling());
+    }
+    return any;
+}
+
+std::int32_t RunByFillings(std::int32_t mode)
+{
+    assert(mode == SolveForPlayer || mode == CountSolutions || mode == ListSolutions25);
+    if (!WalkFindsFillings()) {
+        return ApplyLogic(mode);
+    }
+    StartRun();
+    const std::int32_t result = IsStopped() ? Stopped : Fill(mode);
+    EndRun();
+    return result;
 }
 
 } // namespace kelvarine

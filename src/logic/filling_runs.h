@@ -14,4 +14,7 @@ namespace kelvarine {
 // listed solution; a search stopped there leaves the last one on the grid.
 std::int32_t RunByFillings(std::int32_t mode);
 
+// Puts the first way to fill Grid in the order of the scan on Grid. False when there is none.
+bool FillGrid();
+
 } // namespace kelvarine

@@ -32,7 +32,11 @@ void CountForRating()
 std::int32_t HighestLevelUsed()
 {
     SolveMask = RatingMask;
-    ApplyLogic(SolveForRating);
+    if (ApplyLogic(SolveForRating) == Stopped) {
+        // The solution is known all the same.
+        FillPencilmarks();
+        FillGrid();
+    }
     std::int32_t rating = RatedExtreme;
     for (std::int32_t level = RatedEasy; level <= Levels; ++level) {
         if ((LevelTable[static_cast<std::size_t>(level)] & UsedMask) != 0) {
@@ -74,6 +78,7 @@ void RateGame()
     }
 
     Grid = words;
+    TakeBannerAway();
 }
 
 void FindLogicOfCount()

@@ -29,4 +29,7 @@ Day Today();
 // Seconds since midnight, with their fraction.
 double SecondsSinceMidnight();
 
+// Seconds on a clock that nobody sets, from any start.
+double SteadySeconds();
+
 } // namespace kelvarine

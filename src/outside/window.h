@@ -14,6 +14,9 @@ void ShowMainWindow();
 // Brings the main window to the front and gives it the keyboard.
 void ActivateMainWindow();
 
+// Asks the main window to close, as the player would.
+void CloseMainWindow();
+
 // Keeps in MainPlace and MainMaximised where the main window stands.
 void KeepMainPlace();
 

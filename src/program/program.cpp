@@ -33,6 +33,18 @@ void OpenFormerScreens()
     }
 }
 
+// Lets a run of the logic end, stopped if the player wants, and closes then.
+void CloseAfterRun()
+{
+    if (SearchActive != False && (SearchKind != NotStoppable || RunIsLong != False)) {
+        QueryStopSearch();
+        if (SearchActive != False) {
+            return;
+        }
+    }
+    AfterRun = CloseMainWindow;
+}
+
 } // namespace
 
 void StartProgram(const std::string &gameFile)
@@ -59,8 +71,8 @@ void StartProgram(const std::string &gameFile)
 
 bool EndProgram()
 {
-    if (SearchActive != False) {
-        ReadyForCommand(); // asks whether to stop it
+    if (RunUnderWay != False) {
+        CloseAfterRun();
         return false;
     }
     QuerySaveGame();

@@ -235,6 +235,11 @@ class Desktop:
     def clipboard(self):
         return self.run("xclip", "-selection", "clipboard", "-out", check=False).decode()
 
+    def clipboard_time(self):
+        """When its owner took the clipboard, as the program tells; the helper of set_clipboard gives
+        its text."""
+        return self.run("xclip", "-selection", "clipboard", "-out", "-t", "TIMESTAMP", check=False)
+
     def windows(self, name):
         found = self.run("xdotool", "search", "--onlyvisible", "--name", name, check=False)
         return found.decode().split()
@@ -382,14 +387,16 @@ class Game:
                              "mousemove", "--window", self.window, x2, y2, "mouseup", 1)
 
     def copy_line(self):
-        """The position as the single line that the program puts on the clipboard."""
-        self.desktop.set_clipboard("")
+        """The position as the single line that the program puts on the clipboard. What stands there
+        is left until then, for the program may still be about to paste it."""
+        before = self.desktop.clipboard_time()
 
         def taken():
             # While the program rates a game it takes no keys.
             self.desktop.key("ctrl+minus")
-            return self.desktop.clipboard()
-        return wait_for(taken, "a line on the clipboard").rstrip()
+            return self.desktop.clipboard_time() not in (b"", before)
+        wait_for(taken, "a line on the clipboard")
+        return self.desktop.clipboard().rstrip()
 
 
 def expect_alive(process):

@@ -69,10 +69,13 @@ def stops_a_search(desktop, program):
         expect(banner_moves(game), "on No the search goes on")
         act()
         answer(desktop, game, "alt+y")
+        if way == "closing the window":
+            desktop.answer("Escape", other_than=[game.window])  # which goes on: save first?
+            game.focus()
         line = game.copy_line()
         expect(line == "5" + "." * 79 + "9", f"stopped by {way}, the earlier game is back")
         expect(game.board().fill(1, 1) == GIVEN_FILL, "and on the board")
-    game.process.kill()
+    expect(game.end(save_first="alt+n") == 0, "the program ends")
 
 
 def main():

@@ -1,8 +1,10 @@
 #include "game/assistance.h"
 #include "game/lifecycle.h"
+#include "game/search.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
 #include "grid/history.h"
+#include "logic/technique_masks.h"
 #include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
@@ -256,6 +258,52 @@ TEST_F(Assistance, StoppedSearchGoesOnAsAWinWithTheUnfinishedGrid)
     mnuApplyLogic();
     EXPECT_EQ(IsGridSolved(), False);
     EXPECT_EQ(WinDisplayRunning, True);
+}
+
+// Techniques that find nothing in an empty grid full of pencilmarks: trials without an end.
+void StartLongRun()
+{
+    StartSavedGame(Dots(79) + "11");
+    FillPencilmarks();
+    SolveMask = MaskOf({XWing}) | TrialBit;
+    ForgetRecord();
+    Seen.Yields = 0;
+}
+
+TEST_F(Assistance, LongRunShowsTheBannerAndLeavesTheGameWhenStopped)
+{
+    StartLongRun();
+    const GridTable before = Grid;
+    const std::int32_t levels = HistoryCount;
+    Seen.OnYield = [] {
+        Seen.Steady += 0.3;
+        if (Seen.Yields == 20) {
+            Seen.YesNoAnswers = {true};
+            EXPECT_FALSE(ReadyForCommand());
+        }
+    };
+    mnuApplyLogic();
+    EXPECT_EQ(Seen.Yields, 20);
+    EXPECT_EQ(Acts(), (Texts{"banner:  Standby ", "stop sound: ",
+                             "question: Would you like to stop searching?", "board: "}));
+    EXPECT_EQ(Grid, before);
+    EXPECT_EQ(HistoryCount, levels);
+    EXPECT_EQ(WinDisplayRunning, False);
+}
+
+TEST_F(Assistance, RunOfLessThanTwoSecondsCannotBeStopped)
+{
+    StartLongRun();
+    Seen.OnYield = [] {
+        Seen.Steady += 0.3;
+        if (Seen.Yields == 6) {
+            EXPECT_FALSE(ReadyForCommand());
+            EXPECT_TRUE(Acts().empty());
+            SearchActive = False;
+        }
+    };
+    mnuApplyLogic();
+    EXPECT_EQ(Seen.Yields, 6);
 }
 
 // ---- Solving the game ----------------------------------------------------------------------

@@ -95,17 +95,51 @@ TEST_F(WholeProgram, CancelInTheSaveQuestionKeepsTheProgramAndWritesNothing)
     EXPECT_EQ(Folders.ReadSetting("config.sdu"), "");
 }
 
-TEST_F(WholeProgram, EndDuringASearchAsksOnlyWhetherToStopIt)
+TEST_F(WholeProgram, EndDuringASearchStopsItAndClosesThen)
 {
     StartProgram("");
-    GameModified = True;
-    SearchActive = True;
+    for (const std::int32_t kind : {SearchingGame, ListingSolutions}) {
+        GameModified = True;
+        StartRun();
+        SearchKind = kind;
+        Seen.LaterDeeds.clear();
+        ForgetRecord();
+        Seen.YesNoAnswers = {true};
+        EXPECT_FALSE(EndProgram());
+        EXPECT_EQ(Acts(), (Texts{"stop sound: ", "question: Would you like to stop searching?"}));
+        EXPECT_EQ(SearchActive, False);
+        EXPECT_FALSE(EndProgram()) << "not before the run has ended";
+        EXPECT_TRUE(Seen.LaterDeeds.empty());
+        EndRun();
+        ASSERT_EQ(Seen.LaterDeeds.size(), 1U);
+        Seen.LaterDeeds.front()();
+        EXPECT_EQ(Acts().back(), "window closed: ");
+    }
+}
+
+TEST_F(WholeProgram, EndDuringASearchThatGoesOnIsTakenBack)
+{
+    StartProgram("");
+    StartRun();
     SearchKind = SearchingGame;
-    ForgetRecord();
-    Seen.YesNoAnswers = {true};
+    Seen.LaterDeeds.clear();
+    Seen.YesNoAnswers = {false};
     EXPECT_FALSE(EndProgram());
-    EXPECT_EQ(Acts(), (Texts{"stop sound: ", "question: Would you like to stop searching?"}));
-    EXPECT_EQ(SearchActive, False);
+    EXPECT_NE(SearchActive, False);
+    EndRun();
+    EXPECT_TRUE(Seen.LaterDeeds.empty());
+}
+
+TEST_F(WholeProgram, EndDuringAShortRunWaitsForIt)
+{
+    StartProgram("");
+    StartRun();
+    Seen.LaterDeeds.clear();
+    ForgetRecord();
+    EXPECT_FALSE(EndProgram());
+    EXPECT_TRUE(Acts().empty());
+    EndRun();
+    EXPECT_EQ(Seen.LaterDeeds.size(), 1U);
 }
 
 } // namespace

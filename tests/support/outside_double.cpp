@@ -205,6 +205,11 @@ double SecondsSinceMidnight()
     return Seen.Now;
 }
 
+double SteadySeconds()
+{
+    return Seen.Steady;
+}
+
 void SetClockTimer(bool on)
 {
     Seen.ClockTimerOn = on;
@@ -249,6 +254,11 @@ void MakeMainWindow()
 void ShowMainWindow()
 {
     Record("window shown", "");
+}
+
+void CloseMainWindow()
+{
+    Record("window closed", "");
 }
 
 void ActivateMainWindow()
@@ -342,9 +352,9 @@ bool RunFileDialog(std::size_t fileType)
     return false;
 }
 
-void ShowHelpTopic(int topic)
+void ShowHelpTopic(int context)
 {
-    Record("help", std::to_string(topic));
+    Record("help", std::to_string(context));
 }
 
 // ---- Printer -------------------------------------------------------------------------------

@@ -39,7 +39,8 @@ struct OutsideRecord {
     int BoardFocuses = 0;
     int Yields = 0;
     int WaitCursorDepth = 0;
-    double Now = 0; // seconds since midnight
+    double Now = 0;    // seconds since midnight
+    double Steady = 0; // seconds on the clock that nobody sets
     bool ClockTimerOn = false;
     bool WinTimerOn = false;
     int WinInterval = 0;

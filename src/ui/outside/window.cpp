@@ -22,6 +22,11 @@ void ActivateMainWindow()
     Window()->activateWindow();
 }
 
+void CloseMainWindow()
+{
+    Window()->close();
+}
+
 void KeepMainPlace()
 {
     Window()->KeepPlace();

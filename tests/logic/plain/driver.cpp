@@ -25,6 +25,7 @@ struct PlainRun {
     Flag Changed = 0;
     Flag Found = 0;
     std::size_t TrialDepth = 0;
+    int TrialsSinceYield = 0;
     std::vector<std::size_t> TrialColumn = std::vector<std::size_t>(82);
     std::vector<std::size_t> TrialRow = std::vector<std::size_t>(82);
     std::vector<std::size_t> TrialNumber = std::vector<std::size_t>(82);
@@ -102,14 +103,19 @@ void AppendSolution()
 
 // Each step returns the number of the next one, 0 at the end.
 
-int Step3And4(PlainRun &run)
+bool Yield(PlainRun &run)
 {
+    run.TrialsSinceYield = 0;
     YieldToEvents();
     if (SearchActive == 0) {
         run.Result = -2;
-        return 0;
     }
-    return 5;
+    return SearchActive != 0;
+}
+
+int Step3And4(PlainRun &run)
+{
+    return Yield(run) ? 5 : 0;
 }
 
 int Step5And6(PlainRun &run)
@@ -256,6 +262,9 @@ int Step12(PlainRun &run)
 {
     PlaceTrial(run, run.TrialDepth);
     run.Passes.clear();
+    if (++run.TrialsSinceYield == 16 && !Yield(run)) {
+        return 0;
+    }
     return 8;
 }
 

@@ -60,20 +60,38 @@ TEST(MainWindow, CancelledClosingLeavesTheWinDisplayOn)
     StopWinDisplay();
 }
 
-TEST(MainWindow, ClosingDuringASearchOnlyAsksAboutAGameSearch)
+TEST(MainWindow, ClosingDuringASearchAsksAndIsTakenBackByNo)
 {
     const Program program;
-    SearchActive = True;
-    for (const std::int32_t kind : {0, 1, 4}) {
+    for (const std::int32_t kind : {SearchingGame, ListingSolutions}) {
+        StartRun();
         SearchKind = kind;
         const BoxRecord boxes = AnswerBoxes([&] { program.Main->close(); });
-        EXPECT_EQ(boxes.Texts, kind == 1
-                                   ? std::vector<std::string>{"Would you like to stop searching?"}
-                                   : std::vector<std::string>{});
+        EXPECT_EQ(boxes.Texts, std::vector<std::string>{"Would you like to stop searching?"});
+        EndRun();
+        QApplication::processEvents();
         EXPECT_TRUE(program.Main->isVisible());
     }
     SearchActive = False;
-    SearchKind = 0;
+    SearchKind = NotStoppable;
+}
+
+TEST(MainWindow, ClosesWhenTheSearchHasEnded)
+{
+    for (const std::int32_t kind : {NotStoppable, SearchingGame, ListingSolutions}) {
+        const Program program;
+        StartRun();
+        SearchKind = kind;
+        AnswerBoxes([&] { program.Main->close(); }, kind == NotStoppable
+                                                        ? std::vector<QMessageBox::StandardButton>{}
+                                                        : std::vector{QMessageBox::Yes});
+        QApplication::processEvents();
+        EXPECT_TRUE(program.Main->isVisible());
+        SearchActive = False;
+        SearchKind = NotStoppable;
+        EndRun();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !program.Main->isVisible(); }, Patience));
+    }
 }
 
 } // namespace kelvarine::testing
