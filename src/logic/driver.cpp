@@ -1,7 +1,6 @@
 #include "logic/driver.h"
 
 #include "grid/history.h"
-#include "logic/chain_search.h"
 #include "logic/solvability.h"
 #include "logic/technique.h"
 #include "logic/technique_masks.h"
@@ -363,7 +362,6 @@ std::int32_t ApplyLogic(std::int32_t mode)
     UsedMask = 0;
     SolutionCount = 0;
     CopyCells(Grid, History[SafeCopySlot]);
-    const ChainBudget budget;
     Run run;
     run.Mode = mode;
     run.Order = TechniquesInUse();
