@@ -1,9 +1,11 @@
 // What the chains cost on grids that have more of them than anyone could walk along: alert scan,
-// hint stages and a pass of the driver with all techniques, and each chain technique alone in every
-// mode. The counters tell the mean and the worst of one grid in microseconds of processor time.
+// hint stages, a pass and a whole run of the driver with all techniques, and each chain technique
+// alone in every mode. The counters tell the mean and the worst of one grid in microseconds of
+// processor time.
 #include "game/alert_scan.h"
 #include "grid/grid.h"
 #include "logic/chain_positions.h"
+#include "logic/driver.h"
 #include "logic/technique.h"
 #include "logic/technique_masks.h"
 #include "logic/technique_table.h"
@@ -27,31 +29,31 @@ struct Family {
     std::function<void(Random &)> Make;
 };
 
-// Pairs of the numbers from 1 to a highest one, in some percent of the cells three of them.
-Family Pairs(int highest, int threes)
+// Pairs of the numbers from 1 to a highest one, in some percent of the cells three of them and in
+// some one or none.
+Family Pairs(int highest, int threes, int fewer)
 {
-    return {"pairs of 1 to " + std::to_string(highest) + (threes > 0 ? ", threes among them" : ""),
-            [=](Random &random) {
-                testing::chains::MakePairsUpTo(random, highest, threes, 0);
+    const std::string more = threes > 0 ? ", with threes" : "";
+    const std::string less = fewer > 0 ? ", with gaps" : "";
+    return {"pairs of 1 to " + std::to_string(highest) + more + less, [=](Random &random) {
+                testing::chains::MakePairsUpTo(random, highest, threes, fewer);
             }};
 }
 
-const std::vector<Family> &Families()
+std::vector<Family> MakeFamilies()
 {
-    static const std::vector<Family> families{
-        Pairs(2, 0),
-        Pairs(3, 0),
-        Pairs(4, 0),
-        Pairs(5, 0),
-        Pairs(6, 0),
-        Pairs(3, 25),
-        Pairs(4, 25),
-        Pairs(5, 25),
-        Pairs(6, 25),
-        {"two solutions", testing::chains::MakeTwoSolutions},
-        {"sound, rich in pairs", testing::chains::MakePairRich},
-        {"sound, in the middle of a game", testing::chains::MakeMidGame},
-    };
+    std::vector<Family> families;
+    for (int highest = 2; highest <= 6; ++highest) {
+        families.push_back(Pairs(highest, 0, 0));
+        families.push_back(Pairs(highest, 0, 30));
+        if (highest > 2) {
+            families.push_back(Pairs(highest, 25, 0));
+            families.push_back(Pairs(highest, 25, 30));
+        }
+    }
+    families.push_back({"two solutions", testing::chains::MakeTwoSolutions});
+    families.push_back({"sound, rich in pairs", testing::chains::MakePairRich});
+    families.push_back({"sound, in the middle of a game", testing::chains::MakeMidGame});
     return families;
 }
 
@@ -101,7 +103,8 @@ void Measure(benchmark::State &state, const Family &family, const std::function<
 
 void Register(const std::string &name, const std::function<void()> &work)
 {
-    for (const Family &family : Families()) {
+    static const std::vector<Family> families = MakeFamilies();
+    for (const Family &family : families) {
         benchmark::RegisterBenchmark(
             (name + "/" + family.Name).c_str(),
             [=, &family](benchmark::State &state) { Measure(state, family, work); })
@@ -136,6 +139,10 @@ void RegisterAll()
         Register("scan, mode " + std::to_string(mode), [=] { ScanAlerts(mode); });
     }
     Register("pass", RunPass);
+    Register("apply, no trial and error", [] {
+        SolveMask = RatingMask & ~TrialBit;
+        ApplyLogic(SolveAsPlayer);
+    });
     for (const std::int32_t number : {RemotePairs, XYWing, XYChain, SinglesChain}) {
         for (std::int32_t mode = ModeChange; mode <= ModeFull; ++mode) {
             const TechniqueRow &row = *FindTechnique(number);

@@ -132,16 +132,16 @@ inline CellWord NumberUpTo(Random &random, int highest)
     return BitTable[static_cast<std::size_t>(1 + Below(random, highest))];
 }
 
-// Two of the numbers from 1 to a highest one in most cells, in some percent of them three or one:
-// as a rule the grid contradicts itself many times, and there are more chains than anyone could
-// walk along.
-inline void MakePairsUpTo(Random &random, int highest, int threes, int ones)
+// Two of the numbers from 1 to a highest one in most cells, in some percent of them three and in
+// some one or none: as a rule the grid contradicts itself many times, and there are more chains
+// than anyone could walk along.
+inline void MakePairsUpTo(Random &random, int highest, int threes, int fewer)
 {
     for (const Cell cell : Cells) {
-        const int count = Chance(random, ones) ? 1 : Chance(random, threes) ? 3 : 2;
+        const int count = Chance(random, fewer) ? Below(random, 2) : Chance(random, threes) ? 3 : 2;
         CellWord &word = WordAt(cell);
         word = 0;
-        while (CandidatesIn(word) < count) {
+        while (CandidatesIn(word) < std::min(count, highest)) {
             word |= NumberUpTo(random, highest);
         }
     }
@@ -150,8 +150,8 @@ inline void MakePairsUpTo(Random &random, int highest, int threes, int ones)
 inline void MakeContradictoryPairs(Random &random)
 {
     const int highest = 2 + Below(random, 5);
-    const int threes = highest == 2 || Chance(random, 50) ? 0 : Below(random, 60);
-    MakePairsUpTo(random, highest, threes, Chance(random, 60) ? 0 : Below(random, 30));
+    const int threes = Chance(random, 50) ? 0 : Below(random, 60);
+    MakePairsUpTo(random, highest, threes, Chance(random, 40) ? 0 : Below(random, 40));
 }
 
 // The numbers of two solutions laid over each other, with a few cells of three numbers and a few

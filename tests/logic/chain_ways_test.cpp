@@ -166,7 +166,7 @@ TEST(ChainWays, FewSearchesSettleAnyTechniqueInAnyMode)
             }
         }
         EXPECT_GT(most, 80) << row.ReportName;
-        EXPECT_LT(most, 8000) << row.ReportName;
+        EXPECT_LT(most, 2000) << row.ReportName;
     }
 }
 
