@@ -166,7 +166,10 @@ inline void MakeTwoSolutions(Random &random)
         CellWord &word = WordAt(cell);
         word = one[cell.Column][cell.Row] | other[cell.Column][cell.Row];
         word |= Chance(random, more) ? RandomNumber(random, CandidateMask) : 0;
-        word = Chance(random, wrong) ? NumberUpTo(random, 9) | NumberUpTo(random, 9) : word;
+        if (Chance(random, wrong)) {
+            word = NumberUpTo(random, 9);
+            word |= NumberUpTo(random, 9);
+        }
     }
 }
 
