@@ -1,6 +1,5 @@
 #include "logic/alerts.h"
 
-#include "logic/chain_search.h"
 #include "logic/technique.h"
 #include "logic/technique_masks.h"
 #include "logic/technique_table.h"
@@ -75,7 +74,6 @@ bool RunAlertScan(std::int32_t mode)
     if (AlertMask == 0 && !isHint) {
         return false;
     }
-    const ChainBudget budget;
     SetWaitCursor(true);
     HintText.clear();
     FindGivenConflicts(mode);

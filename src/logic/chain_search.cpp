@@ -1,22 +1,6 @@
 #include "logic/chain_search.h"
 
-#include <algorithm>
-#include <limits>
-
 namespace kelvarine {
-
-std::int64_t ChainStepsLeft = std::numeric_limits<std::int64_t>::max();
-
-ChainBudget::ChainBudget(std::int64_t steps)
-    : kept_(std::max<std::int64_t>(0, ChainStepsLeft - steps))
-{
-    ChainStepsLeft -= kept_;
-}
-
-ChainBudget::~ChainBudget()
-{
-    ChainStepsLeft += kept_;
-}
 
 namespace {
 

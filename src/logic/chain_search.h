@@ -55,33 +55,6 @@ struct Chain {
     }
 };
 
-// Steps that the chain walks of one run of the logic may take; no sound position comes near it.
-inline constexpr std::int64_t ChainStepsOfARun = 50'000'000;
-
-// Some contradictory grids have more chains than anyone could wait for. While a budget stands, all
-// chain walks together take at most so many steps, a few seconds' work; from then on they find
-// nothing more. A budget within another is part of it.
-class ChainBudget {
-public:
-    explicit ChainBudget(std::int64_t steps = ChainStepsOfARun);
-    ChainBudget(const ChainBudget &) = delete;
-    ChainBudget &operator=(const ChainBudget &) = delete;
-    ~ChainBudget();
-
-private:
-    std::int64_t kept_; // steps of the budget around it that stay out of reach
-};
-
-// What is left of the budget in force; practically without end where none stands. Below 0 once it
-// is used up: every walk that began after that took one off.
-extern std::int64_t ChainStepsLeft;
-
-// Takes a step of a walk off the budget. False when none is left.
-inline bool SpendChainStep()
-{
-    return --ChainStepsLeft >= 0;
-}
-
 // Cell and word of a CellIndex.
 inline Cell CellOf(int index)
 {
@@ -131,33 +104,6 @@ inline int FirstPeer(int cell, CellSet peers)
     }
     const CellSet inRow = peers & HouseSetOf(CellOf(cell), HouseKind::Row);
     return inRow.Any() ? inRow.First() : peers.First();
-}
-
-// The cells that chains from a start lead to, by the number of cells on the way. Ways that meet a
-// cell twice are counted in, so a search may leave out what lies outside, and nothing else.
-struct Reach {
-    CellSet Odd; // the start among them
-    CellSet Even;
-};
-
-// Reach of a start; neighboursOf(cell) are the cells that may follow a cell.
-template <typename Neighbours>
-Reach ReachFrom(int start, const Neighbours &neighboursOf)
-{
-    Reach reach{CellSet::Of(start), NoCells};
-    Reach fresh = reach;
-    while (fresh.Odd.Any() || fresh.Even.Any()) {
-        Reach next{NoCells, NoCells};
-        for (; fresh.Odd.Any(); fresh.Odd.DropFirst()) {
-            next.Even = next.Even | neighboursOf(fresh.Odd.First());
-        }
-        for (; fresh.Even.Any(); fresh.Even.DropFirst()) {
-            next.Odd = next.Odd | neighboursOf(fresh.Even.First());
-        }
-        fresh = {next.Odd.Without(reach.Odd), next.Even.Without(reach.Even)};
-        reach = {reach.Odd | fresh.Odd, reach.Even | fresh.Even};
-    }
-    return reach;
 }
 
 // Ends in one band but in different stacks: what becomes of the cell in the end's column and the

@@ -1,7 +1,6 @@
 #include "logic/driver.h"
 
 #include "grid/history.h"
-#include "logic/chain_search.h"
 #include "logic/technique.h"
 #include "logic/technique_masks.h"
 #include "logic/technique_table.h"
@@ -412,7 +411,6 @@ std::int32_t ApplyLogicWithin(std::int64_t mostPasses, std::int32_t mode)
 {
     assert(mode >= SolveAsPlayer && mode <= ListSolutions25);
     StartRun();
-    const ChainBudget budget;
     Run run;
     run.Mode = mode;
     run.PassesLeft = mostPasses;

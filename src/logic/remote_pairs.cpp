@@ -1,6 +1,6 @@
 #include "logic/remote_pairs.h"
 
-#include "logic/chain_search.h"
+#include "logic/chain_walk.h"
 
 namespace kelvarine {
 
@@ -21,16 +21,17 @@ constexpr std::array TargetScans{
 
 constexpr ChainMarks Marks{.Odd = HintDomainBit, .Even = HintCellBit};
 
+// The candidates of a chain take turns: it carries the one out of each cell in an odd place and the
+// other out of each in an even one, whichever they are.
+constexpr int CarriedOutOfOdd = 1;
+constexpr int CarriedOutOfEven = 2;
+
 struct Search {
     std::int32_t Mode;
     Flag *Found;
     CellSet Eligible;  // the cells with two candidates, after a removal any cell
     CellWord PairMask; // candidates of the chain
-    CellSet Pairs;     // cells that hold exactly these
-    CellSet Targets;   // all that a chain from the start cell may hit
-    Chain Stack;
-    std::array<CellSet, 82> LinePeers; // by depth: peers in column and row still to be visited
-    std::array<CellSet, 82> BoxPeers;  // and, after them, in the box
+    ChainWalk Walk;
 };
 
 // The cells that hold exactly the pair.
@@ -45,20 +46,29 @@ CellSet PairCells(const Search &search)
     return pairs;
 }
 
-// Finds Pairs and Targets for a start cell.
-void Survey(Search &search, int start)
+void SetLinks(Search &search, CellSet pairs)
 {
-    search.Targets = NoCells;
-    search.Pairs = PairCells(search);
-    if (!(search.Pairs & PeersOf(start)).Any()) {
-        return; // no chain at all
+    ChainLinks &links = search.Walk.Links;
+    links.All = pairs;
+    links.With[CarriedOutOfOdd] = pairs;
+    links.With[CarriedOutOfEven] = pairs;
+}
+
+// Finds the links and the open cells for a start cell; false when no chain can hit anything.
+bool Survey(Search &search, int start)
+{
+    const CellSet pairs = PairCells(search);
+    if (!(pairs & PeersOf(start)).Any()) {
+        return false; // no chain at all
     }
-    const Reach reach = ReachFrom(start, [&](int cell) { return PeersOf(cell) & search.Pairs; });
-    CellSet seen = NoCells;
-    for (CellSet ends = reach.Even; ends.Any(); ends.DropFirst()) {
-        seen = seen | PeersOf(ends.First());
-    }
-    search.Targets = OpenTargets(search.Mode, search.PairMask, seen & PeersOf(start));
+    SetLinks(search, pairs);
+    search.Walk.Open = OpenTargets(search.Mode, search.PairMask, PeersOf(start));
+    return search.Walk.Open.Any();
+}
+
+CellSet SeenByBoth(int start, int end)
+{
+    return PeersOf(start) & PeersOf(end);
 }
 
 // ---- Words ---------------------------------------------------------------------------------
@@ -74,7 +84,7 @@ void Explain(const Search &search, Cell target)
     }
     HintText += " which conflicts with the following chain of remote pairs:";
     HintText += MessageLineEnd;
-    ReportChain(search.Stack, Marks, 0);
+    ReportChain(search.Walk.Stack, Marks, 0);
 }
 
 // ---- Walk ----------------------------------------------------------------------------------
@@ -86,7 +96,7 @@ bool ActOn(Search &search, int target, std::string_view leadIn)
         search.Mode, *search.Found, cell,
         [&](CellWord &word) {
             word &= ~search.PairMask;
-            search.Pairs.Remove(target);
+            SetLinks(search, search.Walk.Links.All.Without(CellSet::Of(target)));
             search.Eligible = AllCells;
         },
         [] { HintText = "There's a conflict with a Remote Pair."; },
@@ -96,8 +106,9 @@ bool ActOn(Search &search, int target, std::string_view leadIn)
 
 void LeaveMarks(const Search &search)
 {
-    MarkChain(search.Stack, ScratchMark1);
-    for (CellSet rest = PeersOf(search.Stack.Start()); rest.Any(); rest.DropFirst()) {
+    const Chain &chain = search.Walk.Stack;
+    MarkChain(chain, ScratchMark1);
+    for (CellSet rest = PeersOf(chain.Start()); rest.Any(); rest.DropFirst()) {
         WordOf(rest.First()) |= ScratchMark2;
     }
 }
@@ -105,9 +116,9 @@ void LeaveMarks(const Search &search)
 // Acts on the cells that see both ends. Cells of the chain are targets like any other.
 bool Evaluate(Search &search)
 {
-    CellSet seen = PeersOf(search.Stack.Start()) & PeersOf(search.Stack.Top()) & search.Targets;
+    CellSet seen = Hits(search.Walk);
     for (const TargetScan &scan : TargetScans) {
-        const CellSet house = HouseSetOf(CellOf(search.Stack.Top()), scan.Kind);
+        const CellSet house = HouseSetOf(CellOf(search.Walk.Stack.Top()), scan.Kind);
         for (CellSet rest = seen & house; rest.Any(); rest.DropFirst()) {
             const int target = rest.First();
             if (ActOn(search, target, scan.LeadIn)) {
@@ -115,60 +126,11 @@ bool Evaluate(Search &search)
                 return true;
             }
             // Done for good: cells never gain a candidate or lose a mark during a call.
-            search.Targets.Remove(target);
+            search.Walk.Open.Remove(target);
         }
         seen = seen.Without(house);
     }
     return false;
-}
-
-// Notes which peers may follow the top cell.
-void Open(Search &search)
-{
-    const Cell top = CellOf(search.Stack.Top());
-    const CellSet free = search.Pairs.Without(search.Stack.On);
-    const auto depth = static_cast<std::size_t>(search.Stack.Depth);
-    search.LinePeers[depth] =
-        free & (HouseSetOf(top, HouseKind::Column) | HouseSetOf(top, HouseKind::Row));
-    // Cells of the box that lie in the column or row are visited again here; intended.
-    search.BoxPeers[depth] = free & HouseSetOf(top, HouseKind::Box);
-}
-
-// Enters the next peer of the top cell, if there is one and anything is left to be hit.
-bool StepOn(Search &search)
-{
-    if (search.Stack.Depth == MaxRPLinks || !search.Targets.Any() || !SpendChainStep()) {
-        return false;
-    }
-    const auto depth = static_cast<std::size_t>(search.Stack.Depth);
-    for (CellSet *peers : {&search.LinePeers[depth], &search.BoxPeers[depth]}) {
-        *peers = *peers & search.Pairs;
-        if (peers->Any()) {
-            const int next = FirstPeer(search.Stack.Top(), *peers);
-            peers->Remove(next);
-            search.Stack.Push(next);
-            Open(search);
-            return true;
-        }
-    }
-    return false;
-}
-
-bool Walk(Search &search, int start)
-{
-    search.Stack.StartAt(start);
-    Open(search);
-    while (true) {
-        if (StepOn(search)) {
-            if (search.Stack.Depth % 2 == 0 && Evaluate(search)) {
-                return true;
-            }
-        } else if (search.Stack.Depth < 2) {
-            return false;
-        } else {
-            search.Stack.Pop();
-        }
-    }
 }
 
 } // namespace
@@ -181,17 +143,24 @@ void SearchRemotePairs(std::int32_t mode, Flag &found)
     Search search;
     search.Mode = mode;
     search.Found = &found;
+    search.Walk.StartNumber = CarriedOutOfEven;
+    search.Walk.MaxCells = MaxRPLinks;
+    search.Walk.Seen = SeenByBoth;
+    search.Walk.HitsItself = true;
+    search.Walk.Links.NumberSum.fill(CarriedOutOfOdd + CarriedOutOfEven);
     const CellSet twos = MarkTwos(ScratchMark0);
     search.Eligible = twos;
     // A start cell may have lost candidates when its turn comes.
     for (CellSet starts = twos; starts.Any(); starts.DropFirst()) {
         const int start = starts.First();
         search.PairMask = WordOf(start) & CandidateMask;
-        if (search.PairMask == 0) {
+        if (search.PairMask == 0 || !Survey(search, start)) {
             continue; // nothing to be taken away
         }
-        Survey(search, start);
-        if (search.Targets.Any() && Walk(search, start)) {
+        // The walk visits the cells of the box that lie in the column or row a second time there;
+        // it can find nothing new by that, so they are left out.
+        StartWalk(search.Walk, start, CarriedOutOfOdd);
+        if (WalkChains(search.Walk, mode != ModeAlert, [&] { return Evaluate(search); })) {
             return;
         }
     }

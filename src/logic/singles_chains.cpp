@@ -84,16 +84,40 @@ const Partners &PartnersOf(const Search &search, int cell)
     return search.Links[static_cast<std::size_t>(cell)];
 }
 
+CellSet PartnersOfAll(const Search &search, CellSet cells)
+{
+    CellSet partners = NoCells;
+    for (; cells.Any(); cells.DropFirst()) {
+        for (const int partner : PartnersOf(search, cells.First())) {
+            partners = partner == NoCell ? partners : partners | CellSet::Of(partner);
+        }
+    }
+    return partners;
+}
+
+// The cells that chains from a start lead to, by the number of cells on the way. Ways that meet a
+// cell twice are counted in, so a search may leave out what lies outside, and nothing else.
+struct Reach {
+    CellSet Odd; // the start among them
+    CellSet Even;
+};
+
+Reach ReachFrom(const Search &search, int start)
+{
+    Reach reach{CellSet::Of(start), NoCells};
+    Reach fresh = reach;
+    while (fresh.Odd.Any() || fresh.Even.Any()) {
+        fresh = {PartnersOfAll(search, fresh.Even).Without(reach.Odd),
+                 PartnersOfAll(search, fresh.Odd).Without(reach.Even)};
+        reach = {reach.Odd | fresh.Odd, reach.Even | fresh.Even};
+    }
+    return reach;
+}
+
 // Finds Targets for a start cell: where the mode may have to act on a chain from it.
 void Survey(Search &search, int start)
 {
-    const Reach reach = ReachFrom(start, [&](int cell) {
-        CellSet next = NoCells;
-        for (const int partner : PartnersOf(search, cell)) {
-            next = partner == NoCell ? next : next | CellSet::Of(partner);
-        }
-        return next;
-    });
+    const Reach reach = ReachFrom(search, start);
     CellSet hit = (reach.Odd & PeersOf(start)).Any() ? reach.Odd : NoCells;
     for (CellSet ends = reach.Even; ends.Any(); ends.DropFirst()) {
         hit = hit | SeenByEnds(start, ends.First());
@@ -247,7 +271,7 @@ std::uint8_t &NextHouse(Search &search)
 // left to be hit.
 bool StepOn(Search &search)
 {
-    if (search.Stack.Depth == MaxSinglesLinks || !search.Targets.Any() || !SpendChainStep()) {
+    if (search.Stack.Depth == MaxSinglesLinks || !search.Targets.Any()) {
         return false;
     }
     const int top = search.Stack.Top();
@@ -264,6 +288,9 @@ bool StepOn(Search &search)
     return false;
 }
 
+// Walks along all chains from a start, unless nothing is left to be hit. That comes to an end soon:
+// a number has 27 links at most, one to a house, and a cell no more than three of them. The worst
+// arrangement known has 118,776 chains from all starts together.
 bool Walk(Search &search, int start)
 {
     search.Stack.StartAt(start);

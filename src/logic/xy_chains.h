@@ -10,14 +10,16 @@
 
 namespace kelvarine {
 
-// Walks all chains of minCells to maxCells cells; all modes. Nothing happens with maxCells below 2.
+// Acts on the chains of minCells to maxCells cells in the order of a depth-first walk; all modes.
+// Nothing happens with maxCells below 2. With minCells above 2 the time grows with the number of
+// chains, so maxCells must be small then; otherwise it does not.
 // Leaves ScratchMark1 on the cells with two candidates, less those that lost one in mode 0, and
 // after a report also ScratchMark2 on the chain, and the chain in ChainColumns and ChainRows.
 void SearchXYChains(std::int32_t mode, std::int32_t minCells, std::int32_t maxCells, Flag &found);
 
-// Chains of up to MaxXYLinks cells as the alert scan asks for them: in mode 1 in one search, in the
-// other modes one search for each length from 2 on until there is a text, so that the player is
-// told the shortest chain first.
+// Chains of up to MaxXYLinks cells as the alert scan asks for them, in modes 1 to 5: in mode 1 all,
+// in the others those of the shortest length of which one hits anything, so that the player is told
+// the shortest chain first.
 void ScanXYChains(std::int32_t mode, Flag &found);
 
 } // namespace kelvarine

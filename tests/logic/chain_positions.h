@@ -126,6 +126,53 @@ inline void MakePairRich(Random &random)
     }
 }
 
+// One of the numbers 1 up to a highest one.
+inline CellWord NumberUpTo(Random &random, int highest)
+{
+    return BitTable[static_cast<std::size_t>(1 + Below(random, highest))];
+}
+
+// Two of the numbers from 1 to a highest one in most cells, in some percent of them three and in
+// some one or none: as a rule the grid contradicts itself many times, and there are more chains
+// than anyone could walk along.
+inline void MakePairsUpTo(Random &random, int highest, int threes, int fewer)
+{
+    for (const Cell cell : Cells) {
+        const int count = Chance(random, fewer) ? Below(random, 2) : Chance(random, threes) ? 3 : 2;
+        CellWord &word = WordAt(cell);
+        word = 0;
+        while (CandidatesIn(word) < std::min(count, highest)) {
+            word |= NumberUpTo(random, highest);
+        }
+    }
+}
+
+inline void MakeContradictoryPairs(Random &random)
+{
+    const int highest = 2 + Below(random, 5);
+    const int threes = Chance(random, 50) ? 0 : Below(random, 60);
+    MakePairsUpTo(random, highest, threes, Chance(random, 40) ? 0 : Below(random, 40));
+}
+
+// The numbers of two solutions laid over each other, with a few cells of three numbers and a few
+// wrong numbers: long chains, many of them without anything to hit.
+inline void MakeTwoSolutions(Random &random)
+{
+    const GridTable one = RandomSolution(random);
+    const GridTable other = RandomSolution(random);
+    const int more = Below(random, 30);
+    const int wrong = Chance(random, 50) ? 0 : Below(random, 20);
+    for (const Cell cell : Cells) {
+        CellWord &word = WordAt(cell);
+        word = one[cell.Column][cell.Row] | other[cell.Column][cell.Row];
+        word |= Chance(random, more) ? RandomNumber(random, CandidateMask) : 0;
+        if (Chance(random, wrong)) {
+            word = NumberUpTo(random, 9);
+            word |= NumberUpTo(random, 9);
+        }
+    }
+}
+
 // Random words in all 32 bits, the candidates thinned out to some degree.
 inline void MakeAbsurd(Random &random)
 {

@@ -5,6 +5,7 @@
 #include "grid/grid.h"
 #include "grid/names.h"
 #include "logic/plain/candidates.h"
+#include "logic/plain/steps.h"
 
 #include <array>
 #include <string>
@@ -77,6 +78,7 @@ private:
     bool Walk()
     {
         while (true) {
+            TakeStep();
             if (Depth != MaxRPLinks && StepOn()) {
                 if (Depth % 2 == 0 && Evaluate()) {
                     return true;

@@ -4,6 +4,7 @@
 
 #include "grid/grid.h"
 #include "grid/names.h"
+#include "logic/plain/steps.h"
 
 #include <array>
 #include <string>
@@ -82,6 +83,7 @@ private:
     bool Walk()
     {
         while (true) {
+            TakeStep();
             if (Depth != MaxSinglesLinks && StepOn()) {
                 if (Depth % 2 == 0 ? WithChain() : WithinChain()) {
                     return true;

@@ -5,6 +5,7 @@
 #include "grid/grid.h"
 #include "grid/names.h"
 #include "logic/plain/candidates.h"
+#include "logic/plain/steps.h"
 
 #include <array>
 #include <string>
@@ -87,6 +88,7 @@ private:
     bool Walk()
     {
         while (true) {
+            TakeStep();
             if (Depth != MaxCells && StepOn()) {
                 if ((CarryMask[Place(Depth)] & StartBit) != 0 && Depth >= MinCells && Evaluate()) {
                     return true;

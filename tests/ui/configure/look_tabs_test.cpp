@@ -123,6 +123,7 @@ TEST_F(ColoursTabTest, PressOnThePalettePicksThePixel)
     auto *palette = Find<QWidget>("picColorpal");
     const QPoint place(30, 90);
     QTest::mousePress(palette, Qt::LeftButton, Qt::NoModifier, place);
+    QTest::mouseRelease(palette, Qt::LeftButton, Qt::NoModifier, place);
     const Colour seen =
         palette->grab().toImage().pixel(place) & 0xFFFFFF; // what the player pressed on
     EXPECT_EQ(ColourTable[0], seen);
@@ -145,6 +146,7 @@ TEST_F(ColoursTabTest, PressOnASwatchCarriesItsColourOver)
     Open(ColoursTab);
     Click("optTableColors4");
     QTest::mousePress(Find<QWidget>("swatch2"), Qt::LeftButton);
+    QTest::mouseRelease(Find<QWidget>("swatch2"), Qt::LeftButton);
     EXPECT_EQ(ColourTable[4], 0x36A2FDU);
     EXPECT_EQ(ColourTable[2], 0x36A2FDU);
     ExpectBars(54, 162, 253);
@@ -154,12 +156,16 @@ TEST_F(ColoursTabTest, SwatchesAndTilesActOnAnyButton)
 {
     Open(ColoursTab);
     QTest::mousePress(Find<QWidget>("swatch2"), Qt::RightButton);
+    QTest::mouseRelease(Find<QWidget>("swatch2"), Qt::RightButton);
     EXPECT_EQ(ColourTable[0], ColourTable[2]);
     QTest::mousePress(Find<QWidget>("swatch3"), Qt::MiddleButton);
+    QTest::mouseRelease(Find<QWidget>("swatch3"), Qt::MiddleButton);
     EXPECT_EQ(ColourTable[0], ColourTable[3]);
     QTest::mousePress(Find<QWidget>("tile7"), Qt::RightButton);
+    QTest::mouseRelease(Find<QWidget>("tile7"), Qt::RightButton);
     EXPECT_EQ(GivenTexture, 7);
     QTest::mousePress(Find<QWidget>("tile4"), Qt::MiddleButton);
+    QTest::mouseRelease(Find<QWidget>("tile4"), Qt::MiddleButton);
     EXPECT_EQ(GivenTexture, 4);
 }
 
