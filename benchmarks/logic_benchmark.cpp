@@ -1,6 +1,7 @@
 // What the logic costs on games of every level: counting, rating, the alert scan, the first stage
 // of a hint, and each technique alone. Each benchmark goes through a sample of positions; the
 // counters tell the median, the mean and the worst of one position in microseconds.
+#include "benchmarks/sample.h"
 #include "game/alert_scan.h"
 #include "generator/random_source.h"
 #include "grid/grid.h"
@@ -23,8 +24,6 @@
 
 namespace kelvarine {
 namespace {
-
-using Sample = std::vector<GridTable>;
 
 // Games of 81 marks with all pencilmarks filled in.
 Sample GamesOf(const std::vector<std::string> &texts)
@@ -96,34 +95,6 @@ Sample MidGames(Sample games)
         game = Grid;
     }
     return games;
-}
-
-void Measure(benchmark::State &state, const Sample &sample, const std::function<void()> &work)
-{
-    using Clock = std::chrono::steady_clock;
-    std::vector<double> times(sample.size(), 1e9);
-    for (auto _ : state) {
-        for (std::size_t k = 0; k < sample.size(); ++k) {
-            Grid = sample[k];
-            const auto start = Clock::now();
-            work();
-            const std::chrono::duration<double, std::micro> time = Clock::now() - start;
-            times[k] = std::min(times[k], time.count());
-        }
-    }
-    std::ranges::sort(times);
-    state.counters["median_us"] = times[times.size() / 2];
-    state.counters["mean_us"] =
-        std::accumulate(times.begin(), times.end(), 0.0) / static_cast<double>(times.size());
-    state.counters["worst_us"] = times.back();
-    state.counters["positions"] = static_cast<double>(times.size());
-}
-
-void Register(const std::string &name, const Sample &sample, const std::function<void()> &work)
-{
-    benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State &state) {
-        Measure(state, sample, work);
-    })->Unit(benchmark::kMillisecond);
 }
 
 // Contradictory grids: texts on which only the proof ends the walk through all trials, and pairs
