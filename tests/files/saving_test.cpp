@@ -82,6 +82,8 @@ TEST_F(Saving, KilledAtAnySystemCallLeavesTheOldOrTheNewFile)
         const std::string bytes = Folder.Read("game.sdk");
         ASSERT_TRUE(bytes == oldGame || bytes == newGame) << "killed at call " << call;
         old += bytes == oldGame ? 1 : 0;
+        Folder.Write("game.sdk", oldGame);
+        ASSERT_EQ(Folder.Entries(), 1) << "a leftover after the next save, of call " << call;
     }
     if (kill == Kill::NotPossible) {
         GTEST_SKIP() << "this machine lets nobody trace a process";
@@ -89,7 +91,6 @@ TEST_F(Saving, KilledAtAnySystemCallLeavesTheOldOrTheNewFile)
     // Making the file beside, writing, flushing, closing and renaming it are calls at least.
     EXPECT_GE(old, 5);
     EXPECT_GT(call, old + 1);
-    EXPECT_TRUE(Folder.Read("game.sdk") == newGame);
 }
 
 TEST_F(Saving, FileSizeLimitLeavesTheOldFileWhole)
