@@ -5,7 +5,10 @@
 #include "game/undo.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
+#include "outside/file_lock.h"
+#include "outside/folders.h"
 #include "outside/whole_file.h"
+#include "support/child_process.h"
 #include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
@@ -234,7 +237,7 @@ TEST_F(Statistics, FailingWriteIsToldOnceAndTheSessionCounts)
     EXPECT_EQ(InFile()[0].Solved, 1) << "goes on as soon as it can";
 }
 
-TEST_F(Statistics, FileThatCannotBeReadIsNotWrittenOver)
+TEST_F(Statistics, FolderInThePlaceOfTheFileIsTold)
 {
     std::filesystem::create_directories(StatisticsFilePath());
     Solve(1, 60);
@@ -242,6 +245,82 @@ TEST_F(Statistics, FileThatCannotBeReadIsNotWrittenOver)
     EXPECT_EQ(Seen.Messages, Texts{"Unable to save statistics.\r\rIs a directory"});
     EXPECT_TRUE(std::filesystem::is_directory(StatisticsFilePath()));
     EXPECT_EQ(SessionStats[0].Solved, 2);
+}
+
+// A file that may be written and not read, for a user without rights of any kind.
+TEST_F(Statistics, FileThatCannotBeReadIsNotWrittenOver)
+{
+    const std::string bytes = StatisticsBytes({{{0, 7, 30, 40}}});
+    PutFile(bytes);
+    const std::filesystem::path folder = std::filesystem::path(StatisticsFilePath()).parent_path();
+    std::filesystem::permissions(StatisticsFilePath(), std::filesystem::perms(0222));
+    for (std::filesystem::path above = folder; above != std::filesystem::temp_directory_path();
+         above = above.parent_path()) {
+        std::filesystem::permissions(above, std::filesystem::perms::all);
+    }
+    const int result = RunInChild([] {
+        constexpr int nobody = 65534;
+        if (::getuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0)) {
+            return 1;
+        }
+        Solve(1, 60);
+        EXPECT_EQ(Seen.Messages, Texts{"Unable to save statistics.\r\rPermission denied"});
+        return HasFailure() ? 1 : 0;
+    });
+    EXPECT_EQ(result, 0);
+    std::filesystem::permissions(StatisticsFilePath(), std::filesystem::perms(0644));
+    EXPECT_EQ(FileBytes(), bytes);
+}
+
+TEST_F(Statistics, FailureAfterASuccessIsToldAgain)
+{
+    const std::filesystem::path folder = std::filesystem::path(StatisticsFilePath()).parent_path();
+    std::filesystem::create_directories(folder.parent_path());
+    for (int round = 0; round < 2; ++round) {
+        std::filesystem::remove_all(folder);
+        std::ofstream(folder) << "in the way";
+        Solve(1, 60);
+        std::filesystem::remove(folder);
+        Solve(1, 60);
+    }
+    EXPECT_EQ(Seen.Messages.size(), 2U);
+}
+
+// ---- Two programs ----------------------------------------------------------------------------
+
+TEST_F(Statistics, LockThatAnotherProgramHoldsIsWaitedForAndThenTold)
+{
+    Solve(1, 60);
+    const FileLock other(DataFolder() + "stats.lock");
+    ASSERT_EQ(other.State(), LockState::Held);
+    Solve(1, 60);
+    EXPECT_EQ(Seen.Messages, Texts{"Unable to save statistics.\r\rAnother program is using them."});
+    EXPECT_EQ(InFile()[0].Solved, 1);
+    Seen.Messages.clear();
+    Seen.YesNoAnswers = {true};
+    cmdClearStats();
+    EXPECT_EQ(Seen.Messages, Texts{"Another program is using them."});
+    EXPECT_EQ(InFile()[0].Solved, 1);
+}
+
+TEST_F(Statistics, TwoProgramsWithFiveHundredWinsEachCountAThousand)
+{
+    const auto play = [] {
+        for (int win = 0; win < 500; ++win) {
+            Solve(1, 60);
+        }
+        return Seen.Messages.empty() ? 0 : 1;
+    };
+    const pid_t other = ::fork();
+    if (other == 0) {
+        ::_exit(play());
+    }
+    EXPECT_EQ(play(), 0);
+    int status = 0;
+    ::waitpid(other, &status, 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(InFile()[0].Solved, 1000);
+    EXPECT_EQ(SessionStats[0].Solved, 500);
 }
 
 // ---- Texts ---------------------------------------------------------------------------------
