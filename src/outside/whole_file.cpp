@@ -232,6 +232,14 @@ bool WriteInPlace(const std::string &path, std::string_view bytes, std::string &
     return false;
 }
 
+bool OverwritePart(const std::string &path, std::size_t place, std::string_view bytes)
+{
+    const Descriptor file(::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOFOLLOW));
+    return file.IsOpen() &&
+           ::pwrite(file.Number(), bytes.data(), bytes.size(), static_cast<off_t>(place)) ==
+               static_cast<ssize_t>(bytes.size());
+}
+
 bool FileExists(const std::string &path)
 {
     struct stat kind {};

@@ -39,6 +39,10 @@ bool NeedsWritingInPlace(const std::string &path);
 // the system's words in error, when that fails; it may hold half of them then.
 bool WriteInPlace(const std::string &path, std::string_view bytes, std::string &error);
 
+// Writes bytes over others in the middle of a file, without waiting for the disk. False when that
+// fails. A few bytes that lie within a sector of the disk change at once or not at all.
+bool OverwritePart(const std::string &path, std::size_t place, std::string_view bytes);
+
 // True when something by that name exists.
 bool FileExists(const std::string &path);
 

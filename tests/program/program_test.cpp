@@ -41,7 +41,10 @@ TEST_F(WholeProgram, StartsOnAnEmptyGameThatNobodyHasToSave)
     EXPECT_EQ(Grid, GridTable{});
     EXPECT_EQ(GameModified, False);
     EXPECT_EQ(HistoryCount, 1);
-    EXPECT_TRUE(Seen.LaterDeeds.empty());
+    ASSERT_EQ(Seen.LaterDeeds.size(), 1U);
+    ForgetRecord();
+    Seen.LaterDeeds[0]();
+    EXPECT_EQ(Acts(), Texts{}) << "there is no game to go on with";
 }
 
 TEST_F(WholeProgram, BringsBackTheScreensThatWereOpenButTheSolutions)

@@ -42,6 +42,8 @@ struct OutsideRecord {
     double Now = 0; // seconds since midnight
     bool ClockTimerOn = false;
     bool WinTimerOn = false;
+    bool RecoveryTimerOn = false;
+    int RecoveryMilliseconds = 0;
     int WinInterval = 0;
     std::uint32_t SoundVolume = 0;
     std::function<void()> OnYield;

@@ -1,0 +1,264 @@
+#include "files/recovery.h"
+
+#include "files/game_file.h"
+#include "files/recovered_folder.h"
+#include "game/game_in_hand.h"
+#include "game/lifecycle.h"
+#include "grid/grid.h"
+#include "grid/history.h"
+#include "logic/driver.h"
+#include "outside/file_lock.h"
+#include "outside/folders.h"
+#include "outside/later_write.h"
+#include "outside/messages.h"
+#include "outside/whole_file.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <system_error>
+
+namespace kelvarine {
+
+namespace {
+
+// ---- The file: a game file, and behind it what such a file does not tell ---------------------
+
+constexpr char OfAGame = 'G'; // what the game's own file holds
+constexpr char OfAText = 'T';
+
+std::string WithItsFile(std::string game)
+{
+    return game + (FileWasText != False ? OfAText : OfAGame) + GameFilePath;
+}
+
+// The game in hand, wherever it is kept at the moment; nothing while it cannot be told from what
+// the logic does on the board.
+std::optional<std::string> RecoveryBytes()
+{
+    if (GameAside != nullptr) {
+        return WithItsFile(GameFileBytes(*GameAside));
+    }
+    if (SearchKind == ListingSolutions) {
+        return WithItsFile(GameFileBytes(History[SolutionsCopySlot]));
+    }
+    if (SearchActive != False) {
+        return std::nullopt;
+    }
+    return WithItsFile(GameFileBytes());
+}
+
+bool IsModified()
+{
+    return (GameAside != nullptr ? GameAside->Modified : GameModified) != False;
+}
+
+// ---- Places: each program has a number of its own --------------------------------------------
+
+constexpr int MostPrograms = 100;
+
+struct Place {
+    std::string Path;
+    std::unique_ptr<FileLock> Lock;
+};
+
+std::string PathOf(int number)
+{
+    return DataFolder() + "recovery-" + std::to_string(number) + ".sdk";
+}
+
+// Takes a place that no program holds; not Held when it cannot be had.
+Place Hold(int number)
+{
+    return {PathOf(number),
+            std::make_unique<FileLock>(
+                DataFolder() + "recovery-" + std::to_string(number) + ".lock", 0, LockFile::Goes)};
+}
+
+bool IsHeld(const Place &place)
+{
+    return place.Lock != nullptr && place.Lock->State() == LockState::Held;
+}
+
+Place own;
+Place lost;
+
+// What stands in the own file, or is on its way there; empty when nothing does.
+std::string kept;
+
+// Set when the player knows that the game is not safe, until it is again.
+bool failureTold = false;
+
+void TellFailure(const std::string &words)
+{
+    kept.clear();
+    if (!failureTold) {
+        failureTold = true;
+        ShowMessage("Unable to keep a copy of this game.\r\r" + words);
+    }
+}
+
+// Finds a place of one's own. The words of a failure, or nothing.
+std::string FindPlace()
+{
+    for (int number = 1; !IsHeld(own) && number <= MostPrograms; ++number) {
+        if (FileExists(PathOf(number))) {
+            continue; // another program's, or one that is to be offered
+        }
+        own = Hold(number);
+        if (own.Lock->State() == LockState::Failed) {
+            return own.Lock->Error();
+        }
+        // It may have come between the look and the lock.
+        if (IsHeld(own) && FileExists(own.Path)) {
+            own = {};
+        }
+    }
+    return IsHeld(own) ? std::string() : "Too many programs are running.";
+}
+
+void RemoveOwnFile()
+{
+    if (!kept.empty()) {
+        std::error_code unseen;
+        std::filesystem::remove(own.Path, unseen);
+        kept.clear();
+    }
+}
+
+// ---- Writing ---------------------------------------------------------------------------------
+
+// True when the clock alone has gone on since, which is written over where it stands: the disk
+// takes the eight bytes or does not.
+bool KeepTimeAlone(const std::string &bytes)
+{
+    if (kept.size() != bytes.size() || kept.compare(0, TimePlace, bytes, 0, TimePlace) != 0 ||
+        kept.compare(TimePlace + TimeSize, std::string::npos, bytes, TimePlace + TimeSize) != 0) {
+        return false;
+    }
+    return OverwritePart(own.Path, TimePlace, std::string_view(bytes).substr(TimePlace, TimeSize));
+}
+
+void Keep(const std::string &bytes)
+{
+    if (bytes == kept) {
+        return;
+    }
+    if (!KeepTimeAlone(bytes)) {
+        if (const std::string failure = FindPlace(); !failure.empty()) {
+            TellFailure(failure);
+            return;
+        }
+        BeginWrite(own.Path, bytes);
+    }
+    kept = bytes;
+}
+
+// True when nothing is being written any more, or never was.
+bool LastWriteHasEnded()
+{
+    if (IsWriting()) {
+        return false;
+    }
+    if (const std::string failure = EndWrite(); !failure.empty()) {
+        TellFailure(failure);
+    } else if (!kept.empty()) {
+        failureTold = false;
+    }
+    return true;
+}
+
+} // namespace
+
+void SetRecoveryDefaults()
+{
+    EndWrite();
+    own = {};
+    lost = {};
+    kept.clear();
+    failureTold = false;
+}
+
+void RecoveryTick()
+{
+    if (!LastWriteHasEnded()) {
+        return;
+    }
+    if (!IsModified()) {
+        RemoveOwnFile();
+    } else if (const std::optional<std::string> bytes = RecoveryBytes()) {
+        Keep(*bytes);
+    }
+}
+
+bool WriteRecovery()
+{
+    if (!EndWrite().empty()) {
+        kept.clear();
+    }
+    if (!IsModified()) {
+        RemoveOwnFile();
+        return true;
+    }
+    const std::optional<std::string> bytes = RecoveryBytes();
+    std::string error;
+    if (!bytes || !FindPlace().empty() || !ReplaceWholeFile(own.Path, *bytes, error)) {
+        return false;
+    }
+    kept = *bytes;
+    return true;
+}
+
+void RemoveRecovery()
+{
+    EndWrite();
+    RemoveOwnFile();
+    own = {};
+}
+
+// ---- Games of programs that have gone --------------------------------------------------------
+
+bool FindLostGame()
+{
+    lost = {};
+    std::filesystem::file_time_type newest;
+    for (int number = 1; number <= MostPrograms; ++number) {
+        std::error_code failure;
+        const auto changed = std::filesystem::last_write_time(PathOf(number), failure);
+        if (failure || (IsHeld(lost) && changed <= newest)) {
+            continue;
+        }
+        Place found = Hold(number);
+        if (IsHeld(found) && FileExists(found.Path)) {
+            lost = std::move(found);
+            newest = changed;
+        }
+    }
+    return IsHeld(lost);
+}
+
+bool TakeLostGame()
+{
+    std::string bytes;
+    std::string unread;
+    if (!ReadWholeFile(lost.Path, bytes, unread) || bytes.size() <= GameFileSize ||
+        !IsWholeGame(bytes) || !ReadGame(bytes)) {
+        return false;
+    }
+    RemoveRecovery();
+    own = std::move(lost);
+    kept = bytes;
+    FileWasText = bytes[GameFileSize] == OfAText ? True : False;
+    GameFilePath = bytes.substr(GameFileSize + 1);
+    GameModified = True;
+    return true;
+}
+
+bool PutLostGameAside()
+{
+    const bool moved = KeepRecoveredGame(lost.Path);
+    lost = {};
+    return moved;
+}
+
+} // namespace kelvarine
