@@ -1,6 +1,7 @@
 #include "files/game_file.h"
 
 #include "files/player_file.h"
+#include "files/recovery.h"
 #include "files/text_case.h"
 #include "files/text_format.h"
 #include "game/clock.h"
@@ -195,6 +196,7 @@ bool WriteGameFile()
     // A text keeps but a part of the game, so the game stays modified.
     if (!asText) {
         GameModified = False;
+        DropRecovery();
     }
     return true;
 }

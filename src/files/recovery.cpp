@@ -209,10 +209,15 @@ bool WriteRecovery()
     return true;
 }
 
-void RemoveRecovery()
+void DropRecovery()
 {
     EndWrite();
     RemoveOwnFile();
+}
+
+void RemoveRecovery()
+{
+    DropRecovery();
     own = {};
 }
 

@@ -23,7 +23,10 @@ void RecoveryTick();
 // word. True when the game is safe: it stands there to its last change, or is not modified.
 bool WriteRecovery();
 
-// The game in hand is in good order, or not wanted any more: its file goes.
+// The game in hand stands in a file of the player's: its recovery file goes until the next change.
+void DropRecovery();
+
+// The program ends in good order: its recovery file goes, and the lock on it.
 void RemoveRecovery();
 
 // ---- Games of programs that have gone ------------------------------------------------------

@@ -93,8 +93,8 @@ def main():
         walk(desktop, program, end)
         walk_back(desktop, program, end)
         over_a_message_at_the_start(desktop, program)
-        over_the_closing_question(desktop, program)
         without_an_answer(desktop, program)
+        over_the_closing_question(desktop, program)
     with Desktop() as desktop:  # without settings, for this program has its own
         over_the_question_of_a_search(desktop, hopeless)
     print("ended by signal: all as it should be")

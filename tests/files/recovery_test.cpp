@@ -177,6 +177,22 @@ TEST_F(Recovery, SavedGameNeedsNoFile)
     EXPECT_EQ(Files(), Texts{});
 }
 
+TEST_F(Recovery, SaveLeavesNoOlderGameToBeOffered)
+{
+    const TemporaryFolder folder;
+    GameFilePath = folder.Path("game.sdk");
+    Play();
+    RecoveryTick();
+    mnuSave();
+    EXPECT_EQ(Files(), Texts{"recovery-1.lock"});
+    Play();
+    TickAndWrite();
+    EXPECT_TRUE(Kept() == GameFileBytes() + "G" + GameFilePath);
+    GameFilePath = folder.Path("game.txt");
+    mnuSave();
+    EXPECT_EQ(Files(), (Texts{"recovery-1.lock", "recovery-1.sdk"})) << "a text keeps but a part";
+}
+
 TEST_F(Recovery, OrderlyEndLeavesNothingEvenInTheMiddleOfAWrite)
 {
     Play();
