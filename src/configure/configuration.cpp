@@ -110,9 +110,9 @@ bool KeepConfiguration(std::string &error)
     }
     const std::string path = SettingsFolder() + std::string(FileName);
     std::string standing;
-    std::string unread;
-    ReadWholeFile(path, standing, unread, ConfigurationSize);
-    if (!ReplaceWholeFile(path, BytesOver(standing), error)) {
+    // What is there and cannot be read is not written over.
+    if ((FileExists(path) && !ReadWholeFile(path, standing, error, ConfigurationSize)) ||
+        !ReplaceWholeFile(path, BytesOver(standing), error)) {
         return false;
     }
     bytesAsRead.reset();
