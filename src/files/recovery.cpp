@@ -2,6 +2,7 @@
 
 #include "files/game_file.h"
 #include "files/recovered_folder.h"
+#include "game/clock.h"
 #include "game/game_in_hand.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
@@ -26,10 +27,26 @@ namespace {
 
 constexpr char OfAGame = 'G'; // what the game's own file holds
 constexpr char OfAText = 'T';
+constexpr char Running = 'R'; // the clock
+constexpr char Paused = 'P';
+constexpr std::size_t FileSign = GameFileSize;
+constexpr std::size_t ClockSign = FileSign + 1;
+constexpr std::size_t FilePath = ClockSign + 1; // to the end
 
-std::string WithItsFile(std::string game)
+std::string WithItsFile(const std::string &game)
 {
-    return game + (FileWasText != False ? OfAText : OfAGame) + GameFilePath;
+    const char ofWhat = FileWasText != False ? OfAText : OfAGame;
+    return game + ofWhat + (IsPaused() ? Paused : Running) + GameFilePath;
+}
+
+// What stands behind the game, of a game that has just been read.
+void TakeItsFile(const std::string &bytes)
+{
+    FileWasText = bytes[FileSign] == OfAText ? True : False;
+    GameFilePath = bytes.substr(FilePath);
+    if (bytes[ClockSign] == Paused && ClockRunning != False) {
+        mnuPauseTime();
+    }
 }
 
 // The game in hand, wherever it is kept at the moment; nothing while it cannot be told from what
@@ -154,17 +171,18 @@ void Keep(const std::string &bytes)
     kept = bytes;
 }
 
-// True when nothing is being written any more, or never was.
-bool LastWriteHasEnded()
+// True when nothing is being written any more, or never was. What has failed is told, and tried
+// again the next time.
+bool LastWriteIsDone()
 {
     if (IsWriting()) {
         return false;
     }
     if (const std::string failure = EndWrite(); !failure.empty()) {
         TellFailure(failure);
-    } else if (!kept.empty()) {
-        failureTold = false;
+        return false;
     }
+    failureTold = failureTold && kept.empty();
     return true;
 }
 
@@ -181,7 +199,7 @@ void SetRecoveryDefaults()
 
 void RecoveryTick()
 {
-    if (!LastWriteHasEnded()) {
+    if (!LastWriteIsDone()) {
         return;
     }
     if (!IsModified()) {
@@ -246,15 +264,14 @@ bool TakeLostGame()
 {
     std::string bytes;
     std::string unread;
-    if (!ReadWholeFile(lost.Path, bytes, unread) || bytes.size() <= GameFileSize ||
+    if (!ReadWholeFile(lost.Path, bytes, unread) || bytes.size() < FilePath ||
         !IsWholeGame(bytes) || !ReadGame(bytes)) {
         return false;
     }
     RemoveRecovery();
     own = std::move(lost);
     kept = bytes;
-    FileWasText = bytes[GameFileSize] == OfAText ? True : False;
-    GameFilePath = bytes.substr(GameFileSize + 1);
+    TakeItsFile(bytes);
     GameModified = True;
     return true;
 }

@@ -67,6 +67,7 @@ class Home:
             process.kill()
             process.wait()
         self.read(log.read_text(), killed)
+        log.replace(self.path / "log of the one before")
         self.check_files(before)
 
     def wait_for_the_begin(self, process, log):
@@ -102,8 +103,8 @@ class Home:
     def check_begin(self, state):
         if self.acceptable is None:
             return
-        expect(state in self.acceptable,
-               f"the next start brings back what stood there at the last look or later: {self.path}")
+        expect(state in self.acceptable, "the next start brings back what stood there at the last look"
+               f" or later; see the logs in {self.path}")
         last = len(self.acceptable) - 1 - self.acceptable[::-1].index(state)
         gone = self.times[last + 1][0]  # when the next state came, or the kill
         self.lags.append((self.times[-1][0] - gone) / 1000)
@@ -116,7 +117,7 @@ class Home:
         for path in self.data.glob("recovery-*.sdk"):
             contents = path.read_bytes()
             expect(len(contents) > GAME_SIZE and contents[8:40] == HEADER
-                   and contents[GAME_SIZE + 1:] == bytes(self.game),
+                   and contents[GAME_SIZE:] == b"GR" + bytes(self.game),
                    "a recovery file is whole")
             position = struct.unpack_from("<10i", contents, 13 * 40)[2]
             expect(0 < position <= 100, "and points at a level of its own")

@@ -168,9 +168,11 @@ void Turn()
     TellState();
 }
 
+// A look that finds the disk still at work is none.
 void Ticked()
 {
-    if (SearchActive == False) {
+    const bool stillWriting = writing && IsWriting();
+    if (SearchActive == False && !stillWriting) {
         TellState();
         Tell("tick");
         writing = true;

@@ -123,7 +123,7 @@ TEST_F(Recovery, ModifiedGameStandsInTheFileAfterATick)
     Play();
     TickAndWrite();
     EXPECT_EQ(Files(), (Texts{"recovery-1.lock", "recovery-1.sdk"}));
-    EXPECT_TRUE(Kept() == GameFileBytes() + "G/home/anna/lat\xe4in.sdk");
+    EXPECT_TRUE(Kept() == GameFileBytes() + "GR/home/anna/lat\xe4in.sdk");
 }
 
 TEST_F(Recovery, EveryKindOfChangeIsWritten)
@@ -136,9 +136,9 @@ TEST_F(Recovery, EveryKindOfChangeIsWritten)
     for (const auto &change : changes) {
         TickAndWrite();
         change();
-        EXPECT_FALSE(Kept() == GameFileBytes() + "G");
+        EXPECT_FALSE(Kept() == GameFileBytes() + "GR");
         TickAndWrite();
-        EXPECT_TRUE(Kept() == GameFileBytes() + "G");
+        EXPECT_TRUE(Kept() == GameFileBytes() + "GR");
     }
 }
 
@@ -159,11 +159,11 @@ TEST_F(Recovery, TimeAloneIsWrittenOverInItsPlace)
     ClockTick();
     TickAndWrite();
     EXPECT_EQ(calls.Names(), Texts{"close"}) << "no new file, no flush";
-    EXPECT_TRUE(Kept() == GameFileBytes() + "G");
+    EXPECT_TRUE(Kept() == GameFileBytes() + "GR");
     std::filesystem::remove(DataFolder() + "recovery-1.sdk");
     ClockTick();
     TickAndWrite();
-    EXPECT_TRUE(Kept() == GameFileBytes() + "G") << "a file that has gone is written anew";
+    EXPECT_TRUE(Kept() == GameFileBytes() + "GR") << "a file that has gone is written anew";
 }
 
 TEST_F(Recovery, SavedGameNeedsNoFile)
@@ -187,7 +187,7 @@ TEST_F(Recovery, SaveLeavesNoOlderGameToBeOffered)
     EXPECT_EQ(Files(), Texts{"recovery-1.lock"});
     Play();
     TickAndWrite();
-    EXPECT_TRUE(Kept() == GameFileBytes() + "G" + GameFilePath);
+    EXPECT_TRUE(Kept() == GameFileBytes() + "GR" + GameFilePath);
     GameFilePath = folder.Path("game.txt");
     mnuSave();
     EXPECT_EQ(Files(), (Texts{"recovery-1.lock", "recovery-1.sdk"})) << "a text keeps but a part";
@@ -207,7 +207,7 @@ TEST_F(Recovery, EndThatMayNotAskWritesAtOnce)
     EXPECT_EQ(Files(), Texts{});
     Play();
     EXPECT_TRUE(WriteRecovery());
-    EXPECT_TRUE(Kept() == GameFileBytes() + "G");
+    EXPECT_TRUE(Kept() == GameFileBytes() + "GR");
     GameModified = False;
     EXPECT_TRUE(WriteRecovery());
     EXPECT_EQ(Files(), Texts{"recovery-1.lock"});
@@ -226,7 +226,7 @@ TEST_F(Recovery, FailureIsToldOnceUntilItWorksAgain)
     EXPECT_FALSE(WriteRecovery());
     std::filesystem::remove(folder);
     TickAndWrite();
-    EXPECT_TRUE(Kept() == GameFileBytes() + "G") << "tried again without a change";
+    EXPECT_TRUE(Kept() == GameFileBytes() + "GR") << "tried again without a change";
 }
 
 TEST_F(Recovery, FailureOnTheDiskIsToldAtTheNextTickAndTriedAgain)
@@ -240,7 +240,7 @@ TEST_F(Recovery, FailureOnTheDiskIsToldAtTheNextTickAndTriedAgain)
     TickAndWrite();
     EXPECT_EQ(Seen.Messages, Texts{"Unable to keep a copy of this game.\r\rInput/output error"});
     TickAndWrite();
-    EXPECT_TRUE(Kept() == GameFileBytes() + "G");
+    EXPECT_TRUE(Kept() == GameFileBytes() + "GR");
 }
 
 // ---- While the board holds something else ----------------------------------------------------
@@ -255,7 +255,7 @@ TEST_F(Recovery, GameThatWasPutAsideIsTheOneThatIsKept)
     HistoryCount = 50;
     GameModified = False;
     TickAndWrite();
-    EXPECT_TRUE(Kept() == game + "G");
+    EXPECT_TRUE(Kept() == game + "GR");
     BringBack(*aside);
 }
 
@@ -271,7 +271,7 @@ TEST_F(Recovery, GameWhoseSolutionsAreListedIsTheOneThatIsKept)
     };
     ListSolutions();
     EXPECT_GT(listed, 0);
-    EXPECT_TRUE(Kept() == game + "G");
+    EXPECT_TRUE(Kept() == game + "GR");
 }
 
 TEST_F(Recovery, WhatTheLogicTriesOnTheBoardIsNotWritten)
@@ -325,7 +325,7 @@ TEST_F(Recovery, GameThatCameBackStaysSafeAndGoesWithAnOrderlyEnd)
     EXPECT_EQ(Files(), (Texts{"recovery-1.lock", "recovery-1.sdk"}));
     Play();
     TickAndWrite();
-    EXPECT_TRUE(Kept() == GameFileBytes() + "G");
+    EXPECT_TRUE(Kept() == GameFileBytes() + "GR");
     RemoveRecovery();
     EXPECT_EQ(Files(), Texts{});
 }
@@ -342,6 +342,21 @@ TEST_F(Recovery, ThatItsFileWasATextIsKnownAgain)
     Seen.YesNoAnswers = {true};
     OfferLostGames();
     EXPECT_EQ(FileWasText, True);
+}
+
+TEST_F(Recovery, PausedGameComesBackPaused)
+{
+    Killed([] {
+        Play();
+        mnuPauseTime();
+        TickAndWrite();
+    });
+    StartAnew();
+    ResetSolveTime(); // as the game of the start does
+    Seen.YesNoAnswers = {true};
+    OfferLostGames();
+    EXPECT_TRUE(IsPaused());
+    EXPECT_FALSE(Seen.ClockTimerOn);
 }
 
 TEST_F(Recovery, NoKeepsTheGameUnderItsDate)
@@ -369,7 +384,7 @@ TEST_F(Recovery, NewestTenAreKeptAndOtherFilesStay)
     for (int game = 10; game < 24; ++game) {
         const std::string path = DataFolder() + "recovery-" + std::to_string(game) + ".sdk";
         std::string error;
-        ASSERT_TRUE(ReplaceWholeFile(path, GameFileBytes() + "G", error));
+        ASSERT_TRUE(ReplaceWholeFile(path, GameFileBytes() + "GR", error));
         const std::array<timeval, 2> times{{{game * 100'000, 0}, {game * 100'000, 0}}};
         ASSERT_EQ(::utimes(path.c_str(), times.data()), 0);
     }
@@ -387,7 +402,7 @@ TEST_F(Recovery, TwoOfTheSameSecondAreBothKept)
     for (const char *number : {"1", "2"}) {
         const std::string path = DataFolder() + "recovery-" + number + ".sdk";
         std::string error;
-        ASSERT_TRUE(ReplaceWholeFile(path, GameFileBytes() + "G", error));
+        ASSERT_TRUE(ReplaceWholeFile(path, GameFileBytes() + "GR", error));
         const std::array<timeval, 2> times{{{5, 0}, {5, 0}}};
         ASSERT_EQ(::utimes(path.c_str(), times.data()), 0);
     }
@@ -403,7 +418,7 @@ TEST_F(Recovery, NewestOfSeveralIsOfferedFirst)
             DataFolder() + "recovery-" +
             std::to_string(seconds == 2.0 ? 3 : static_cast<int>(seconds) + 3) + ".sdk";
         std::string error;
-        ASSERT_TRUE(ReplaceWholeFile(path, GameFileBytes() + "G", error));
+        ASSERT_TRUE(ReplaceWholeFile(path, GameFileBytes() + "GR", error));
         const auto when = static_cast<time_t>(seconds == 2.0 ? 9 : 5);
         const std::array<timeval, 2> times{{{when, 0}, {when, 0}}};
         ASSERT_EQ(::utimes(path.c_str(), times.data()), 0);
