@@ -14,10 +14,14 @@
 #include "outside/messages.h"
 #include "outside/whole_file.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 namespace kelvarine {
 
@@ -95,6 +99,25 @@ Place Hold(int number)
 bool IsHeld(const Place &place)
 {
     return place.Lock != nullptr && place.Lock->State() == LockState::Held;
+}
+
+// The numbers of the recovery files that there are, the newest first.
+std::vector<int> KeptGames()
+{
+    std::vector<std::pair<std::filesystem::file_time_type, int>> games;
+    for (int number = 1; number <= MostPrograms; ++number) {
+        std::error_code failure;
+        const auto changed = std::filesystem::last_write_time(PathOf(number), failure);
+        if (!failure) {
+            games.emplace_back(changed, number);
+        }
+    }
+    std::ranges::sort(games, std::greater());
+    std::vector<int> numbers;
+    for (const auto &[changed, number] : games) {
+        numbers.push_back(number);
+    }
+    return numbers;
 }
 
 Place own;
@@ -243,21 +266,14 @@ void RemoveRecovery()
 
 bool FindLostGame()
 {
-    lost = {};
-    std::filesystem::file_time_type newest;
-    for (int number = 1; number <= MostPrograms; ++number) {
-        std::error_code failure;
-        const auto changed = std::filesystem::last_write_time(PathOf(number), failure);
-        if (failure || (IsHeld(lost) && changed <= newest)) {
-            continue;
-        }
-        Place found = Hold(number);
-        if (IsHeld(found) && FileExists(found.Path)) {
-            lost = std::move(found);
-            newest = changed;
+    for (const int number : KeptGames()) {
+        lost = Hold(number);
+        if (IsHeld(lost) && FileExists(lost.Path)) {
+            return true;
         }
     }
-    return IsHeld(lost);
+    lost = {};
+    return false;
 }
 
 bool TakeLostGame()

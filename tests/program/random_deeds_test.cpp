@@ -27,8 +27,10 @@
 #include <filesystem>
 #include <malloc.h>
 #include <random>
+
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+// The sanitizer's own count; its header does not come with every compiler.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace kelvarine::testing {
