@@ -114,6 +114,7 @@ std::vector<int> KeptGames()
     }
     std::ranges::sort(games, std::greater());
     std::vector<int> numbers;
+    numbers.reserve(games.size());
     for (const auto &[changed, number] : games) {
         numbers.push_back(number);
     }

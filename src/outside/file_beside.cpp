@@ -23,7 +23,7 @@ constexpr std::string_view Letters =
     "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
 constexpr std::size_t RandomLetters = 6;
 constexpr int MostNames = 100; // that may be taken before the folder counts as full
-constexpr std::time_t Day = 24 * 60 * 60;
+constexpr std::time_t Day = std::time_t{24} * 60 * 60;
 
 // A short name of its own, so that a long name of the target stands in nobody's way, and one that
 // nobody can foresee.

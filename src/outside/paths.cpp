@@ -67,7 +67,10 @@ bool FollowLinks(const std::string &path, std::string &target)
         if (!ReadLink(target, next)) {
             return false;
         }
-        target = next.starts_with('/') ? next : FolderOf(target) + "/" + next;
+        if (!next.starts_with('/')) {
+            next.insert(0, FolderOf(target) + "/");
+        }
+        target = next;
     }
     errno = ELOOP;
     return false;
