@@ -31,18 +31,12 @@ bool SaveUnderChosenName()
 }
 
 // Whether the game's own file may be written over without another name. What was read as text is
-// replaced by a game only when its name is one of the program's, or the player says so, once.
+// replaced by a game only when its name is one of the program's, or the player says so.
 bool AgreeOnOwnFile()
 {
-    if (FileWasText == False || GameFilePath.ends_with(GameExtension) ||
-        GameFilePath.ends_with(TextExtension) || !FileExists(GameFilePath)) {
-        return true;
-    }
-    if (!AgreeToOverwrite(GameFilePath)) {
-        return false;
-    }
-    FileWasText = False;
-    return true;
+    return FileWasText == False || GameFilePath.ends_with(GameExtension) ||
+           GameFilePath.ends_with(TextExtension) || !FileExists(GameFilePath) ||
+           AgreeToOverwrite(GameFilePath);
 }
 
 } // namespace
