@@ -117,7 +117,7 @@ class Home:
         for path in self.data.glob("recovery-*.sdk"):
             contents = path.read_bytes()
             expect(len(contents) > GAME_SIZE and contents[8:40] == HEADER
-                   and contents[GAME_SIZE:] == b"GR" + bytes(self.game),
+                   and contents[GAME_SIZE:] in (b"GR" + bytes(self.game), b"TR" + bytes(self.game)),
                    "a recovery file is whole")
             position = struct.unpack_from("<10i", contents, 13 * 40)[2]
             expect(0 < position <= 100, "and points at a level of its own")

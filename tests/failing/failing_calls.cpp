@@ -33,6 +33,8 @@ Call Real(const char *name)
 
 } // namespace
 
+// The names of the parameters are those of the house, and types cannot stand in parentheses.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name,bugprone-macro-parentheses)
 extern "C" {
 
 void LetCallFail(int number, int error)
@@ -108,3 +110,4 @@ int openat(int folder, const char *path, int flags, ...)
 }
 
 } // extern "C"
+// NOLINTEND(readability-inconsistent-declaration-parameter-name,bugprone-macro-parentheses)

@@ -23,6 +23,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -385,7 +387,8 @@ TEST_F(Recovery, NewestTenAreKeptAndOtherFilesStay)
         const std::string path = DataFolder() + "recovery-" + std::to_string(game) + ".sdk";
         std::string error;
         ASSERT_TRUE(ReplaceWholeFile(path, GameFileBytes() + "GR", error));
-        const std::array<timeval, 2> times{{{game * 100'000, 0}, {game * 100'000, 0}}};
+        const std::array<timeval, 2> times{
+            {{time_t{100'000} * game, 0}, {time_t{100'000} * game, 0}}};
         ASSERT_EQ(::utimes(path.c_str(), times.data()), 0);
     }
     std::string error;
