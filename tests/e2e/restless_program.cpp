@@ -139,6 +139,10 @@ void PlayOn()
         Save();
         return;
     }
+    if (GameModified == False) {
+        PlaceNumber(); // to go back and forth in a saved game does not modify it
+        return;
+    }
     switch (Draw(7)) {
     case 0:
         Undo();
