@@ -28,8 +28,8 @@ void SetConfigurationDefaults();
 // as they stand, silently.
 void ReadConfiguration();
 
-// Writes "config.sdu" whole, as the last step of the program. What another program has written there
-// since, and the player has not changed here, stays. A failure is told in the system's words.
+// Writes "config.sdu" whole, as the last step of the program. What another program has written
+// there since, and the player has not changed here, stays. A failure is told in the system's words.
 void WriteConfiguration();
 
 // The same, when the program may be ended without another word: a failure is returned, not told.
