@@ -30,6 +30,7 @@ double SecondsSinceMidnight() { return 0; }
 double SteadySeconds() { return 0; }
 void SetClockTimer(bool /*on*/) {}
 void SetWinTimer(bool /*on*/, int /*milliseconds*/) {}
+void SetRecoveryTimer(bool /*on*/, int /*milliseconds*/) {}
 
 void SetSoundVolume(std::uint32_t /*volume*/) {}
 void PlaySound(std::string_view /*file*/, bool /*loop*/) {}

@@ -8,16 +8,12 @@
 #include "grid/history.h"
 #include "outside/board.h"
 #include "outside/messages.h"
+#include "outside/whole_file.h"
 #include "outside/window.h"
 
 namespace kelvarine {
 
 namespace {
-
-void ShowFileInTitle()
-{
-    SetWindowTitle(std::string(ProgramName) + " (" + FileNameOf(GameFilePath) + ")");
-}
 
 // A game that could not be written keeps the path that it had.
 bool SaveUnderChosenName()
@@ -34,7 +30,21 @@ bool SaveUnderChosenName()
     return true;
 }
 
+// Whether the game's own file may be written over without another name. What was read as text is
+// replaced by a game only when its name is one of the program's, or the player says so.
+bool AgreeOnOwnFile()
+{
+    return FileWasText == False || GameFilePath.ends_with(GameExtension) ||
+           GameFilePath.ends_with(TextExtension) || !FileExists(GameFilePath) ||
+           AgreeToOverwrite(GameFilePath);
+}
+
 } // namespace
+
+void ShowFileInTitle()
+{
+    SetWindowTitle(std::string(ProgramName) + " (" + FileNameOf(GameFilePath) + ")");
+}
 
 std::string FileNameOf(std::string_view path)
 {
@@ -72,7 +82,7 @@ void OpenGameFile(const std::string &path)
 
 void mnuSave()
 {
-    if (GameFilePath.empty()) {
+    if (GameFilePath.empty() || !AgreeOnOwnFile()) {
         mnuSaveAs();
     } else {
         WriteGameFile();
@@ -88,7 +98,7 @@ void mnuSaveAs()
 
 bool SaveGame()
 {
-    return GameFilePath.empty() ? SaveUnderChosenName() : WriteGameFile();
+    return GameFilePath.empty() || !AgreeOnOwnFile() ? SaveUnderChosenName() : WriteGameFile();
 }
 
 } // namespace kelvarine

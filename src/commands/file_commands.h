@@ -9,6 +9,9 @@ namespace kelvarine {
 // The name within a path: what follows the last slash, without outer blanks, in small letters.
 std::string FileNameOf(std::string_view path);
 
+// Names the game's file in the title.
+void ShowFileInTitle();
+
 // Opens a game that the player chooses, after the question about the game in hand. A file that is
 // no game is told, and the game in hand goes on.
 void mnuOpen();
@@ -16,7 +19,8 @@ void mnuOpen();
 // Opens a game by its full path, without any question.
 void OpenGameFile(const std::string &path);
 
-// Save the game: under the name that it has, asking for one when it has none; and under a name that
+// Save the game: under the name that it has, asking for one when it has none, or when the player
+// does not want what was read as text under a foreign name to become a game; and under a name that
 // the player chooses.
 void mnuSave();
 void mnuSaveAs();

@@ -1,10 +1,9 @@
 #include "commands/solutions_file.h"
 
 #include "files/file_dialog.h"
+#include "files/player_file.h"
 #include "game/lifecycle.h"
 #include "game/solutions.h"
-#include "outside/messages.h"
-#include "outside/whole_file.h"
 
 namespace kelvarine {
 
@@ -14,11 +13,7 @@ void cmdSaveAsTextFile()
     if (LastAnswer == AnsweredCancel) {
         return;
     }
-    std::string error;
-    if (!ReplaceWholeFile(ChosenFilePath, SolutionsOnView + "\r\n", error,
-                          MissingFolders::Refused)) {
-        ShowMessage("Unable to save file.\r\r" + error);
-    }
+    SavePlayerFile(ChosenFilePath, SolutionsOnView + "\r\n");
 }
 
 } // namespace kelvarine

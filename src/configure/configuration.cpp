@@ -1,16 +1,19 @@
 #include "configure/configuration.h"
 
 #include "board/margin.h"
+#include "configure/merged_settings.h"
 #include "configure/setting_table.h"
 #include "grid/grid.h"
 #include "grid/little_endian.h"
 #include "logic/technique_masks.h"
+#include "outside/file_lock.h"
 #include "outside/folders.h"
 #include "outside/messages.h"
 #include "outside/whole_file.h"
 
 #include <functional>
 #include <numeric>
+#include <optional>
 
 namespace kelvarine {
 
@@ -19,6 +22,25 @@ std::int32_t ReservedSetting;
 namespace {
 
 constexpr std::string_view FileName = "config.sdu";
+constexpr std::string_view LockName = "config.lock";
+constexpr int LockPatience = 1000; // milliseconds
+
+// The settings when they last went from the file or into it; empty before.
+std::string commonBytes;
+
+// The file's very bytes, which may hold what is corrected when it is taken; none once it was
+// written.
+std::optional<std::string> bytesAsRead;
+
+// What is to stand in the file: all settings where nobody else has written it, else what the player
+// changed here among what others changed.
+std::string BytesOver(const std::string &standing)
+{
+    const std::string now = ConfigurationBytes();
+    return commonBytes.empty() || bytesAsRead == standing
+               ? now
+               : MergedSettings(commonBytes, now, standing);
+}
 
 std::size_t OffsetOf(const SettingRow &row)
 {
@@ -39,6 +61,8 @@ void KeepSinglesInALevel()
 void SetConfigurationDefaults()
 {
     ReservedSetting = 0;
+    commonBytes.clear();
+    bytesAsRead.reset();
 }
 
 void TakeConfiguration(std::string_view bytes)
@@ -73,12 +97,33 @@ void ReadConfiguration()
     if (ReadWholeFile(SettingsFolder() + std::string(FileName), bytes, unread, ConfigurationSize)) {
         TakeConfiguration(bytes);
     }
+    bytesAsRead = bytes;
+    commonBytes = ConfigurationBytes();
+}
+
+bool KeepConfiguration(std::string &error)
+{
+    const FileLock lock(SettingsFolder() + std::string(LockName), LockPatience, LockFile::Goes);
+    if (lock.State() != LockState::Held) {
+        error = lock.State() == LockState::Busy ? "Another program is using them." : lock.Error();
+        return false;
+    }
+    const std::string path = SettingsFolder() + std::string(FileName);
+    std::string standing;
+    // What is there and cannot be read is not written over.
+    if ((FileExists(path) && !ReadWholeFile(path, standing, error, ConfigurationSize)) ||
+        !ReplaceWholeFile(path, BytesOver(standing), error)) {
+        return false;
+    }
+    bytesAsRead.reset();
+    commonBytes = ConfigurationBytes();
+    return true;
 }
 
 void WriteConfiguration()
 {
     std::string error;
-    if (!ReplaceWholeFile(SettingsFolder() + std::string(FileName), ConfigurationBytes(), error)) {
+    if (!KeepConfiguration(error)) {
         ShowMessage("Unable to save settings.\r\r" + error);
     }
 }

@@ -1,5 +1,5 @@
 // The configuration file: all settings that outlast a run, in one small file of fixed records that
-// is read once at the start and written once at the end.
+// is read once at the start and written at the end.
 #pragma once
 
 #include <cstddef>
@@ -20,7 +20,7 @@ inline constexpr std::int32_t ConfigurationVersion = 1;
 // Read and written, and used by nothing.
 extern std::int32_t ReservedSetting;
 
-// Puts the number above to its default.
+// Puts the number above to its default, and forgets any file.
 void SetConfigurationDefaults();
 
 // Reads "config.sdu" from the folder of settings. Called once, after the defaults are set and the
@@ -28,9 +28,12 @@ void SetConfigurationDefaults();
 // as they stand, silently.
 void ReadConfiguration();
 
-// Writes "config.sdu" whole. Called once, as the last step of the program. A failure is told in
-// the system's words.
+// Writes "config.sdu" whole, as the last step of the program. What another program has written
+// there since, and the player has not changed here, stays. A failure is told in the system's words.
 void WriteConfiguration();
+
+// The same, when the program may be ended without another word: a failure is returned, not told.
+bool KeepConfiguration(std::string &error);
 
 // Takes the settings out of the bytes of a file. Bytes of another version are not looked at; of a
 // file cut short, the records that are whole count. A value that would break the program leaves

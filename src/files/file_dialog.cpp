@@ -1,5 +1,6 @@
 #include "files/file_dialog.h"
 
+#include "files/game_file.h"
 #include "files/text_case.h"
 #include "game/lifecycle.h"
 #include "grid/history.h"
@@ -26,8 +27,6 @@ std::string DefaultExtension;
 
 namespace {
 
-constexpr std::string_view GameExtension = ".sdk";
-constexpr std::string_view TextExtension = ".txt";
 constexpr std::string_view TextPattern = "*.txt";
 constexpr std::string_view EveryFile = "*.*";
 
@@ -42,16 +41,6 @@ void PresetFileType(std::size_t fileType)
 {
     FilePattern = PatternOf(FileTypes[fileType]);
     DefaultExtension = FilePattern.substr(1);
-}
-
-// In questions a single "&" would mark a key.
-std::string WithDoubledMarks(std::string_view text)
-{
-    std::string doubled;
-    for (const char mark : text) {
-        doubled.append(mark == '&' ? 2 : 1, mark);
-    }
-    return doubled;
 }
 
 enum class Presence : std::uint8_t { There, Missing, Unreachable };
@@ -93,9 +82,7 @@ bool AgreeOnFile(const std::string &path)
     case Presence::There:
         break;
     }
-    return DialogCaption == OpenGameCaption ||
-           AskYesNo(WithDoubledMarks(path) + "\ralready exists.\r\rDo you want to overwrite it?",
-                    "Overwrite?");
+    return DialogCaption == OpenGameCaption || AgreeToOverwrite(path);
 }
 
 // The full path that a typed name means.
@@ -212,6 +199,21 @@ bool AcceptFileName(std::string_view typed)
         GameFilePath = path;
     }
     return true;
+}
+
+std::string WithDoubledMarks(std::string_view text)
+{
+    std::string doubled;
+    for (const char mark : text) {
+        doubled.append(mark == '&' ? 2 : 1, mark);
+    }
+    return doubled;
+}
+
+bool AgreeToOverwrite(const std::string &path)
+{
+    return AskYesNo(WithDoubledMarks(path) + "\ralready exists.\r\rDo you want to overwrite it?",
+                    "Overwrite?");
 }
 
 bool DeleteListedFile(std::string_view name)

@@ -68,6 +68,12 @@ std::optional<std::size_t> EntryBeginning(const std::vector<std::string> &entrie
 // the paths set, when the dialog closes; else it stays.
 bool AcceptFileName(std::string_view typed);
 
+// Asks whether a file that is there may be overwritten. True for Yes.
+bool AgreeToOverwrite(const std::string &path);
+
+// A text for a question, in which a single "&" would mark a key.
+std::string WithDoubledMarks(std::string_view text);
+
 // The Delete key on an entry of the list: asks, and deletes the file. True when it is gone. The
 // file of the game in hand leaves the game modified.
 bool DeleteListedFile(std::string_view name);

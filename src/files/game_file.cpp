@@ -1,15 +1,17 @@
 #include "files/game_file.h"
 
+#include "files/player_file.h"
+#include "files/recovery.h"
 #include "files/text_case.h"
 #include "files/text_format.h"
 #include "game/clock.h"
+#include "game/game_in_hand.h"
 #include "game/lifecycle.h"
 #include "game/undo.h"
 #include "generator/game_number.h"
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "grid/little_endian.h"
-#include "outside/messages.h"
 #include "outside/whole_file.h"
 
 #include <algorithm>
@@ -30,11 +32,14 @@ constexpr std::size_t RecordSize = RecordWords * WordSize;
 constexpr std::size_t HeaderRecord = 1;
 constexpr std::size_t TimeRecord = 3; // a 64-bit float, then the header once more
 constexpr std::size_t GridRecord = 4;
+constexpr std::size_t HistoryWords = 14; // its counters
+constexpr std::size_t HistoryCountElement = 1;
+constexpr std::size_t HistoryPositionElement = 2;
 constexpr std::size_t HistoryRecord = 15;
 constexpr std::size_t SavedSlots = SnapshotSlot + 1; // the slots above are scratch
 constexpr std::size_t LastRecord = HistoryRecord + SavedSlots * RecordWords - 1;
-constexpr std::size_t GameFileSize = LastRecord * RecordSize;
-static_assert(LastRecord == 1034 && GameFileSize == 41360);
+static_assert(LastRecord == 1034 && GameFileSize == LastRecord * RecordSize);
+static_assert(TimePlace == (TimeRecord - 1) * RecordSize && TimeSize == sizeof(SolveSeconds));
 
 // The single words; all others outside the grids mean nothing and are written as zeros.
 struct WordField {
@@ -44,9 +49,11 @@ struct WordField {
 };
 
 constexpr std::array WordFields{
-    WordField{2, 0, &GameNumber},         WordField{2, 1, &StatsCounted},
-    WordField{14, 1, &HistoryCount},      WordField{14, 2, &HistoryPosition},
-    WordField{14, 3, &SnapshotAvailable},
+    WordField{2, 0, &GameNumber},
+    WordField{2, 1, &StatsCounted},
+    WordField{HistoryWords, HistoryCountElement, &HistoryCount},
+    WordField{HistoryWords, HistoryPositionElement, &HistoryPosition},
+    WordField{HistoryWords, 3, &SnapshotAvailable},
 };
 
 constexpr std::size_t HeaderStart = 8; // within its record
@@ -54,7 +61,6 @@ constexpr std::size_t HeaderSize = 32;
 constexpr std::string_view Header = "Kelvarine game file v1.0";
 constexpr std::string_view OtherHeader = "Kelva Rine game file v1.0"; // read, never written
 
-constexpr std::string_view TextEnding = ".txt";
 constexpr int AllCells = 81;
 
 // Place of an element of a word record in the file.
@@ -75,6 +81,13 @@ void PutGrid(std::string &bytes, std::size_t record, const GridTable &grid)
     }
 }
 
+void PutHistory(std::string &bytes, const std::array<GridTable, HistorySlots> &history)
+{
+    for (std::size_t slot = 0; slot < SavedSlots; ++slot) {
+        PutGrid(bytes, HistoryRecord + slot * RecordWords, history[slot]);
+    }
+}
+
 void TakeGrid(std::string_view bytes, std::size_t record, GridTable &grid)
 {
     for (std::size_t column = 0; column < grid.size(); ++column) {
@@ -91,16 +104,6 @@ void PutHeader(std::string &bytes, std::size_t record)
     const std::size_t place = PlaceOf(record) + HeaderStart;
     bytes.replace(place, HeaderSize, HeaderSize, ' ');
     bytes.replace(place, Header.size(), Header);
-}
-
-// A header that the end of the file cuts short is judged by what is there.
-bool HasGameHeader(std::string_view bytes)
-{
-    if (bytes.size() <= HeaderStart) {
-        return false;
-    }
-    const std::string_view header = WithoutOuterBlanks(bytes.substr(HeaderStart, HeaderSize));
-    return header == Header || header == OtherHeader;
 }
 
 // The values are taken as they stand but for the counters, which lead into the table: a file may
@@ -151,6 +154,22 @@ bool TakeText(std::string_view contents)
 
 std::string GameFileBytes()
 {
+    return GameFileBytes(Grid);
+}
+
+std::string GameFileBytes(const GameInHand &game)
+{
+    std::string bytes = GameFileBytes(game.Cells);
+    PutNumber(bytes, PlaceOf(HistoryWords, HistoryCountElement),
+              static_cast<std::uint32_t>(game.Count));
+    PutNumber(bytes, PlaceOf(HistoryWords, HistoryPositionElement),
+              static_cast<std::uint32_t>(game.Position));
+    PutHistory(bytes, game.Levels);
+    return bytes;
+}
+
+std::string GameFileBytes(const GridTable &cells)
+{
     std::string bytes(GameFileSize, '\0');
     PutHeader(bytes, HeaderRecord);
     PutHeader(bytes, TimeRecord);
@@ -159,10 +178,8 @@ std::string GameFileBytes()
         PutNumber(bytes, PlaceOf(field.Record, field.Element),
                   static_cast<std::uint32_t>(*field.Value));
     }
-    PutGrid(bytes, GridRecord, Grid);
-    for (std::size_t slot = 0; slot < SavedSlots; ++slot) {
-        PutGrid(bytes, HistoryRecord + slot * RecordWords, History[slot]);
-    }
+    PutGrid(bytes, GridRecord, cells);
+    PutHistory(bytes, History);
     return bytes;
 }
 
@@ -171,27 +188,38 @@ bool WriteGameFile()
     if (GameFilePath.empty()) {
         return false;
     }
-    const bool asText = GameFilePath.ends_with(TextEnding);
-    std::string error;
-    if (!ReplaceWholeFile(GameFilePath, asText ? TextFileText() : GameFileBytes(), error,
-                          MissingFolders::Refused)) {
-        ShowMessage("Unable to save file.\r\r" + error);
+    const bool asText = GameFilePath.ends_with(TextExtension);
+    if (!SavePlayerFile(GameFilePath, asText ? TextFileText() : GameFileBytes())) {
         return false;
     }
+    FileWasText = False;
     // A text keeps but a part of the game, so the game stays modified.
     if (!asText) {
         GameModified = False;
+        DropRecovery();
     }
     return true;
 }
 
+// A header that the end of the file cuts short is judged by what is there.
+bool IsWholeGame(std::string_view contents)
+{
+    if (contents.size() <= HeaderStart) {
+        return false;
+    }
+    const std::string_view header = WithoutOuterBlanks(contents.substr(HeaderStart, HeaderSize));
+    return header == Header || header == OtherHeader;
+}
+
 bool ReadGame(std::string_view contents)
 {
-    if (HasGameHeader(contents)) {
+    const bool whole = IsWholeGame(contents);
+    if (whole) {
         TakeGame(contents);
     } else if (!TakeText(contents)) {
         return false;
     }
+    FileWasText = whole ? False : True;
     StartGame(GameFromFile);
     return true;
 }

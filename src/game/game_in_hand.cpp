@@ -3,7 +3,22 @@
 #include "grid/history.h"
 #include "logic/rating.h"
 
+#include <cassert>
+
 namespace kelvarine {
+
+const GameInHand *GameAside = nullptr;
+
+GameInHand::GameInHand()
+{
+    assert(GameAside == nullptr);
+    GameAside = this;
+}
+
+GameInHand::~GameInHand()
+{
+    GameAside = nullptr;
+}
 
 void BringBack(const GameInHand &game)
 {

@@ -14,6 +14,11 @@ namespace kelvarine {
 // applied to new games records undo states, also for games that are thrown away; so is the chain,
 // since the techniques use its lists as their own. Too large for the stack.
 struct GameInHand {
+    GameInHand();
+    GameInHand(const GameInHand &) = delete;
+    GameInHand &operator=(const GameInHand &) = delete;
+    ~GameInHand();
+
     GridTable Cells = Grid;
     std::array<GridTable, HistorySlots> Levels = History;
     std::int32_t Count = HistoryCount;
@@ -22,6 +27,9 @@ struct GameInHand {
     decltype(ChainColumns) Columns = ChainColumns;
     decltype(ChainRows) Rows = ChainRows;
 };
+
+// The copy that stands at the moment; null while the game in hand is on the board.
+extern const GameInHand *GameAside;
 
 // Puts a copy in the place of what stands there now, and counts and rates it.
 void BringBack(const GameInHand &game);

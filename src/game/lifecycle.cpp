@@ -23,6 +23,7 @@
 namespace kelvarine {
 
 std::string GameFilePath;
+Flag FileWasText;
 Flag StatsCounted;
 std::int32_t LastAnswer;
 std::int32_t AnchorColumn;
@@ -33,6 +34,7 @@ std::int32_t CursorRow;
 void SetLifecycleDefaults()
 {
     GameFilePath.clear();
+    FileWasText = False;
     StatsCounted = False;
     LastAnswer = AnsweredNothing;
     ClearPointerState();
@@ -62,6 +64,7 @@ void StartGame(std::int32_t mode)
     if (mode == NewGame) {
         SaveStartPosition();
         GameFilePath.clear();
+        FileWasText = False;
         SetWindowTitle(ProgramName);
         StatsCounted = False;
     }

@@ -13,6 +13,7 @@ namespace kelvarine {
 // ---- The game ------------------------------------------------------------------------------
 
 extern std::string GameFilePath; // empty when the game has no file
+extern Flag FileWasText;         // that file was read as text, and holds no game of the program's
 extern Flag StatsCounted;        // this game has been recorded, or must not be
 
 // ---- The session ---------------------------------------------------------------------------

@@ -7,6 +7,7 @@
 #include "grid/little_endian.h"
 #include "grid/rounding.h"
 #include "logic/driver.h"
+#include "outside/file_lock.h"
 #include "outside/folders.h"
 #include "outside/messages.h"
 #include "outside/screens.h"
@@ -35,6 +36,8 @@ constexpr std::size_t SolvedColumn = 2;
 constexpr std::size_t BestColumn = 3;
 constexpr std::size_t AvgColumn = 4;
 constexpr std::size_t PercentColumn = 5;
+
+constexpr int LockPatience = 1000; // milliseconds
 
 // Set when the player knows that the file cannot be read or written, until that works again.
 bool failureTold = false;
@@ -97,6 +100,45 @@ void WriteStatistics(const StatisticsRecord &record)
     } else {
         TellFailure(error);
     }
+}
+
+std::string LockPath()
+{
+    return DataFolder() + "stats.lock";
+}
+
+// Why a lock is not held, in words.
+std::string LockFailure(const FileLock &lock)
+{
+    return lock.State() == LockState::Busy ? "Another program is using them." : lock.Error();
+}
+
+// Counts a game in the file, into which no other program may come meanwhile.
+void RecordInFile(std::size_t level)
+{
+    const FileLock lock(LockPath(), LockPatience);
+    StatisticsRecord all;
+    if (lock.State() != LockState::Held) {
+        TellFailure(LockFailure(lock));
+    } else if (ReadStatistics(all)) {
+        AddSolvedGame(all[level], SolveSeconds);
+        WriteStatistics(all);
+    }
+}
+
+// The words of a failure, or nothing.
+std::string DeleteFile()
+{
+    if (!FileExists(StatisticsFilePath())) {
+        return {};
+    }
+    const FileLock lock(LockPath(), LockPatience);
+    if (lock.State() != LockState::Held) {
+        return LockFailure(lock);
+    }
+    std::error_code failure;
+    std::filesystem::remove(StatisticsFilePath(), failure);
+    return failure ? failure.message() : std::string();
 }
 
 void ShowTime(std::string &label, std::int32_t seconds)
@@ -224,11 +266,7 @@ void RecordSolvedGame()
 {
     const auto level = static_cast<std::size_t>(GameRating - RatedEasy);
     AddSolvedGame(SessionStats[level], SolveSeconds);
-    StatisticsRecord all;
-    if (ReadStatistics(all)) {
-        AddSolvedGame(all[level], SolveSeconds);
-        WriteStatistics(all);
-    }
+    RecordInFile(level);
 }
 
 void LoadStatisticsScreen()
@@ -259,11 +297,10 @@ void cmdClearStats()
     }
     ZeroLabels();
     SessionStats = {};
-    std::error_code failure;
-    std::filesystem::remove(StatisticsFilePath(), failure);
+    const std::string failure = DeleteFile();
     RefreshStatisticsScreen();
-    if (failure) {
-        ShowMessage(failure.message());
+    if (!failure.empty()) {
+        ShowMessage(failure);
     }
 }
 

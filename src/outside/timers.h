@@ -1,4 +1,4 @@
-// The two timers of the program.
+// The timers of the program.
 #pragma once
 
 namespace kelvarine {
@@ -8,5 +8,8 @@ void SetClockTimer(bool on);
 
 // Switches the win display's timer, which calls WinDisplayTick every so many milliseconds.
 void SetWinTimer(bool on, int milliseconds);
+
+// Switches the recovery's timer, which calls RecoveryTick every so many milliseconds.
+void SetRecoveryTimer(bool on, int milliseconds);
 
 } // namespace kelvarine

@@ -1,54 +1,32 @@
 #include "outside/whole_file.h"
 
+#include "outside/descriptor.h"
+#include "outside/file_beside.h"
+#include "outside/file_marks.h"
+#include "outside/paths.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <optional>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
-#include <utility>
 
 namespace kelvarine {
 
 namespace {
 
+constexpr mode_t NewFilePermissions = 0666U; // of which the player's mask takes its part
+constexpr mode_t PrivatePermissions = 0600U; // until a file has those of the one that it replaces
+
 std::string SystemWords()
 {
     return std::error_code(errno, std::generic_category()).message();
 }
-
-// An open file that closes itself.
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_(number)
-    {
-    }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-    ~Descriptor()
-    {
-        if (number_ >= 0) {
-            ::close(number_);
-        }
-    }
-
-    [[nodiscard]] int Number() const
-    {
-        return number_;
-    }
-
-    // True when closing reported no late error.
-    bool Close()
-    {
-        return ::close(std::exchange(number_, -1)) == 0;
-    }
-
-private:
-    int number_;
-};
 
 bool WriteAll(int file, std::string_view bytes)
 {
@@ -65,6 +43,15 @@ bool WriteAll(int file, std::string_view bytes)
     return true;
 }
 
+bool Flush(int file)
+{
+    int result = ::fsync(file);
+    while (result != 0 && errno == EINTR) {
+        result = ::fsync(file);
+    }
+    return result == 0;
+}
+
 // Whether something is a file with bytes of its own; the reason stands in errno when not.
 bool IsPlainFile(const struct stat &kind)
 {
@@ -72,69 +59,94 @@ bool IsPlainFile(const struct stat &kind)
     return S_ISREG(kind.st_mode);
 }
 
-// Whether nothing stands there, or a file that may be written.
-bool MayReplace(const std::string &path)
+bool MayBeWritten(const std::string &path)
 {
-    struct stat old {};
-    if (::stat(path.c_str(), &old) != 0) {
-        return true; // what is wrong with the path, if anything, the writing finds out
-    }
-    return IsPlainFile(old) && ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+    return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
 }
 
-// Where a path leads once its links are followed; the path itself where that cannot be told.
-std::string TargetOf(const std::string &path)
-{
-    std::error_code failure;
-    const std::filesystem::path target = std::filesystem::weakly_canonical(path, failure);
-    return failure ? path : target.string();
-}
+// ---- Replacing -------------------------------------------------------------------------------
 
-std::string FolderOf(const std::string &path)
-{
-    const std::string folder = std::filesystem::path(path).parent_path().string();
-    return folder.empty() ? "." : folder;
-}
+// What is to be replaced: where it stands, and the system's record of it when there is something.
+struct Target {
+    std::string Path;
+    Descriptor Folder;
+    std::optional<struct stat> Old;
+};
 
-// A new file takes what the user's mask leaves of reading and writing for all.
-mode_t PermissionsFor(const std::string &path)
+// Looks at a target. False, with the reason in errno, when it cannot be replaced.
+bool LookAt(Target &target)
 {
-    struct stat old {};
-    if (::stat(path.c_str(), &old) == 0) {
-        return old.st_mode & 07777U;
-    }
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return 0666U & ~mask;
-}
-
-// The rename itself lasts only once the folder is on the disk. Some file systems cannot flush a
-// folder; the file is whole all the same.
-void FlushFolder(const std::string &path)
-{
-    const Descriptor folder(::open(FolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder.Number() >= 0) {
-        [[maybe_unused]] const int flushed = ::fsync(folder.Number());
-    }
-}
-
-bool WriteBeside(const std::string &target, std::string_view bytes)
-{
-    // A short name of its own, so that a long name of the target stands in nobody's way.
-    std::string beside = FolderOf(target) + "/.kelvarine-XXXXXX";
-    Descriptor file(::mkostemp(beside.data(), O_CLOEXEC));
-    if (file.Number() < 0) {
+    target.Folder =
+        Descriptor(::open(FolderOf(target.Path).c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    if (!target.Folder.IsOpen()) {
         return false;
     }
-    const bool done = ::fchmod(file.Number(), PermissionsFor(target)) == 0 &&
-                      WriteAll(file.Number(), bytes) && ::fsync(file.Number()) == 0 &&
-                      file.Close() && ::rename(beside.c_str(), target.c_str()) == 0;
-    if (!done) {
-        const int reason = errno;
-        ::unlink(beside.c_str());
-        errno = reason;
+    struct stat old {};
+    if (::fstatat(target.Folder.Number(), NameIn(target.Path).c_str(), &old, AT_SYMLINK_NOFOLLOW) !=
+        0) {
+        return errno == ENOENT;
     }
-    return done;
+    target.Old = old;
+    return IsPlainFile(old) && MayBeWritten(target.Path);
+}
+
+// The new name itself lasts only once the folder is on the disk. Where the file system knows no
+// flushing of folders, or the folder may not be read, the file is whole all the same.
+bool FlushFolder(int folder)
+{
+    const Descriptor open(::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return !open.IsOpen() || Flush(open.Number()) || errno == EINVAL || errno == EOPNOTSUPP;
+}
+
+bool WriteBeside(const Target &target, std::string_view bytes, Beside way)
+{
+    FileBeside file(target.Folder.Number(), target.Old ? PrivatePermissions : NewFilePermissions,
+                    way);
+    return file.IsOpen() && (!target.Old || TakeMarks(file.Number(), target.Path, *target.Old)) &&
+           WriteAll(file.Number(), bytes) && Flush(file.Number()) && file.EndWriting() &&
+           file.TakeName() && file.TakePlace(NameIn(target.Path));
+}
+
+bool Replace(Target &target, std::string_view bytes)
+{
+    if (!LookAt(target)) {
+        return false;
+    }
+    if (!WriteBeside(target, bytes, Beside::WithoutName) &&
+        !(LacksFilesWithoutName() && WriteBeside(target, bytes, Beside::Named))) {
+        return false;
+    }
+    RemoveLeftovers(target.Folder.Number());
+    return FlushFolder(target.Folder.Number());
+}
+
+// ---- Writing in place ------------------------------------------------------------------------
+
+bool HasOtherNames(const Target &target)
+{
+    return target.Old && target.Old->st_nlink > 1;
+}
+
+bool IsMountedOn(const Target &target)
+{
+    struct statx kind {};
+    return ::statx(target.Folder.Number(), NameIn(target.Path).c_str(), AT_SYMLINK_NOFOLLOW, 0,
+                   &kind) == 0 &&
+           (kind.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0;
+}
+
+// In a folder with the sticky bit a file's name is its owner's and the folder's owner's alone.
+bool NameIsAnothers(const Target &target)
+{
+    struct stat folder {};
+    const uid_t player = ::geteuid();
+    return ::fstat(target.Folder.Number(), &folder) == 0 && (folder.st_mode & S_ISVTX) != 0 &&
+           player != 0 && player != folder.st_uid && target.Old && target.Old->st_uid != player;
+}
+
+bool FolderTakesFiles(const Target &target)
+{
+    return ::faccessat(AT_FDCWD, FolderOf(target.Path).c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
 
 } // namespace
@@ -147,7 +159,7 @@ bool ReadWholeFile(const std::string &path, std::string &bytes, std::string &err
     // Without waiting: a pipe nobody writes to must not hold the program.
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat kind {};
-    if (file.Number() < 0 || ::fstat(file.Number(), &kind) != 0 || !IsPlainFile(kind)) {
+    if (!file.IsOpen() || ::fstat(file.Number(), &kind) != 0 || !IsPlainFile(kind)) {
         error = SystemWords();
         return false;
     }
@@ -175,21 +187,57 @@ bool ReplaceWholeFile(const std::string &path, std::string_view bytes, std::stri
                       MissingFolders missing)
 {
     error.clear();
-    const std::string target = TargetOf(path);
+    Target target;
+    if (!FollowLinks(path, target.Path)) {
+        error = SystemWords();
+        return false;
+    }
     std::error_code failure;
     if (missing == MissingFolders::Made) {
-        std::filesystem::create_directories(FolderOf(target), failure);
+        std::filesystem::create_directories(FolderOf(target.Path), failure);
     }
     if (failure) {
         error = failure.message();
         return false;
     }
-    if (!MayReplace(target) || !WriteBeside(target, bytes)) {
+    if (!Replace(target, bytes)) {
         error = SystemWords();
         return false;
     }
-    FlushFolder(target);
     return true;
+}
+
+bool NeedsWritingInPlace(const std::string &path)
+{
+    Target target;
+    return FollowLinks(path, target.Path) && LookAt(target) && target.Old &&
+           (HasOtherNames(target) || IsMountedOn(target) || NameIsAnothers(target) ||
+            !FolderTakesFiles(target));
+}
+
+bool WriteInPlace(const std::string &path, std::string_view bytes, std::string &error)
+{
+    error.clear();
+    Target target;
+    if (FollowLinks(path, target.Path) && LookAt(target)) {
+        Descriptor file(::openat(target.Folder.Number(), NameIn(target.Path).c_str(),
+                                 O_WRONLY | O_CLOEXEC | O_NOFOLLOW));
+        if (file.IsOpen() && WriteAll(file.Number(), bytes) &&
+            ::ftruncate(file.Number(), static_cast<off_t>(bytes.size())) == 0 &&
+            Flush(file.Number()) && file.Close()) {
+            return true;
+        }
+    }
+    error = SystemWords();
+    return false;
+}
+
+bool OverwritePart(const std::string &path, std::size_t place, std::string_view bytes)
+{
+    const Descriptor file(::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOFOLLOW));
+    return file.IsOpen() &&
+           ::pwrite(file.Number(), bytes.data(), bytes.size(), static_cast<off_t>(place)) ==
+               static_cast<ssize_t>(bytes.size());
 }
 
 bool FileExists(const std::string &path)

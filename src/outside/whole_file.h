@@ -21,13 +21,27 @@ bool ReadWholeFile(const std::string &path, std::string &bytes, std::string &err
 // The program's own folders are made where they are missing; the player's are not.
 enum class MissingFolders : std::uint8_t { Made, Refused };
 
-// Replaces a file, or makes it, with the folders above it if wanted: written beside it, flushed to
-// the disk, renamed. A symbolic link keeps pointing where it points; the permissions of a file that
-// was there are kept. What is write-protected, a directory, a pipe or a device is not replaced.
-// False when any of that fails; the old file is then whole, nothing is left beside it, and error
-// holds the system's own words.
+// Replaces a file, or makes it, with the folders above it if wanted: written in its folder, flushed
+// to the disk, renamed. Symbolic links keep pointing where they point, also where nothing stands
+// yet, and the new file takes over owner, permissions, access list and attributes as far as the
+// system lets it. What is write-protected, a directory, a pipe or a device is not replaced. False
+// when any of that fails; error holds the system's own words then, and the old file is whole and
+// nothing left beside it, save that where the disk does not take the change of names the new one
+// stands whole.
 bool ReplaceWholeFile(const std::string &path, std::string_view bytes, std::string &error,
                       MissingFolders missing = MissingFolders::Made);
+
+// True when a file may be written, and yet a new one would not do in its place: it has other names,
+// something is mounted on it, or the folder lets the player put none there.
+bool NeedsWritingInPlace(const std::string &path);
+
+// Writes the bytes over a file that is there, flushes them and cuts it to their length. False, with
+// the system's words in error, when that fails; it may hold half of them then.
+bool WriteInPlace(const std::string &path, std::string_view bytes, std::string &error);
+
+// Writes bytes over others in the middle of a file, without waiting for the disk. False when that
+// fails. A few bytes that lie within a sector of the disk change at once or not at all.
+bool OverwritePart(const std::string &path, std::size_t place, std::string_view bytes);
 
 // True when something by that name exists.
 bool FileExists(const std::string &path);

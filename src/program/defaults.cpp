@@ -6,6 +6,7 @@
 #include "commands/print_run.h"
 #include "configure/configuration.h"
 #include "files/file_dialog.h"
+#include "files/recovery.h"
 #include "game/clock.h"
 #include "game/event_sound.h"
 #include "game/lifecycle.h"
@@ -51,6 +52,7 @@ void SetDefaults()
     SetPrintDefaults();
     SetConfigurationDefaults();
     SetFileDialogDefaults();
+    SetRecoveryDefaults();
     SetPageDefaults();
     SetPrintRunDefaults();
 }

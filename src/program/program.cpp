@@ -1,8 +1,10 @@
 #include "program/program.h"
 
 #include "commands/file_commands.h"
+#include "commands/recover.h"
 #include "commands/save_question.h"
 #include "configure/configuration.h"
+#include "files/recovery.h"
 #include "files/sound_files.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
@@ -15,6 +17,7 @@
 #include "outside/events.h"
 #include "outside/screens.h"
 #include "outside/sound.h"
+#include "outside/timers.h"
 #include "outside/window.h"
 
 namespace kelvarine {
@@ -45,6 +48,19 @@ void CloseAfterRun()
     AfterRun = CloseMainWindow;
 }
 
+// A game that was not closed goes before the file that the program was started with.
+void BeginGame(const std::string &gameFile)
+{
+    OfferLostGames();
+    if (gameFile.empty()) {
+        return;
+    }
+    QuerySaveGame();
+    if (LastAnswer != AnsweredCancel) {
+        OpenGameFile(gameFile);
+    }
+}
+
 } // namespace
 
 void StartProgram(const std::string &gameFile)
@@ -63,10 +79,17 @@ void StartProgram(const std::string &gameFile)
     ShowMainWindow();
     OpenFormerScreens();
     ActivateMainWindow(); // the first keys are for the board, not for a screen that came back
-    if (!gameFile.empty()) {
-        // Within the event loop, for only there does the end of the program take a message away.
-        CallFromEventLoop([gameFile] { OpenGameFile(gameFile); });
-    }
+    SetRecoveryTimer(true, RecoveryInterval);
+    // Within the event loop, for only there does the end of the program take a message away.
+    CallFromEventLoop([gameFile] { BeginGame(gameFile); });
+}
+
+void KeepBeforeAsking()
+{
+    WriteRecovery();
+    KeepMainPlace();
+    std::string untold; // nobody may be there to be told
+    KeepConfiguration(untold);
 }
 
 bool EndProgram()
@@ -79,6 +102,8 @@ bool EndProgram()
     if (LastAnswer == AnsweredCancel) {
         return false;
     }
+    SetRecoveryTimer(false, RecoveryInterval);
+    RemoveRecovery();
     StopSound();
     KeepMainPlace();
     // Before the other screens go, so that those open now count as open.

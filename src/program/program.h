@@ -7,9 +7,13 @@
 namespace kelvarine {
 
 // Starts the program, whose state must have its defaults: reads the player's settings, opens the
-// main window on an empty grid with the screens that were open, and lets the event loop open a game
-// file, given by its full path, unless that is empty.
+// main window on an empty grid with the screens that were open, and lets the event loop offer a
+// game that was not closed and open a game file, given by its full path, unless that is empty.
 void StartProgram(const std::string &gameFile);
+
+// Keeps the game in hand in its recovery file, and the settings, for a program that is asked to go
+// and may be ended before the player has answered. Says nothing.
+void KeepBeforeAsking();
 
 // Does what is due before the main window goes: asks whether to stop a search, or whether to save,
 // and keeps the settings. False when the player would rather stay.

@@ -3,10 +3,26 @@
 #include "ui/window/program_icon.h"
 
 #include <QApplication>
-#include <QFile>
-#include <QFileInfo>
 
 #include <cstdlib>
+#include <filesystem>
+#include <string>
+
+namespace {
+
+// The full path of the file that the program is to open, in the very bytes of its name; empty when
+// none is given.
+std::string GivenFile(int argc, char **argv)
+{
+    if (argc < 2 || argv[1][0] == '\0') {
+        return {};
+    }
+    std::error_code failure;
+    const std::filesystem::path path = std::filesystem::absolute(argv[1], failure);
+    return failure ? argv[1] : path.string();
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -17,10 +33,7 @@ int main(int argc, char **argv)
     QApplication::setDesktopFileName("kelvarine");
     QApplication::setWindowIcon(kelvarine::ProgramIcon());
     kelvarine::SetDefaults();
-    const QStringList arguments = QApplication::arguments();
-    const QString file =
-        arguments.size() > 1 ? QFileInfo(arguments[1]).absoluteFilePath() : QString();
-    const int result = kelvarine::RunProgram(QFile::encodeName(file).toStdString());
+    const int result = kelvarine::RunProgram(GivenFile(argc, argv));
     // Everything is kept by now. On its way off Wayland the toolkit now and then waits for ever for
     // a thread of its own, and the player would be left with a program that nobody sees.
     if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {

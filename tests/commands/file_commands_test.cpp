@@ -295,5 +295,106 @@ TEST_F(FileCommands, YesStopsTheCallerWhenTheWritingFails)
     EXPECT_EQ(GivenCount, 30);
 }
 
+// ---- A file that was no game -----------------------------------------------------------------
+
+class ForeignFile : public FileCommands {
+protected:
+    // Opens a text as a game, and plays.
+    void OpenText(std::string_view name)
+    {
+        Folder.Write(name, EasyGame);
+        OpenGameFile(Folder.Path(name));
+        ASSERT_EQ(GameFilePath, Folder.Path(name));
+        WordAt({3, 1}) = BitTable[4];
+        PushUndoState();
+        ForgetRecord();
+    }
+
+    [[nodiscard]] std::string Question(std::string_view name) const
+    {
+        return Folder.Path(name) + "\ralready exists.\r\rDo you want to overwrite it?";
+    }
+};
+
+TEST_F(ForeignFile, IsReplacedByAGameOnlyAfterAQuestionThatComesOnce)
+{
+    OpenText("picture.png");
+    Seen.YesNoAnswers = {true};
+    mnuSave();
+    EXPECT_EQ(Seen.Questions, Texts{Question("picture.png")});
+    EXPECT_EQ(Seen.Titles, Texts{"Overwrite?"});
+    EXPECT_TRUE(Folder.Read("picture.png") == GameFileBytes());
+    PushUndoState();
+    mnuSave();
+    EXPECT_EQ(Seen.Questions.size(), 1U);
+    EXPECT_EQ(GameModified, False);
+}
+
+TEST_F(ForeignFile, NoOpensSaveGameAs)
+{
+    OpenText("picture.png");
+    Seen.FileNames = {"other"};
+    mnuSave();
+    EXPECT_EQ(Acts(), (Texts{"question: " + Question("picture.png"), "file dialog: Save Game As"}));
+    EXPECT_EQ(GameFilePath, Folder.Path("other.sdk"));
+    EXPECT_EQ(Folder.Read("picture.png"), EasyGame);
+    EXPECT_TRUE(Folder.Read("other.sdk") == GameFileBytes());
+    PushUndoState();
+    mnuSave();
+    EXPECT_EQ(Seen.Questions.size(), 1U) << "the other file is a game";
+}
+
+TEST_F(ForeignFile, NoAndCancelSavesNothingAndAsksAgain)
+{
+    OpenText("picture.png");
+    mnuSave();
+    mnuSave();
+    EXPECT_EQ(Seen.Questions.size(), 2U);
+    EXPECT_EQ(GameModified, True);
+    EXPECT_EQ(Folder.Read("picture.png"), EasyGame);
+}
+
+TEST_F(ForeignFile, SaveQuestionAsksAsWell)
+{
+    OpenText("picture.png");
+    Seen.SaveAnswers = {Answer::Yes};
+    QuerySaveGame();
+    EXPECT_EQ(Seen.Questions.back(), Question("picture.png"));
+    EXPECT_EQ(LastAnswer, AnsweredCancel) << "No and no other name stop the caller";
+    EXPECT_EQ(Folder.Read("picture.png"), EasyGame);
+}
+
+TEST_F(ForeignFile, NamesOfTheProgramsOwnAreNotAskedAbout)
+{
+    for (const std::string_view name : {"puzzle.sdk", "puzzle.txt"}) {
+        OpenText(name);
+        mnuSave();
+        EXPECT_TRUE(Seen.Questions.empty()) << name;
+        EXPECT_NE(Folder.Read(name), EasyGame) << name;
+    }
+    OpenText("PUZZLE.TXT");
+    mnuSave();
+    EXPECT_EQ(Seen.Questions, Texts{Question("PUZZLE.TXT")}) << "which would become a game file";
+}
+
+TEST_F(ForeignFile, GameUnderAForeignNameIsNotAskedAbout)
+{
+    Folder.Write("evening.game", SavedGame());
+    OpenGameFile(Folder.Path("evening.game"));
+    PushUndoState();
+    mnuSave();
+    EXPECT_TRUE(Seen.Questions.empty());
+    EXPECT_EQ(GameModified, False);
+}
+
+TEST_F(ForeignFile, FileThatHasGoneIsWrittenWithoutAQuestion)
+{
+    OpenText("picture.png");
+    std::filesystem::remove(Folder.Path("picture.png"));
+    mnuSave();
+    EXPECT_TRUE(Seen.Questions.empty());
+    EXPECT_TRUE(Folder.Read("picture.png") == GameFileBytes());
+}
+
 } // namespace
 } // namespace kelvarine::testing

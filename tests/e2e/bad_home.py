@@ -24,9 +24,15 @@ def told(desktop, game, name):
     return picture.tobytes()
 
 
-def plays(desktop, game):
+def plays(desktop, game, told_as=None):
+    """Begins a game; where it cannot be kept for the case of a crash, that is told at once."""
     game.resize(900, 980)
-    game.paste(PUZZLE)
+    desktop.set_clipboard(PUZZLE)
+    desktop.key("ctrl+v")
+    if told_as:
+        told(desktop, game, f"{told_as}_recovery")
+        game.focus()
+    wait_for(lambda: game.copy_line() == PUZZLE, "the pasted game")
     game.click(3, 1)
     desktop.key("5")
     expect(game.copy_line() == WRONG_START, "the program starts and plays")
@@ -51,7 +57,7 @@ def files_for_folders(desktop, program):
         place.parent.mkdir(parents=True)
         place.write_text("no folder\n")
     game = Game(desktop, program)
-    plays(desktop, game)
+    plays(desktop, game, told_as="files")
     game.paste(ALMOST_DONE, save_first="alt+n")
     game.click(9, 9)
     desktop.key("9")
@@ -97,7 +103,10 @@ def read_only_home(desktop, program, path):
     expect(game.copy_line() == WRONG_START, "from a disk for reading only a game is opened")
     expect(abs(game.picture().size[0] - 900) < 3, "and the settings are read")
     before = path.read_bytes()
-    desktop.key("Delete", "ctrl+s")
+    desktop.key("Delete")
+    told(desktop, game, "read_only_recovery")
+    game.focus()
+    desktop.key("ctrl+s")
     told(desktop, game, "read_only_game")
     game.focus()
     expect(path.read_bytes() == before, "a save that fails leaves the file as it is")
@@ -109,7 +118,7 @@ def full_home(desktop, program):
     game = Game(desktop, program,
                 before=after_mounting(f"mount -t tmpfs -o {FULL_HOME} tmpfs {home} && "
                                       f"{{ cat /dev/zero >{home}/everything 2>/dev/null; true; }}"))
-    plays(desktop, game)
+    plays(desktop, game, told_as="full")
     seen = pathlib.Path(f"/proc/{game.process.pid}/root{home}")  # as the program sees it
     desktop.key("ctrl+a")
     box = desktop.name_file("^Save Game As$", home / "evening")
@@ -132,7 +141,10 @@ def limited_files(desktop, program, path):
     game = Game(desktop, program, arguments=[path],
                 before=["prlimit", f"--fsize={FILE_LIMIT}", "--"])
     game.focus()
-    desktop.key("Delete", "ctrl+s")
+    desktop.key("Delete")
+    told(desktop, game, "limit_recovery")
+    game.focus()
+    desktop.key("ctrl+s")
     words = told(desktop, game, "limit_game")
     game.focus()
     expect(game.process.poll() is None, "the program lives on where a file grows too large")

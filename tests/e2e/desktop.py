@@ -115,11 +115,17 @@ class Desktop:
         return struct.unpack_from("<i", self.settings_file.read_bytes(), start)[0]
 
     def files(self):
-        """Everything in the home that is a file, by its path from there; what the desktop keeps
-        there for itself apart."""
+        """Everything in the home that is a file, by its path from there; apart from what the desktop
+        keeps there for itself, and the program while it runs, which recovery() tells."""
         found = (path.relative_to(self.home) for path in self.home.rglob("*") if path.is_file())
         return sorted(str(path) for path in found
-                      if "kelvarine" in str(path) or not str(path).startswith("."))
+                      if ("kelvarine" in str(path) or not str(path).startswith("."))
+                      and path.suffix != ".lock" and not path.name.startswith("recovery-"))
+
+    def recovery(self):
+        """The names of the files in which programs keep games for the case of a crash, and of their
+        locks."""
+        return sorted(path.name for path in self.statistics_file.parent.glob("recovery-*"))
 
     def __exit__(self, failure, *_):
         if failure:

@@ -1,12 +1,13 @@
 #!/usr/bin/python3
 """SIGTERM while a dialog or a box stands: the answer to the question whether to save counts and
-nothing else, and the box that goes with the program has decided nothing."""
+nothing else, and the box that goes with the program has decided nothing. Without an answer nothing is
+lost, whatever signal asked."""
 
 import signal
 import sys
 
-from desktop import Desktop, Game, expect, wait_for
-from over_boxes import Story, contents, make_files, walk, walk_back
+from desktop import Desktop, Game, expect, save_picture, wait_for
+from over_boxes import MIRRORED, Story, contents, make_files, walk, walk_back
 
 
 def end(story):
@@ -38,6 +39,36 @@ def over_a_message_at_the_start(desktop, program):
            "a file that is no game does not hold the end")
 
 
+def without_an_answer(desktop, program):
+    """Each signal that asks a program to go, and then the one that does not ask."""
+    files = contents(desktop)
+    for asking in signal.SIGTERM, signal.SIGHUP, signal.SIGINT:
+        story = Story(desktop, program)
+        story.modify()
+        desktop.settings_file.unlink()
+        story.game.process.send_signal(asking)
+        story.box()
+        expect(desktop.settings_file.exists() and contents(desktop) == files,
+               f"before it asks, a program told to go by {asking.name} has kept its settings")
+        story.game.process.kill()
+        story.game.process.wait()
+        goes_on(desktop, program)
+        expect(contents(desktop) == files and not desktop.recovery(), "and no file is touched")
+
+
+def goes_on(desktop, program):
+    """The next program offers the game that was left, and a No in the end gives it up."""
+    game = Game(desktop, program, behind_a_box=True)
+    picture = desktop.answer("alt+y", other_than=[game.window])
+    save_picture(picture, "signal_goes_on")
+    game.focus()
+    wait_for(lambda: game.copy_line() == MIRRORED, "the game that was left")
+    expect(game.title() == "Kelvarine (evening.sdk)", "it comes back under its name")
+    desktop.key("Prior")
+    expect(game.copy_line() != MIRRORED, "with its history")
+    expect(game.end(save_first="alt+n") == 0, "and as one that is not saved")
+
+
 def over_the_question_of_a_search(desktop, program):
     game = Game(desktop, program)
     desktop.key("ctrl+n")
@@ -60,6 +91,7 @@ def main():
         walk(desktop, program, end)
         walk_back(desktop, program, end)
         over_a_message_at_the_start(desktop, program)
+        without_an_answer(desktop, program)
         over_the_closing_question(desktop, program)
     with Desktop() as desktop:  # without settings, for this program has its own
         over_the_question_of_a_search(desktop, hopeless)

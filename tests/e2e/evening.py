@@ -179,6 +179,7 @@ def main():
         expect(desktop.files() == [".config/kelvarine/config.sdu",
                                    ".local/share/kelvarine/stats.sdu", "both.txt"],
                "the home holds settings, statistics and what was saved")
+        expect(desktop.recovery() == [], "and nothing for the case of a crash")
     print("evening: all as it should be")
 
 

@@ -104,13 +104,14 @@ def places_a_number_and_closes(desktop, game):
     desktop.key("Escape")
     game.shows_no_box("the question to go")
     expect_alive(game.process)
-    expect(not desktop.settings_file.exists(), "Cancel keeps the program alive")
+    expect(desktop.settings_file.exists() and desktop.recovery(),
+           "Cancel keeps the program alive, which has kept game and settings before it asked")
     game.process.send_signal(signal.SIGTERM)
     game.shows_box("the question whether to save")
     desktop.key("alt+n")
     wait_for(lambda: game.process.poll() is not None, "the program to end")
     expect(game.process.returncode == 0, "it ends as it should")
-    expect(desktop.settings_file.exists(), "with its settings written")
+    expect(not desktop.recovery(), "and needs no game for the case of a crash any more")
 
 
 def main():

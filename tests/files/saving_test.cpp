@@ -1,10 +1,14 @@
 // What may go wrong while a game is saved, and that it never costs the player one.
 #include "commands/file_commands.h"
 #include "files/game_file.h"
+#include "files/recovered_folder.h"
 #include "game/lifecycle.h"
 #include "generator/game_number.h"
 #include "grid/grid.h"
 #include "grid/history.h"
+#include "outside/folders.h"
+#include "outside/system_calls.h"
+#include "outside/whole_file.h"
 #include "support/child_process.h"
 #include "support/outside_double.h"
 #include "support/play.h"
@@ -82,6 +86,8 @@ TEST_F(Saving, KilledAtAnySystemCallLeavesTheOldOrTheNewFile)
         const std::string bytes = Folder.Read("game.sdk");
         ASSERT_TRUE(bytes == oldGame || bytes == newGame) << "killed at call " << call;
         old += bytes == oldGame ? 1 : 0;
+        Folder.Write("game.sdk", oldGame);
+        ASSERT_EQ(Folder.Entries(), 1) << "a leftover after the next save, of call " << call;
     }
     if (kill == Kill::NotPossible) {
         GTEST_SKIP() << "this machine lets nobody trace a process";
@@ -89,7 +95,6 @@ TEST_F(Saving, KilledAtAnySystemCallLeavesTheOldOrTheNewFile)
     // Making the file beside, writing, flushing, closing and renaming it are calls at least.
     EXPECT_GE(old, 5);
     EXPECT_GT(call, old + 1);
-    EXPECT_TRUE(Folder.Read("game.sdk") == newGame);
 }
 
 TEST_F(Saving, FileSizeLimitLeavesTheOldFileWhole)
@@ -137,16 +142,115 @@ bool GiveUpRights()
     return ::getuid() != 0 || (::setgid(Nobody) == 0 && ::setuid(Nobody) == 0);
 }
 
-TEST_F(Saving, FolderWithoutPermissionLeavesTheOldFileWhole)
+// ---- Where only writing in place will do -----------------------------------------------------
+
+class SavingInPlace : public Saving {
+protected:
+    SavingInPlace()
+    {
+        for (std::filesystem::path above = DataFolder();
+             above != std::filesystem::temp_directory_path(); above = above.parent_path()) {
+            std::error_code missing;
+            std::filesystem::permissions(above, std::filesystem::perms::all, missing);
+        }
+    }
+
+    ~SavingInPlace() override
+    {
+        ::chmod(Folder.Path().c_str(), 0755);
+    }
+
+    // Saves as a user who may write to the file and put no other into its folder.
+    int SaveWithoutRights(bool answer, const std::function<void()> &expect)
+    {
+        ::chmod(Folder.Path().c_str(), 0555);
+        ::chmod(Folder.Path("game.sdk").c_str(), 0666);
+        return RunInChild([&] {
+            if (!GiveUpRights()) {
+                return NotPossible;
+            }
+            Seen.YesNoAnswers = {answer};
+            mnuSave();
+            EXPECT_EQ(Seen.Questions, std::vector<std::string>{Question()});
+            EXPECT_EQ(Seen.Titles.front(), "Overwrite?");
+            expect();
+            return HasFailure() ? 1 : 0;
+        });
+    }
+
+    [[nodiscard]] std::string Question() const
+    {
+        return Folder.Path("game.sdk") +
+               "\rcannot be replaced by a new file.\r\rDo you want to write it in place?";
+    }
+
+    static long Recovered()
+    {
+        std::error_code missing;
+        const std::filesystem::directory_iterator first(RecoveredFolder(), missing);
+        return missing ? 0 : std::distance(first, {});
+    }
+};
+
+TEST_F(SavingInPlace, NoLeavesTheOldFileAndTheGameModified)
 {
-    ::chmod(Folder.Path().c_str(), 0555);
-    ::chmod(Folder.Path("game.sdk").c_str(), 0666);
-    const int result =
-        RunInChild([&] { return GiveUpRights() ? SavingFails("Permission denied") : NotPossible; });
-    ::chmod(Folder.Path().c_str(), 0755);
+    const int result = SaveWithoutRights(false, [] {
+        EXPECT_TRUE(Seen.Messages.empty());
+        EXPECT_EQ(GameModified, True);
+    });
     EXPECT_EQ(result, 0);
     ExpectOldFileAlone();
 }
+
+TEST_F(SavingInPlace, YesWritesTheFileAndLeavesNoCopy)
+{
+    const int result = SaveWithoutRights(true, [] {
+        EXPECT_TRUE(Seen.Messages.empty());
+        EXPECT_EQ(GameModified, False);
+        EXPECT_EQ(Recovered(), 0);
+    });
+    EXPECT_EQ(result, 0);
+    EXPECT_TRUE(Folder.Read("game.sdk") == GameFileBytes());
+}
+
+TEST_F(SavingInPlace, FileWithASecondNameKeepsIt)
+{
+    std::filesystem::create_hard_link(Folder.Path("game.sdk"), Folder.Path("other.sdk"));
+    Seen.YesNoAnswers = {true};
+    mnuSave();
+    EXPECT_EQ(Seen.Questions, std::vector<std::string>{Question()});
+    EXPECT_EQ(GameModified, False);
+    EXPECT_TRUE(Folder.Read("other.sdk") == GameFileBytes());
+    EXPECT_EQ(Recovered(), 0);
+}
+
+// Each call may fail while the file is half written; then the copy stays, and is told.
+TEST_F(SavingInPlace, AnyCallFailingLeavesTheOldGameInTheFileOrInItsCopy)
+{
+    std::filesystem::create_hard_link(Folder.Path("game.sdk"), Folder.Path("other.sdk"));
+    int failing = 1;
+    int copies = 0;
+    for (bool failed = true; failed; ++failing) {
+        std::string error;
+        ASSERT_TRUE(WriteInPlace(Folder.Path("game.sdk"), OldFile, error));
+        std::filesystem::remove_all(RecoveredFolder());
+        GameModified = True;
+        ForgetRecord();
+        Seen.YesNoAnswers = {true};
+        SystemCalls calls;
+        calls.Fail(failing, EIO);
+        mnuSave();
+        failed = std::ranges::find(calls.Calls, true, &SystemCall::Failed) != calls.Calls.end();
+        const bool old = Folder.Read("game.sdk") == OldFile;
+        ASSERT_EQ(GameModified == False, Seen.Messages.empty()) << "call " << failing;
+        ASSERT_TRUE(old || GameModified == False || Recovered() == 1) << "call " << failing;
+        copies += Recovered() > 0 ? 1 : 0;
+    }
+    EXPECT_EQ(GameModified, False);
+    EXPECT_GE(copies, 3) << "writing, cutting and flushing leave the file half";
+}
+
+// ---- What is told ----------------------------------------------------------------------------
 
 TEST_F(Saving, WriteProtectedFileIsNotReplaced)
 {

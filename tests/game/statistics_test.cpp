@@ -1,71 +1,15 @@
-#include "game/clock.h"
-#include "game/lifecycle.h"
 #include "game/screens.h"
-#include "game/statistics.h"
+#include "game/statistics_fixture.h"
 #include "game/undo.h"
 #include "grid/grid.h"
-#include "logic/driver.h"
-#include "outside/whole_file.h"
-#include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <limits>
-#include <random>
 
 namespace kelvarine::testing {
 namespace {
-
-using Texts = std::vector<std::string>;
-
-constexpr std::int32_t Most = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t Least = std::numeric_limits<std::int32_t>::min();
-
-class Statistics : public ::testing::Test {
-protected:
-    void SetUp() override
-    {
-        Restart();
-    }
-
-    static void Solve(std::int32_t rating, double seconds)
-    {
-        GameRating = rating;
-        SolveSeconds = seconds;
-        StatsCounted = False;
-        UpdateStatistics();
-    }
-
-    static std::string FileBytes()
-    {
-        std::string bytes;
-        std::string error;
-        EXPECT_TRUE(ReadWholeFile(StatisticsFilePath(), bytes, error)) << error;
-        return bytes;
-    }
-
-    static void PutFile(const std::string &bytes)
-    {
-        std::string error;
-        ASSERT_TRUE(ReplaceWholeFile(StatisticsFilePath(), bytes, error)) << error;
-    }
-
-    static StatisticsRecord InFile()
-    {
-        return StatisticsFrom(FileBytes());
-    }
-
-    static Texts Row(std::size_t table, std::size_t row)
-    {
-        const auto &labels = StatisticsLabels[table][row];
-        return {labels.begin(), labels.end()};
-    }
-};
 
 // ---- Counting ------------------------------------------------------------------------------
 
@@ -148,100 +92,6 @@ TEST_F(Statistics, SessionStartsAtNothingAndTheFileGoesOn)
     Solve(1, 50);
     EXPECT_EQ(SessionStats[0], (LevelRecord{0, 1, 50, 50}));
     EXPECT_EQ(InFile()[0], (LevelRecord{0, 2, 50, 75}));
-}
-
-// ---- The file ------------------------------------------------------------------------------
-
-TEST_F(Statistics, FileIsEightyBytesOfLittleEndianWords)
-{
-    std::string expected(80, '\0');
-    expected[4] = 1;                 // easy, solved
-    expected[8] = expected[12] = 95; // best and average
-    expected[68] = 1;                // extreme, solved
-    expected[72] = expected[76] = 0x34;
-    expected[73] = expected[77] = 0x12;
-    Solve(1, 95);
-    Solve(5, 0x1234);
-    EXPECT_EQ(FileBytes(), expected);
-    EXPECT_TRUE(std::filesystem::path(StatisticsFilePath()).filename() == "stats.sdu");
-}
-
-TEST_F(Statistics, WordsComeBackFromTheirBytes)
-{
-    std::mt19937 random(7);
-    for (int round = 0; round < 100; ++round) {
-        StatisticsRecord record;
-        for (LevelRecord &level : record) {
-            level = {static_cast<std::int32_t>(random()), static_cast<std::int32_t>(random()),
-                     static_cast<std::int32_t>(random()), static_cast<std::int32_t>(random())};
-        }
-        const std::string bytes = StatisticsBytes(record);
-        EXPECT_EQ(bytes.size(), StatisticsFileSize);
-        EXPECT_EQ(StatisticsFrom(bytes), record);
-        EXPECT_EQ(StatisticsFrom(bytes + "more"), record);
-    }
-}
-
-TEST_F(Statistics, ShortFileReadsAsZerosForWhatIsMissing)
-{
-    PutFile(std::string("\0\0\0\0\5\0\0\0\7", 9));
-    EXPECT_EQ(InFile(), (StatisticsRecord{{{0, 5, 7, 0}}}));
-    Solve(2, 30);
-    EXPECT_EQ(InFile(), (StatisticsRecord{{{0, 5, 7, 0}, {0, 1, 30, 30}}}));
-    EXPECT_EQ(FileBytes().size(), 80U);
-    EXPECT_EQ(StatisticsFrom(""), StatisticsRecord{});
-}
-
-TEST_F(Statistics, AbsurdWordsAndTimesAreHarmless)
-{
-    const double nothing = std::numeric_limits<double>::quiet_NaN();
-    const double endless = std::numeric_limits<double>::infinity();
-    for (const std::int32_t word : {Most, Least, -1, Least + 1, Most - 1}) {
-        for (const double seconds : {0.0, -5.0, 1e300, -1e300, nothing, endless, -endless}) {
-            StatisticsRecord record;
-            record.fill({word, word, word, word});
-            PutFile(StatisticsBytes(record));
-            Solve(3, seconds);
-            mnuStatistics();
-            EXPECT_EQ(FileBytes().size(), 80U);
-            EXPECT_EQ(InFile()[2].Solved, word == Most ? Most : word + 1);
-            EXPECT_EQ(InFile()[0], record[0]);
-        }
-    }
-}
-
-TEST_F(Statistics, CountThatComesUpToZeroHasNoAverage)
-{
-    PutFile(StatisticsBytes({{{0, -1, 30, 40}}}));
-    Solve(1, 20);
-    EXPECT_EQ(InFile()[0], (LevelRecord{0, 0, 20, 40}));
-}
-
-TEST_F(Statistics, FailingWriteIsToldOnceAndTheSessionCounts)
-{
-    // A file where the folder should stand.
-    const std::filesystem::path folder = std::filesystem::path(StatisticsFilePath()).parent_path();
-    std::filesystem::create_directories(folder.parent_path());
-    std::ofstream(folder) << "in the way";
-    Solve(1, 60);
-    EXPECT_EQ(Seen.Messages, Texts{"Unable to save statistics.\r\rNot a directory"});
-    Solve(1, 40);
-    EXPECT_EQ(Seen.Messages.size(), 1U);
-    EXPECT_EQ(SessionStats[0], (LevelRecord{0, 2, 40, 50}));
-    EXPECT_EQ(StatsCounted, True);
-    std::filesystem::remove(folder);
-    Solve(1, 50);
-    EXPECT_EQ(InFile()[0].Solved, 1) << "goes on as soon as it can";
-}
-
-TEST_F(Statistics, FileThatCannotBeReadIsNotWrittenOver)
-{
-    std::filesystem::create_directories(StatisticsFilePath());
-    Solve(1, 60);
-    Solve(1, 60);
-    EXPECT_EQ(Seen.Messages, Texts{"Unable to save statistics.\r\rIs a directory"});
-    EXPECT_TRUE(std::filesystem::is_directory(StatisticsFilePath()));
-    EXPECT_EQ(SessionStats[0].Solved, 2);
 }
 
 // ---- Texts ---------------------------------------------------------------------------------

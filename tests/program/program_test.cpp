@@ -1,8 +1,11 @@
 #include "configure/configuration.h"
+#include "files/game_file.h"
 #include "game/screens.h"
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
+#include "outside/folders.h"
+#include "outside/whole_file.h"
 #include "program/program.h"
 #include "support/outside_double.h"
 #include "support/play.h"
@@ -41,7 +44,10 @@ TEST_F(WholeProgram, StartsOnAnEmptyGameThatNobodyHasToSave)
     EXPECT_EQ(Grid, GridTable{});
     EXPECT_EQ(GameModified, False);
     EXPECT_EQ(HistoryCount, 1);
-    EXPECT_TRUE(Seen.LaterDeeds.empty());
+    ASSERT_EQ(Seen.LaterDeeds.size(), 1U);
+    ForgetRecord();
+    Seen.LaterDeeds[0]();
+    EXPECT_EQ(Acts(), Texts{}) << "there is no game to go on with";
 }
 
 TEST_F(WholeProgram, BringsBackTheScreensThatWereOpenButTheSolutions)
@@ -140,6 +146,62 @@ TEST_F(WholeProgram, EndDuringAShortRunWaitsForIt)
     EXPECT_TRUE(Acts().empty());
     EndRun();
     EXPECT_EQ(Seen.LaterDeeds.size(), 1U);
+}
+
+// ---- What is kept for a crash ----------------------------------------------------------------
+
+TEST_F(WholeProgram, LooksAtTheGameEveryTwoSecondsUntilItsEnd)
+{
+    StartProgram("");
+    EXPECT_TRUE(Seen.RecoveryTimerOn);
+    EXPECT_EQ(Seen.RecoveryMilliseconds, 2000);
+    EXPECT_TRUE(EndProgram());
+    EXPECT_FALSE(Seen.RecoveryTimerOn);
+}
+
+TEST_F(WholeProgram, KeepsGameAndSettingsBeforeItAsksAndSaysNothing)
+{
+    StartProgram("");
+    StartSavedGame(EasyGame);
+    PushUndoState();
+    ForgetRecord();
+    KeepBeforeAsking();
+    EXPECT_EQ(Acts(), Texts{"place kept: "});
+    EXPECT_NE(Folders.ReadSetting("config.sdu"), "");
+    EXPECT_TRUE(FileExists(DataFolder() + "recovery-1.sdk"));
+    EXPECT_EQ(GameModified, True);
+    EXPECT_TRUE(EndProgram()) << "and No is the answer";
+    EXPECT_FALSE(FileExists(DataFolder() + "recovery-1.sdk"));
+}
+
+TEST_F(WholeProgram, CancelAtTheEndKeepsWhatIsKept)
+{
+    StartProgram("");
+    PushUndoState();
+    KeepBeforeAsking();
+    Seen.SaveAnswers = {Answer::Cancel};
+    EXPECT_FALSE(EndProgram());
+    EXPECT_TRUE(FileExists(DataFolder() + "recovery-1.sdk"));
+    EXPECT_TRUE(Seen.RecoveryTimerOn);
+}
+
+TEST_F(WholeProgram, GameThatCameBackIsAskedAboutBeforeAFileIsOpened)
+{
+    std::string error;
+    StartSavedGame(EasyGame);
+    ASSERT_TRUE(ReplaceWholeFile(DataFolder() + "recovery-1.sdk", GameFileBytes() + "GR", error));
+    Restart();
+    StartProgram("/no/such/game.sdk");
+    ForgetRecord();
+    Seen.YesNoAnswers = {true};
+    Seen.SaveAnswers = {Answer::Cancel};
+    Seen.LaterDeeds[0]();
+    EXPECT_EQ(Seen.Questions,
+              (Texts{"The last game was not closed. Would you like to go on with it?",
+                     "Would you like to save this game first?"}));
+    EXPECT_TRUE(Seen.Messages.empty()) << "the file is left alone";
+    EXPECT_EQ(GivenCount, 30);
+    EXPECT_EQ(GameModified, True);
 }
 
 } // namespace

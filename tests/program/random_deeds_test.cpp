@@ -1,5 +1,7 @@
 // Whatever a player does in whatever order, the state stays sound.
 #include "board/geometry.h"
+#include "commands/file_commands.h"
+#include "files/recovery.h"
 #include "game/check_state.h"
 #include "game/clock.h"
 #include "game/lifecycle.h"
@@ -13,13 +15,23 @@
 #include "input/mouse.h"
 #include "input/toolbar.h"
 #include "logic/driver.h"
+#include "outside/later_write.h"
 #include "support/outside_double.h"
 #include "support/play.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <malloc.h>
 #include <random>
+
+#if defined(__SANITIZE_ADDRESS__)
+// The sanitizer's own count; its header does not come with every compiler.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
+#endif
 
 namespace kelvarine::testing {
 namespace {
@@ -128,6 +140,78 @@ TEST_F(RandomDeeds, StateStaysSound)
         Act();
         ASSERT_EQ(CheckState(), "") << "after deed " << deed;
     }
+}
+
+// ---- Hours of play ---------------------------------------------------------------------------
+
+// Bytes of the heap that are in use.
+std::size_t HeapInUse()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    return __sanitizer_get_current_allocated_bytes();
+#else
+    return ::mallinfo2().uordblks;
+#endif
+}
+
+std::ptrdiff_t OpenDescriptors()
+{
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+}
+
+// Twenty minutes, or as many hours as a variable says, second by second.
+int SecondsOfPlay()
+{
+    const char *hours = std::getenv("KELVARINE_SOAK_HOURS");
+    return hours != nullptr ? std::atoi(hours) * 60 * 60 : 20 * 60;
+}
+
+class HoursOfPlay : public RandomDeeds {
+protected:
+    void SetUp() override
+    {
+        RandomDeeds::SetUp();
+        GameFilePath = Folder.Path("game.sdk");
+    }
+
+    // A second of the player's, at whose end the timers come.
+    void PlayASecond(int second)
+    {
+        Act();
+        if (Draw(20) == 0) {
+            GameFilePath = Folder.Path(Draw(4) == 0 ? "game.txt" : "game.sdk");
+            mnuSave();
+            ForgetRecord();
+        }
+        if (second * 1000 % RecoveryInterval == 0) {
+            RecoveryTick();
+            while (IsWriting()) {
+            }
+        }
+    }
+
+    TemporaryFolder Folder;
+};
+
+TEST_F(HoursOfPlay, LeaveMemoryAndDescriptorsAsTheyWere)
+{
+    const int seconds = SecondsOfPlay();
+    const int settled = seconds / 10; // by then everything has been used once
+    std::size_t memory = 0;
+    std::ptrdiff_t descriptors = 0;
+    for (int second = 0; second < seconds; ++second) {
+        PlayASecond(second);
+        ASSERT_EQ(CheckState(), "") << "after second " << second;
+        if (second == settled) {
+            memory = HeapInUse();
+            descriptors = OpenDescriptors();
+        }
+    }
+    constexpr std::size_t texts = 100'000; // of the game, of solutions, of what was recorded last
+    EXPECT_LT(HeapInUse(), memory + texts);
+    EXPECT_LE(OpenDescriptors(), descriptors);
+    RemoveRecovery();
+    EXPECT_LE(Folder.Entries(), 2) << "the two games and nothing else";
 }
 
 // ---- What the check sees -------------------------------------------------------------------

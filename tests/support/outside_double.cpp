@@ -221,6 +221,12 @@ void SetWinTimer(bool on, int milliseconds)
     Seen.WinInterval = milliseconds;
 }
 
+void SetRecoveryTimer(bool on, int milliseconds)
+{
+    Seen.RecoveryTimerOn = on;
+    Seen.RecoveryMilliseconds = milliseconds;
+}
+
 void SetSoundVolume(std::uint32_t volume)
 {
     Seen.SoundVolume = volume;

@@ -43,6 +43,8 @@ struct OutsideRecord {
     double Steady = 0; // seconds on the clock that nobody sets
     bool ClockTimerOn = false;
     bool WinTimerOn = false;
+    bool RecoveryTimerOn = false;
+    int RecoveryMilliseconds = 0;
     int WinInterval = 0;
     std::uint32_t SoundVolume = 0;
     std::function<void()> OnYield;

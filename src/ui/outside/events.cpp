@@ -1,6 +1,7 @@
-// The event loop, its two timers and the time.
+// The event loop, its timers and the time.
 #include "outside/events.h"
 
+#include "files/recovery.h"
 #include "outside/timers.h"
 #include "ui/outside/yield_pace.h"
 #include "ui/window/main_window.h"
@@ -86,6 +87,19 @@ void CallFromEventLoop(std::function<void()> deed)
 void SetClockTimer(bool on)
 {
     SwitchTimer(Window()->tmrSolveTime, on, ClockInterval);
+}
+
+void SetRecoveryTimer(bool on, int milliseconds)
+{
+    const QString name("tmrRecovery");
+    auto *timer = Window()->findChild<QTimer *>(name);
+    if (timer == nullptr) {
+        timer = new QTimer(Window());
+        timer->setObjectName(name);
+        timer->setTimerType(Qt::PreciseTimer); // a coarse one may come earlier
+        QObject::connect(timer, &QTimer::timeout, timer, RecoveryTick);
+    }
+    SwitchTimer(*timer, on, milliseconds);
 }
 
 void SetWinTimer(bool on, int milliseconds)

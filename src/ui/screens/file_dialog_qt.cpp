@@ -5,13 +5,13 @@
 #include "outside/file_dialog.h"
 #include "outside/help.h"
 #include "paint/text.h"
+#include "ui/screens/file_names.h"
 #include "ui/window/help_key.h"
 #include "ui/window/main_window.h"
 #include "ui/window/placing.h"
 
 #include <QComboBox>
 #include <QDir>
-#include <QFile>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -31,16 +31,6 @@ namespace {
 constexpr QSize StartSize{600, 420};
 constexpr QSize SmallestSize{290, 290};
 constexpr int Margin = 4;
-
-QString DecodedPath(const std::string &path)
-{
-    return QFile::decodeName(QByteArray::fromStdString(path));
-}
-
-std::string EncodedPath(const QString &path)
-{
-    return QFile::encodeName(path).toStdString();
-}
 
 template <typename Control>
 Control *Named(const char *name, Control *control)
@@ -94,7 +84,7 @@ void FileDialog::BuildControls(std::size_t fileType)
     }
     cmbFileTypes->setCurrentIndex(static_cast<int>(fileType));
     cmbFileTypes->setAccessibleName("File types");
-    txtFileName->setText(DecodedPath(DialogName));
+    txtFileName->setText(ShownName(DialogName));
     txtFileName->selectAll();
     txtFileName->setAccessibleName("File name");
     filFiles->setAccessibleName("Files");
@@ -174,7 +164,7 @@ void FileDialog::ConnectFiles()
 
 void FileDialog::ShowFolder()
 {
-    const QModelIndex index = folders.index(DecodedPath(DialogFolder));
+    const QModelIndex index = folders.index(ShownName(DialogFolder));
     dirDirectory->setCurrentIndex(index);
     dirDirectory->expand(index);
     nextTurn.setSingleShot(true);
@@ -199,19 +189,18 @@ void FileDialog::FolderChosen(const QModelIndex &index)
 {
     disconnect(loading);
     const QString path = folders.filePath(index);
-    DialogFolder = EncodedPath(path.endsWith(u'/') ? path : path + u'/');
+    DialogFolder = NameBytes(path.endsWith(u'/') ? path : path + u'/');
     ListFiles();
 }
 
 void FileDialog::ListFiles()
 {
-    lblFolder->setText(DecodedPath(DialogFolder));
+    lblFolder->setText(ShownName(DialogFolder));
     const QSignalBlocker quiet(filFiles);
     filFiles->clear();
-    const QDir folder(DecodedPath(DialogFolder));
-    for (const QString &name : folder.entryList(QDir::Files, QDir::Name | QDir::IgnoreCase)) {
-        if (IsListed(EncodedPath(name))) {
-            filFiles->addItem(name);
+    for (const std::string &name : FilesIn(DialogFolder)) {
+        if (IsListed(name)) {
+            filFiles->addItem(ShownName(name));
         }
     }
 }
@@ -242,9 +231,9 @@ void FileDialog::SearchTyped(const QString &typed)
     std::vector<std::string> names;
     names.reserve(static_cast<std::size_t>(filFiles->count()));
     for (int row = 0; row < filFiles->count(); ++row) {
-        names.push_back(EncodedPath(filFiles->item(row)->text()));
+        names.push_back(NameBytes(filFiles->item(row)->text()));
     }
-    if (const auto entry = EntryBeginning(names, EncodedPath(typed))) {
+    if (const auto entry = EntryBeginning(names, NameBytes(typed))) {
         filFiles->scrollToItem(filFiles->item(static_cast<int>(*entry)));
     }
 }
@@ -252,7 +241,7 @@ void FileDialog::SearchTyped(const QString &typed)
 void FileDialog::DeleteSelected()
 {
     const QList<QListWidgetItem *> selected = filFiles->selectedItems();
-    if (!selected.empty() && DeleteListedFile(EncodedPath(selected.front()->text()))) {
+    if (!selected.empty() && DeleteListedFile(NameBytes(selected.front()->text()))) {
         txtFileName->clear();
         ListFiles();
     }
@@ -262,7 +251,7 @@ void FileDialog::DeleteSelected()
 
 void FileDialog::PressOk()
 {
-    if (AcceptFileName(EncodedPath(txtFileName->text()))) {
+    if (AcceptFileName(NameBytes(txtFileName->text()))) {
         accept();
     }
 }
@@ -276,7 +265,7 @@ void FileDialog::PressHelp()
 void FileDialog::done(int result)
 {
     KeepPlace(*this, FileDialogPlace);
-    DialogName = EncodedPath(txtFileName->text());
+    DialogName = NameBytes(txtFileName->text());
     QDialog::done(result);
 }
 

@@ -1,5 +1,6 @@
 #include "ui/window/session.h"
 
+#include "program/program.h"
 #include "ui/window/main_window.h"
 
 #include <QGuiApplication>
@@ -29,6 +30,7 @@ void CloseWindow()
     char mark = 0;
     [[maybe_unused]] const ssize_t got = ::read(signalSockets[1], &mark, sizeof mark);
     if (Window() != nullptr) {
+        KeepBeforeAsking();
         Window()->CloseUnlessAsking();
     }
 }
@@ -62,6 +64,7 @@ void WatchSession()
     QObject::connect(
         qGuiApp, &QGuiApplication::commitDataRequest, Window(),
         [](QSessionManager &manager) {
+            KeepBeforeAsking();
             if (manager.allowsInteraction()) {
                 if (!Window()->CloseUnlessAsking()) {
                     manager.cancel();

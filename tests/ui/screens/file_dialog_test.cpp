@@ -1,6 +1,7 @@
 #include "commands/file_commands.h"
 #include "commands/restart.h"
 #include "files/file_dialog.h"
+#include "files/game_file.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "grid/history.h"
@@ -8,6 +9,7 @@
 #include "support/temporary_folder.h"
 #include "support/widget_program.h"
 #include "ui/screens/file_dialog_qt.h"
+#include "ui/screens/file_names.h"
 #include "ui/screens/help_window.h"
 
 #include <QComboBox>
@@ -494,6 +496,30 @@ TEST_F(FileDialogWindow, SavedGameLetsTheWindowClose)
     AnswerBoxes([&] { Running.Main->close(); }, {QMessageBox::Yes});
     EXPECT_FALSE(Running.Main->isVisible());
     EXPECT_EQ(Folder.Read("last.sdk").size(), 41360U);
+}
+
+// ---- Names as bytes ------------------------------------------------------------------------
+
+TEST(FileNames, ComeBackToTheByte)
+{
+    for (const std::string name :
+         {"plain.sdk", "lat\xe4in.sdk", "\xff\xfe\x80", "\xc3\xa4\xc3", "\xf0\x9f\x99\x82\xf0\x9f",
+          "\xed\xb2\x80", "\xef\xbf\xbd", ""}) {
+        EXPECT_EQ(NameBytes(ShownName(name)), name);
+    }
+    EXPECT_EQ(ShownName("\xc3\xa4.sdk"), QString::fromUtf8("\xc3\xa4.sdk"));
+}
+
+TEST_F(FileDialogWindow, FileWhoseNameIsNoTextIsListedAndOpened)
+{
+    const std::string name = "lat\xe4in.sdk";
+    Folder.Write(name, GameFileBytes());
+    Show(OpenGameCaption);
+    ASSERT_EQ(Files()->count(), 1);
+    Files()->setCurrentRow(0);
+    QTest::mouseClick(Find<QPushButton>("cmdOK"), Qt::LeftButton);
+    EXPECT_EQ(ChosenFilePath, Folder.Path(name));
+    EXPECT_EQ(DialogName, name);
 }
 
 } // namespace

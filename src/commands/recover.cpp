@@ -1,0 +1,44 @@
+#include "commands/recover.h"
+
+#include "commands/file_commands.h"
+#include "files/recovery.h"
+#include "game/lifecycle.h"
+#include "outside/board.h"
+#include "outside/messages.h"
+#include "outside/window.h"
+
+namespace kelvarine {
+
+namespace {
+
+void ShowGameThatCameBack()
+{
+    if (!GameFilePath.empty()) {
+        ShowFileInTitle();
+    }
+    DrawBoard();
+    RefreshWindow();
+}
+
+bool GoOnWithIt()
+{
+    return AskYesNo("The last game was not closed. Would you like to go on with it?") &&
+           TakeLostGame();
+}
+
+} // namespace
+
+void OfferLostGames()
+{
+    while (FindLostGame()) {
+        if (GoOnWithIt()) {
+            ShowGameThatCameBack();
+            return;
+        }
+        if (!PutLostGameAside()) {
+            return; // else it would be offered for ever
+        }
+    }
+}
+
+} // namespace kelvarine

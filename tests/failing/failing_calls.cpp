@@ -1,0 +1,113 @@
+#include "failing/failing_calls.h"
+
+#include <atomic>
+#include <cerrno>
+#include <cstdarg>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/types.h>
+#include <unistd.h>
+
+namespace {
+
+std::atomic<int> failing{0};
+std::atomic<int> failure{0};
+std::atomic<int> made{0};
+
+// Whether the call that is being made is the one that fails.
+bool Fails()
+{
+    const int number = ++made;
+    if (number != failing) {
+        return false;
+    }
+    errno = failure;
+    return true;
+}
+
+template <typename Call>
+Call Real(const char *name)
+{
+    return reinterpret_cast<Call>(::dlsym(RTLD_NEXT, name));
+}
+
+} // namespace
+
+// The names of the parameters are those of the house, and types cannot stand in parentheses.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name,bugprone-macro-parentheses)
+extern "C" {
+
+void LetCallFail(int number, int error)
+{
+    failing = number;
+    failure = error;
+    made = 0;
+}
+
+int CallsMade()
+{
+    return made;
+}
+
+// A call that takes just what it is given.
+#define FAILING_CALL(type, name, parameters, arguments)                                            \
+    type name parameters                                                                           \
+    {                                                                                              \
+        static const auto real = Real<type(*) parameters>(#name);                                  \
+        return Fails() ? -1 : real arguments;                                                      \
+    }
+
+FAILING_CALL(ssize_t, write, (int file, const void *bytes, size_t count), (file, bytes, count))
+FAILING_CALL(ssize_t, pwrite, (int file, const void *bytes, size_t count, off_t place),
+             (file, bytes, count, place))
+FAILING_CALL(int, fsync, (int file), (file))
+FAILING_CALL(int, ftruncate, (int file, off_t length), (file, length))
+FAILING_CALL(int, fchmod, (int file, mode_t permissions), (file, permissions))
+FAILING_CALL(int, fchown, (int file, uid_t owner, gid_t group), (file, owner, group))
+FAILING_CALL(int, mkdir, (const char *path, mode_t permissions), (path, permissions))
+FAILING_CALL(int, rename, (const char *from, const char *to), (from, to))
+FAILING_CALL(int, renameat, (int oldFolder, const char *from, int newFolder, const char *to),
+             (oldFolder, from, newFolder, to))
+FAILING_CALL(int, linkat,
+             (int oldFolder, const char *from, int newFolder, const char *to, int flags),
+             (oldFolder, from, newFolder, to, flags))
+FAILING_CALL(int, unlink, (const char *path), (path))
+FAILING_CALL(int, unlinkat, (int folder, const char *path, int flags), (folder, path, flags))
+
+#undef FAILING_CALL
+
+// A file that fails to be closed is closed all the same, as the system has it.
+int close(int file)
+{
+    static const auto real = Real<int (*)(int)>("close");
+    const bool fails = Fails();
+    const int result = real(file);
+    if (fails) {
+        errno = failure;
+        return -1;
+    }
+    return result;
+}
+
+int open(const char *path, int flags, ...)
+{
+    static const auto real = Real<int (*)(const char *, int, mode_t)>("open");
+    va_list rest;
+    va_start(rest, flags);
+    const auto permissions = static_cast<mode_t>(va_arg(rest, unsigned int));
+    va_end(rest);
+    return Fails() ? -1 : real(path, flags, permissions);
+}
+
+int openat(int folder, const char *path, int flags, ...)
+{
+    static const auto real = Real<int (*)(int, const char *, int, mode_t)>("openat");
+    va_list rest;
+    va_start(rest, flags);
+    const auto permissions = static_cast<mode_t>(va_arg(rest, unsigned int));
+    va_end(rest);
+    return Fails() ? -1 : real(folder, path, flags, permissions);
+}
+
+} // extern "C"
+// NOLINTEND(readability-inconsistent-declaration-parameter-name,bugprone-macro-parentheses)

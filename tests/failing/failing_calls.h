@@ -1,0 +1,12 @@
+// A library that stands between a program and the system: loaded before all others, it lets one of
+// the calls by which files are made and changed fail.
+#pragma once
+
+extern "C" {
+
+// From now on the so-manieth call, counted from 1, fails with an error; 0 for none.
+void LetCallFail(int number, int error);
+
+// Number of calls since then.
+int CallsMade();
+}

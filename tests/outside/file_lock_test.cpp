@@ -1,0 +1,77 @@
+#include "outside/file_lock.h"
+#include "support/child_process.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <optional>
+#include <thread>
+
+namespace kelvarine::testing {
+namespace {
+
+class FileLockTest : public ::testing::Test {
+protected:
+    TemporaryFolder Folder;
+    std::string Path = Folder.Path("deep/lock");
+};
+
+TEST_F(FileLockTest, IsHeldByOneAtATimeAndLeavesNothingWhenTold)
+{
+    {
+        const FileLock first(Path, 0, LockFile::Goes);
+        EXPECT_EQ(first.State(), LockState::Held);
+        const FileLock second(Path);
+        EXPECT_EQ(second.State(), LockState::Busy);
+    }
+    EXPECT_FALSE(FileExists(Path));
+    EXPECT_EQ(FileLock(Path).State(), LockState::Held);
+    EXPECT_TRUE(FileExists(Path)) << "others may wait for this one";
+}
+
+TEST_F(FileLockTest, OneThatComesTooLateIsLetGo)
+{
+    {
+        const FileLock first(Path);
+        EXPECT_EQ(FileLock(Path, 1).State(), LockState::Busy);
+    }
+    constexpr int aMinute = 60'000;
+    EXPECT_EQ(FileLock(Path, aMinute).State(), LockState::Held);
+}
+
+TEST_F(FileLockTest, WaitsUntilTheOtherLetsGo)
+{
+    std::optional<FileLock> first(Path);
+    constexpr int aMinute = 60'000; // nobody waits so long
+    std::thread later([&] { first.reset(); });
+    EXPECT_EQ(FileLock(Path, aMinute).State(), LockState::Held);
+    later.join();
+}
+
+TEST_F(FileLockTest, EndsWithTheProgramThatHeldIt)
+{
+    const int result = RunInChild(
+        [&] { return FileLock(Path).State() == LockState::Held ? ::raise(SIGKILL) : 1; });
+    EXPECT_EQ(result, -1);
+    EXPECT_TRUE(FileExists(Path)) << "a killed program removes nothing";
+    EXPECT_EQ(FileLock(Path).State(), LockState::Held);
+}
+
+TEST_F(FileLockTest, TellsWhyNobodyCanHaveIt)
+{
+    Folder.Write("deep", "no folder");
+    const FileLock lock(Path);
+    EXPECT_EQ(lock.State(), LockState::Failed);
+    EXPECT_EQ(lock.Error(), "Not a directory");
+}
+
+TEST_F(FileLockTest, DoesNotFollowALink)
+{
+    std::filesystem::create_symlink(Folder.Path("target"), Folder.Path("link"));
+    EXPECT_EQ(FileLock(Folder.Path("link")).State(), LockState::Failed);
+    EXPECT_FALSE(FileExists(Folder.Path("target")));
+}
+
+} // namespace
+} // namespace kelvarine::testing
