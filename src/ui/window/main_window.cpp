@@ -15,13 +15,13 @@
 #include "program/program.h"
 #include "ui/window/board_widget.h"
 #include "ui/window/key_decoder.h"
+#include "ui/window/menu_bar.h"
 #include "ui/window/menus.h"
 #include "ui/window/placing.h"
 #include "ui/window/toolbar_widget.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -86,13 +86,15 @@ void ClientArea::mousePressEvent(QMouseEvent *event)
 
 // ---- Main window ---------------------------------------------------------------------------
 
-MainWindow::MainWindow() : Client(new ClientArea(this)), timeBar(new QMenuBar(this))
+MainWindow::MainWindow() : Client(new ClientArea(this))
 {
     mainWindow = this;
     connect(&tmrSolveTime, &QTimer::timeout, this, ClockTick);
     connect(&tmrGameWon, &QTimer::timeout, this, WinDisplayTick);
     setCentralWidget(Client);
-    BuildMenus();
+    auto *bar = new MenuBar(this);
+    setMenuBar(bar);
+    BuildMenus(bar);
     setMinimumSize(SmallestSize);
     resize(StartSize);
     Client->Board->setFocus();
@@ -104,19 +106,9 @@ MainWindow::~MainWindow()
     mainWindow = nullptr;
 }
 
-void MainWindow::BuildMenus()
-{
-    timeBar->setNativeMenuBar(false);
-    kelvarine::BuildMenus(menuBar(), timeBar);
-    menuBar()->setCornerWidget(timeBar, Qt::TopRightCorner);
-}
-
 void MainWindow::UpdateMenuCaptions()
 {
-    UpdateMenus(timeBar);
-    // The corner keeps the size that it had when it was set, so a longer caption needs this.
-    menuBar()->setCornerWidget(timeBar, Qt::TopRightCorner);
-    timeBar->show();
+    UpdateMenus(menuBar());
 }
 
 bool MainWindow::CloseUnlessAsking()

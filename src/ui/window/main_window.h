@@ -4,8 +4,6 @@
 #include <QMainWindow>
 #include <QTimer>
 
-class QMenuBar;
-
 namespace kelvarine {
 
 class BoardWidget;
@@ -65,10 +63,7 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
-    void BuildMenus();
-
     bool asking = false; // a closing waits for the player's answer
-    QMenuBar *timeBar;   // the clock, at the far right end of the menu bar
 };
 
 // The one main window, or null before it stands and after it has gone.

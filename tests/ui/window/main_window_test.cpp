@@ -5,21 +5,10 @@
 #include "support/widget_program.h"
 #include "ui/window/board_widget.h"
 
-#include <QMenuBar>
 #include <QtTest>
 #include <gtest/gtest.h>
 
 namespace kelvarine::testing {
-
-TEST(MainWindow, ClockStandsAtTheFarRightOfTheMenuBar)
-{
-    const Program program;
-    const QWidget *corner = program.Main->menuBar()->cornerWidget(Qt::TopRightCorner);
-    ASSERT_NE(corner, nullptr);
-    const auto *bar = qobject_cast<const QMenuBar *>(corner);
-    ASSERT_NE(bar, nullptr);
-    EXPECT_EQ(bar->actions().front()->menu()->objectName(), "mnuTime");
-}
 
 TEST(MainWindow, TypedDigitGoesToTheSelectedCell)
 {
