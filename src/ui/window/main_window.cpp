@@ -136,14 +136,36 @@ void MainWindow::ShowAtItsPlace()
         const WindowPlace place =
             MainMaximised != False ? MainPlace
                                    : ReachablePlace(MainPlace, screens.width(), screens.height());
-        resize(QSize(place.Width, place.Height).boundedTo(screens));
+        resize(place.Width, place.Height);
         move(place.Left, place.Top);
+    } else {
+        const QRect room = screen()->availableGeometry();
+        move(FirstPlace(SizeWithin(size(), room.size()), room));
     }
     if (MainMaximised != False) {
         showMaximized();
     } else {
         show();
     }
+}
+
+QSize MainWindow::SizeWithin(const QSize &wanted, const QSize &room) const
+{
+    // The board's cells shrink alike in both directions; what stands round them keeps its size.
+    const int edges = LinesAcross() + 2 * (MarginThickness + BorderThickness);
+    const int above =
+        menuBar()->sizeHint().height() + (ToolbarVisible != False ? ToolbarHeight : 0);
+    const QSize around(edges, edges + above);
+    const QSize cells = wanted - around;
+    const QSize roomForCells = room - around;
+    if (cells.isEmpty() || roomForCells.isEmpty()) {
+        return wanted.boundedTo(room);
+    }
+    const double across = static_cast<double>(roomForCells.width()) / cells.width();
+    const double down = static_cast<double>(roomForCells.height()) / cells.height();
+    const double scale = std::min({1.0, across, down});
+    return around +
+           QSize(static_cast<int>(cells.width() * scale), static_cast<int>(cells.height() * scale));
 }
 
 void MainWindow::KeepPlace()

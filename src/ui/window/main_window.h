@@ -47,6 +47,9 @@ public:
     // Puts the window where it last stood, in reach of the screens that are there, and shows it.
     void ShowAtItsPlace();
 
+    // The largest size up to a wanted one that fits into a room, with the board in the same form.
+    [[nodiscard]] QSize SizeWithin(const QSize &wanted, const QSize &room) const;
+
     // Keeps where the window stands, unless it is not on view.
     void KeepPlace();
 

@@ -12,14 +12,7 @@ namespace kelvarine {
 namespace {
 
 constexpr int FarAway = 1'000'000;
-
-// The part of a screen that windows may take: of the one that a point lies on, else of the one
-// that the main window stands on.
-QRect ScreenAt(const QPoint &point)
-{
-    const QScreen *screen = QGuiApplication::screenAt(point);
-    return (screen != nullptr ? screen : Window()->screen())->availableGeometry();
-}
+constexpr int RoomBeside = 740; // pixels that the widest of the screens beside the board takes
 
 // Size of a window with its frame. Before a window is shown, its frame is taken for as large as
 // that of the main window.
@@ -29,6 +22,19 @@ QSize FramedSize(const QWidget &window)
 }
 
 } // namespace
+
+QRect ScreenAt(const QPoint &point)
+{
+    const QScreen *screen = QGuiApplication::screenAt(point);
+    return (screen != nullptr ? screen : Window()->screen())->availableGeometry();
+}
+
+QPoint FirstPlace(const QSize &size, const QRect &screen)
+{
+    const QPoint middle = screen.center() - QRect({}, size).center();
+    const int beside = screen.right() + 1 - RoomBeside - size.width();
+    return KeptOnScreen({{std::min(middle.x(), beside), middle.y()}, size}, screen);
+}
 
 QPoint PlaceBeside(const QRect &other, const QSize &size, const QRect &screen)
 {

@@ -10,6 +10,14 @@ class QWidget;
 
 namespace kelvarine {
 
+// The part of a screen that windows may take: of the one that a point lies on, else of the one
+// that the main window stands on.
+QRect ScreenAt(const QPoint &point);
+
+// Top left corner for a main window of this size that was never placed: in the middle of the
+// screen, or left of it by what the screens beside it need on its right.
+QPoint FirstPlace(const QSize &size, const QRect &screen);
+
 // Top left corner for a window of this size beside another one: on its right when that fits on the
 // screen, else on its left, else as far to the right as the screen allows.
 QPoint PlaceBeside(const QRect &other, const QSize &size, const QRect &screen);

@@ -1,3 +1,4 @@
+#include "board/geometry.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
 #include "grid/history.h"
@@ -16,6 +17,30 @@ TEST(MainWindow, TypedDigitGoesToTheSelectedCell)
     WordAt({4, 7}) |= SelectedBit;
     QTest::keyClick(program.Main->Client->Board, Qt::Key_6);
     EXPECT_EQ(WordAt({4, 7}) & CandidateMask, BitTable[6]);
+}
+
+TEST(MainWindow, ShrinksIntoARoomWithTheBoardInItsForm)
+{
+    const Program program;
+    const MainWindow &window = *program.Main;
+    const QSize start(760, 830);
+    const auto form = [&](const QSize &size) {
+        program.Main->resize(size);
+        QCoreApplication::processEvents();
+        return static_cast<double>(CellWidth) / CellHeight;
+    };
+    const double wanted = form(start);
+    EXPECT_EQ(window.SizeWithin(start, {1920, 1080}), start) << "never grown";
+    for (const QSize &room : {QSize(1024, 575), QSize(1366, 740), QSize(500, 2000)}) {
+        const QSize fitting = window.SizeWithin(start, room);
+        EXPECT_TRUE(QRect({}, room).contains(QRect({}, fitting)));
+        EXPECT_TRUE(fitting.width() >= room.width() - 1 || fitting.height() >= room.height() - 1)
+            << "as large as can be";
+        EXPECT_NEAR(form(fitting), wanted, 0.03);
+    }
+    const QSize wide = window.SizeWithin({1500, 900}, {1024, 575});
+    EXPECT_NEAR(form(wide), form({1500, 900}), 0.06);
+    EXPECT_EQ(window.SizeWithin(start, {100, 90}), QSize(100, 90));
 }
 
 TEST(MainWindow, UnsavedGameHoldsTheClosing)

@@ -205,6 +205,7 @@ TEST_F(BarOnView, ClosedMenuGivesTheKeyboardToTheBoard)
         SendMouse(Bar(), QEvent::MouseButtonPress, Bar()->actionGeometry(top).center(),
                   Qt::LeftButton, Qt::LeftButton);
         ASSERT_EQ(QApplication::activePopupWidget(), top->menu());
+        SendMouse(top->menu(), QEvent::MouseButtonRelease, {-5, -5}, Qt::LeftButton, Qt::NoButton);
         Press(Qt::Key_Escape);
         EXPECT_EQ(program.Main->focusWidget(), Board());
         AnchorRow = 4;
