@@ -3,10 +3,12 @@
 #include "game/search.h"
 #include "input/keys.h"
 #include "input/mouse.h"
+#include "input/toolbar.h"
 #include "paint/board_painter.h"
 #include "ui/window/board_accessible.h"
 #include "ui/window/key_decoder.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -80,7 +82,7 @@ bool BoardWidget::event(QEvent *event)
     return QWidget::event(event);
 }
 
-void BoardWidget::keyPressEvent(QKeyEvent *event)
+void BoardWidget::TakeKeyPress(QKeyEvent *event)
 {
     if (IsDesktopKey(event->key())) {
         event->ignore();
@@ -93,20 +95,57 @@ void BoardWidget::keyPressEvent(QKeyEvent *event)
     KeyDown(code, ModifiersOf(event->modifiers()));
 }
 
-void BoardWidget::keyReleaseEvent(QKeyEvent *event)
+void BoardWidget::TakeKeyRelease(const QKeyEvent &event)
 {
-    const std::int32_t code = KeyCodeOf(*event);
+    const std::int32_t code = KeyCodeOf(event);
     // Another key that comes up leaves the modifier down.
     modifierHeld = modifierHeld && !IsSignKey(code);
     KeyUp(code);
 }
 
+void BoardWidget::TakeModifiers()
+{
+    const std::int32_t held = ModifiersOf(QGuiApplication::queryKeyboardModifiers());
+    if ((held & (ShiftKey | CtrlKey)) == 0) {
+        LetModifiersGo();
+        return;
+    }
+    modifierHeld = true;
+    if ((held & CtrlKey) != 0) {
+        ShowSignOfCtrl();
+    } else {
+        ShowSignOfShift();
+    }
+}
+
+void BoardWidget::LetModifiersGo()
+{
+    // A sign that the player has set by the button is his own.
+    if (std::exchange(modifierHeld, false)) {
+        ShowPlainSign();
+    }
+}
+
+void BoardWidget::keyPressEvent(QKeyEvent *event)
+{
+    TakeKeyPress(event);
+}
+
+void BoardWidget::keyReleaseEvent(QKeyEvent *event)
+{
+    TakeKeyRelease(*event);
+}
+
+void BoardWidget::focusInEvent(QFocusEvent *event)
+{
+    QWidget::focusInEvent(event);
+    TakeModifiers();
+}
+
 void BoardWidget::focusOutEvent(QFocusEvent *event)
 {
-    // A modifier that opens a dialog is let go there.
-    if (std::exchange(modifierHeld, false)) {
-        KeyUp(ShiftCode);
-    }
+    // Where the focus goes nobody sees them come up.
+    LetModifiersGo();
     QWidget::focusOutEvent(event);
 }
 

@@ -6,7 +6,6 @@
 #include "game/screens.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
-#include "input/keys.h"
 #include "input/mouse.h"
 #include "input/toolbar.h"
 #include "outside/board.h"
@@ -195,21 +194,19 @@ void MainWindow::changeEvent(QEvent *event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange) {
         KeepPlace();
+    } else if (event->type() == QEvent::ActivationChange && !isActiveWindow()) {
+        Client->Board->LetModifiersGo();
     }
 }
 
 void MainWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (IsDesktopKey(event->key())) {
-        event->ignore();
-        return;
-    }
-    KeyDown(KeyCodeOf(*event), ModifiersOf(event->modifiers()));
+    Client->Board->TakeKeyPress(event);
 }
 
 void MainWindow::keyReleaseEvent(QKeyEvent *event)
 {
-    KeyUp(KeyCodeOf(*event));
+    Client->Board->TakeKeyRelease(*event);
 }
 
 } // namespace kelvarine

@@ -1,6 +1,7 @@
 #include "board/look.h"
 #include "grid/colour.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "input/menu_table.h"
 #include "input/toolbar.h"
 #include "logic/driver.h"
@@ -11,6 +12,7 @@
 #include "ui/window/board_widget.h"
 #include "ui/window/toolbar_widget.h"
 
+#include <QMenuBar>
 #include <QPushButton>
 #include <QtTest>
 #include <gtest/gtest.h>
@@ -241,6 +243,56 @@ TEST_F(ToolbarOnView, DigitThatComesUpLeavesShiftHeld)
     EXPECT_EQ(Button(1)->text(), "- 1");
     CloseModals([&] { SendKey(Board(), QEvent::KeyPress, Qt::Key_H, Qt::ShiftModifier); });
     EXPECT_EQ(Button(1)->text(), "1") << "let go in the dialog";
+}
+
+TEST_F(ToolbarOnView, ModifierThatOpensABoxIsNotHeldAfterwards)
+{
+    const auto pressCtrlAnd = [&](Qt::Key key) {
+        QWidget *focus = program.Main->focusWidget();
+        SendKey(focus, QEvent::KeyPress, Qt::Key_Control);
+        return CloseModals([&] { SendKey(focus, QEvent::KeyPress, key, Qt::ControlModifier); });
+    };
+    for (const Qt::Key key : {Qt::Key_B, Qt::Key_T}) {
+        for (const Qt::Key letter : {Qt::Key_G, Qt::Key_H, Qt::Key_unknown}) {
+            ClearCellBits(CandidateMask | SelectedBit);
+            WordAt({4, 7}) = BitTable[5] | SelectedBit;
+            GameModified = True;
+            program.Main->activateWindow(); // without a window manager a box leaves none active
+            ASSERT_TRUE(QTest::qWaitForWindowActive(program.Main.get(), Patience));
+            if (letter != Qt::Key_unknown) {
+                QTest::keyClick(program.Main->focusWidget(), letter, Qt::AltModifier);
+                QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+            } else {
+                program.Main->menuBar()->setFocus(); // its keys reach the window
+            }
+            EXPECT_EQ(pressCtrlAnd(key).size(), 1U);
+            QCoreApplication::processEvents();
+            EXPECT_EQ(Button(1)->text(), "1");
+            Press(3);
+            EXPECT_EQ(WordAt({4, 7}) & CandidateMask, BitTable[3]) << "and not 3 and 5";
+        }
+    }
+}
+
+TEST_F(ToolbarOnView, ModifierThatIsHeldWhenTheFocusComesShowsItsSign)
+{
+    Button(3)->setFocus(Qt::TabFocusReason);
+    QWindow *window = program.Main->windowHandle();
+    QTest::keyEvent(QTest::Press, window, Qt::Key_F20, Qt::ShiftModifier); // of no meaning itself
+    Board()->clearFocus();
+    Board()->setFocus();
+    EXPECT_EQ(Button(1)->text(), "- 1");
+    QTest::keyEvent(QTest::Release, window, Qt::Key_F20, Qt::NoModifier);
+    Board()->clearFocus();
+    EXPECT_EQ(Button(1)->text(), "1");
+}
+
+TEST_F(ToolbarOnView, SignThatThePlayerHasSetOutlastsTheFocus)
+{
+    Press(11);
+    Board()->clearFocus();
+    Board()->setFocus();
+    EXPECT_EQ(Button(1)->text(), "+ 1");
 }
 
 TEST_F(ToolbarOnView, PointerSlidesARowThatSticksOut)
