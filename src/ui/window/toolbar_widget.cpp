@@ -3,6 +3,7 @@
 #include "input/toolbar.h"
 #include "paint/text.h"
 #include "paint/toolkit_colour.h"
+#include "ui/window/key_decoder.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -52,6 +53,8 @@ ToolButtonWidget::ToolButtonWidget(std::int32_t index, QWidget *parent)
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
     setAutoDefault(false);
+    // Neither mouse nor keys come this way, but assistive tools do.
+    connect(this, &QPushButton::clicked, this, [this] { ToolPressed(number); });
 }
 
 void ToolButtonWidget::Update()
@@ -111,9 +114,16 @@ void ToolButtonWidget::mouseReleaseEvent(QMouseEvent * /*event*/)
     setDown(false);
 }
 
-void ToolButtonWidget::keyPressEvent(QKeyEvent * /*event*/)
+void ToolButtonWidget::keyPressEvent(QKeyEvent *event)
 {
-    ToolPressed(number);
+    if (!IsModifierOrTab(event->key())) {
+        ToolPressed(number);
+    }
+}
+
+void ToolButtonWidget::keyReleaseEvent(QKeyEvent * /*event*/)
+{
+    // Given on, a modifier that comes up would take the focus to the board.
 }
 
 ToolbarWidget::ToolbarWidget(QWidget *parent) : QWidget(parent)

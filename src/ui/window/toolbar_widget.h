@@ -9,7 +9,7 @@
 namespace kelvarine {
 
 // cmdTool: acts on the press of any mouse button, not on the release, and on any key while it has
-// the focus.
+// the focus, save for those that go with others.
 class ToolButtonWidget : public QPushButton {
     Q_OBJECT
 
@@ -26,6 +26,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
     std::int32_t number;

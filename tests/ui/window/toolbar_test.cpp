@@ -12,6 +12,7 @@
 #include "ui/window/board_widget.h"
 #include "ui/window/toolbar_widget.h"
 
+#include <QAccessible>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QtTest>
@@ -123,7 +124,7 @@ TEST_F(ToolbarOnView, PressThatMovesNoFocusLeavesItWithTheBoardToo)
 TEST_F(ToolbarOnView, AnyKeyOnAFocusedButtonActsAndTheFocusGoesBack)
 {
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_X, Qt::Key_F5, Qt::Key_Up,
-                              Qt::Key_Shift, Qt::Key_Escape}) {
+                              Qt::Key_Menu, Qt::Key_Escape}) {
         NumberFilter = CandidateMask;
         ToolMode = 20;
         ToolSign = 0;
@@ -133,6 +134,60 @@ TEST_F(ToolbarOnView, AnyKeyOnAFocusedButtonActsAndTheFocusGoesBack)
         EXPECT_EQ(NumberFilter, BitTable[4]) << key;
         EXPECT_EQ(QApplication::focusWidget(), Board()) << key;
     }
+}
+
+TEST_F(ToolbarOnView, ModifierAloneOnAFocusedButtonIsNoPress)
+{
+    WordAt({4, 7}) |= SelectedBit;
+    const CellWord before = WordAt({4, 7});
+    for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_AltGr,
+                              Qt::Key_Meta, Qt::Key_Super_L, Qt::Key_Super_R}) {
+        Button(4)->setFocus(Qt::TabFocusReason);
+        SendKey(Button(4), QEvent::KeyPress, key);
+        SendKey(Button(4), QEvent::KeyRelease, key);
+        EXPECT_EQ(WordAt({4, 7}), before) << std::hex << key;
+        EXPECT_EQ(QApplication::focusWidget(), Button(4)) << std::hex << key;
+    }
+}
+
+TEST_F(ToolbarOnView, ShiftAndTabGoBackFromAButtonAndPlaceNothing)
+{
+    WordAt({4, 7}) |= SelectedBit;
+    const CellWord before = WordAt({4, 7});
+    Button(2)->setFocus(Qt::TabFocusReason);
+    SendKey(Button(2), QEvent::KeyPress, Qt::Key_Shift);
+    QTest::keyClick(Button(2), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::focusWidget(), Button(1));
+    EXPECT_EQ(WordAt({4, 7}), before);
+    Button(14)->setFocus(Qt::TabFocusReason); // the last one
+    QTest::keyClick(Button(14), Qt::Key_Tab);
+    EXPECT_EQ(ToolMode, 0);
+    EXPECT_EQ(WordAt({4, 7}), before);
+}
+
+TEST_F(ToolbarOnView, AltAndALetterOnAFocusedButtonOpenTheMenuAlone)
+{
+    WordAt({4, 7}) |= SelectedBit;
+    const CellWord before = WordAt({4, 7});
+    Button(3)->setFocus(Qt::TabFocusReason);
+    SendKey(Button(3), QEvent::KeyPress, Qt::Key_Alt);
+    QTest::keyClick(Button(3), Qt::Key_G, Qt::AltModifier);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(QApplication::activePopupWidget()->objectName(), "mnuGame");
+    EXPECT_EQ(WordAt({4, 7}), before);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+}
+
+TEST_F(ToolbarOnView, AssistiveToolsCanPressTheButtons)
+{
+    WordAt({4, 7}) |= SelectedBit;
+    QAccessibleInterface *button = QAccessible::queryAccessibleInterface(Button(6));
+    ASSERT_NE(button->actionInterface(), nullptr);
+    button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    const auto placed = [] { return (WordAt({4, 7}) & CandidateMask) == BitTable[6]; };
+    EXPECT_TRUE(QTest::qWaitFor(placed, Patience));
+    Button(14)->click();
+    EXPECT_EQ(ToolMode, 20);
 }
 
 TEST_F(ToolbarOnView, TabReachesEveryButton)
