@@ -5,8 +5,8 @@
 #include "outside/file_dialog.h"
 #include "outside/help.h"
 #include "paint/text.h"
+#include "ui/window/front.h"
 #include "ui/window/help_key.h"
-#include "ui/window/main_window.h"
 #include "ui/window/placing.h"
 
 #include <QComboBox>
@@ -282,8 +282,8 @@ void FileDialog::done(int result)
 
 bool RunFileDialog(std::size_t fileType)
 {
-    FileDialog dialog(Window(), fileType);
-    return dialog.exec() == QDialog::Accepted;
+    FileDialog dialog(AskingWindow(), fileType);
+    return RunDialog(dialog) == QDialog::Accepted;
 }
 
 } // namespace kelvarine

@@ -119,6 +119,11 @@ bool MainWindow::CloseUnlessAsking()
     return !isVisible();
 }
 
+bool MainWindow::IsClosing() const
+{
+    return asking;
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     const QScopedValueRollback nowAsking(asking, true);

@@ -57,6 +57,9 @@ public:
     // decides and nothing happens. True when the window is gone.
     bool CloseUnlessAsking();
 
+    // A closing waits for the player's answer.
+    [[nodiscard]] bool IsClosing() const;
+
 protected:
     void closeEvent(QCloseEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
@@ -66,7 +69,7 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
-    bool asking = false; // a closing waits for the player's answer
+    bool asking = false; // the same
 };
 
 // The one main window, or null before it stands and after it has gone.

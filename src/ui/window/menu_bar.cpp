@@ -87,8 +87,7 @@ bool MenuBar::eventFilter(QObject *watched, QEvent *event)
                static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
         // The toolkit would leave the keyboard with the bar.
         menu->close();
-        setActiveAction(nullptr);
-        FocusBoard();
+        Leave();
         return true;
     }
     return false;
@@ -103,11 +102,20 @@ void MenuBar::MoveIntoWindow(QMenu &menu) const
 }
 
 // The focus comes back when the player has left the menus, and not from one to the next.
-void MenuBar::FocusBoardAfterMenus() const
+void MenuBar::FocusBoardAfterMenus()
 {
     if (QApplication::activePopupWidget() == nullptr && activeAction() == nullptr) {
-        FocusBoard();
+        Leave();
     }
+}
+
+void MenuBar::Leave()
+{
+    // To give the focus away is not enough: the toolkit takes the next Alt for the end of this
+    // walk.
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QMenuBar::keyPressEvent(&escape);
+    FocusBoard();
 }
 
 } // namespace kelvarine

@@ -24,7 +24,8 @@ protected:
 
 private:
     void MoveIntoWindow(QMenu &menu) const;
-    void FocusBoardAfterMenus() const;
+    void FocusBoardAfterMenus();
+    void Leave();
 
     QAction *lateChange = nullptr; // changed while the player was in the bar
 };

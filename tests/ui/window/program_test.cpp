@@ -497,8 +497,13 @@ TEST_F(ProgramTest, OpenScreensComeBackAndTheBoardHasTheKeys)
         EXPECT_TRUE(OpenConfigureScreen()->isVisible());
         EXPECT_EQ(OpenConfigureScreen()->CurrentPanel()->objectName(), "picTabLogic");
         EXPECT_NE(ScreenOnView("frmStatistics"), nullptr);
-        EXPECT_EQ(QApplication::activeWindow(), Window());
-        EXPECT_TRUE(Window()->Client->Board->hasFocus());
+        // As soon as the screens are on view.
+        const auto hasKeys = [] {
+            return OpenConfigureScreen()->windowHandle()->isExposed() &&
+                   ScreenOnView("frmStatistics")->windowHandle()->isExposed() &&
+                   Window()->Client->Board->hasFocus();
+        };
+        EXPECT_TRUE(QTest::qWaitFor(hasKeys, Patience));
     });
 }
 
