@@ -20,17 +20,12 @@ namespace {
 QImage picBoardBuild; // keeps its pixels between paintings
 QImage picBoard;      // shares the pixels of picBoardBuild until a banner is drawn on it
 
-void Resize(QImage &picture, QSize size, double ratio)
+QImage BlackPicture(QSize size, double ratio)
 {
-    if (picture.isNull()) {
-        picture = QImage(size, QImage::Format_RGB32);
-        picture.fill(Qt::black);
-    } else if (picture.size() != size) {
-        picture = picture.copy(QRect(QPoint(0, 0), size));
-    }
-    if (picture.devicePixelRatio() != ratio) {
-        picture.setDevicePixelRatio(ratio);
-    }
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    picture.setDevicePixelRatio(ratio);
+    return picture;
 }
 
 } // namespace
@@ -39,8 +34,12 @@ void SetBoardPictureSize(int width, int height, double ratio)
 {
     const QSize size(std::max(1, static_cast<int>(std::lround(width * ratio))),
                      std::max(1, static_cast<int>(std::lround(height * ratio))));
-    Resize(picBoardBuild, size, ratio);
-    Resize(picBoard, size, ratio);
+    // Some pixels of odd lines in 3D are never painted: they must not show another layout's.
+    picBoardBuild = BlackPicture(size, ratio);
+    // What is on view stays until the next painting, which a search may put off.
+    const QImage shown = picBoard.copy(QRect(QPoint(0, 0), size));
+    picBoard = shown.isNull() ? picBoardBuild : shown;
+    picBoard.setDevicePixelRatio(ratio);
 }
 
 const QImage &BoardPicture()
