@@ -6,10 +6,26 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cstdlib>
+#include <iostream>
+
+namespace {
+
+// The program has no options, and what looks like one is not for the toolkit either.
+bool AsksForAnOption(int argc, char **argv)
+{
+    return std::any_of(argv + 1, argv + argc, [](const char *word) { return *word == '-'; });
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
+    if (AsksForAnOption(argc, argv)) {
+        std::cerr << "kelvarine: there are no options. Start it as: kelvarine [file]\n";
+        return 2;
+    }
     const QApplication application(argc, argv);
     QApplication::setApplicationName("kelvarine");
     // In these letters the version is looked for in the finished program.

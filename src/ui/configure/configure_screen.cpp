@@ -92,7 +92,7 @@ ConfigureScreen *OpenConfigureScreen()
 }
 
 ConfigureScreen::ConfigureScreen(QWidget *parent)
-    : QWidget(parent, Qt::Window), strip(new TabStrip(this, TabTexts(),
+    : QWidget(parent, Qt::Dialog), strip(new TabStrip(this, TabTexts(),
                                                       [this](std::int32_t tab) {
                                                           CurrentTab = tab;
                                                           ShowTab();

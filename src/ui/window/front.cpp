@@ -60,7 +60,8 @@ QWidget *AskingWindow()
         return box;
     }
     QWidget *front = QApplication::activeWindow();
-    return IsScreen(front) && !Window()->IsClosing() ? front : Window();
+    const bool closing = Window() != nullptr && Window()->IsClosing();
+    return IsScreen(front) && !closing ? front : Window();
 }
 
 int RunDialog(QDialog &dialog)

@@ -2,6 +2,7 @@
 
 #include "board/geometry.h"
 #include "board/look.h"
+#include "commands/file_commands.h"
 #include "game/clock.h"
 #include "game/screens.h"
 #include "game/win_display.h"
@@ -9,6 +10,7 @@
 #include "input/mouse.h"
 #include "input/toolbar.h"
 #include "outside/board.h"
+#include "outside/events.h"
 #include "paint/board_painter.h"
 #include "paint/margin_painter.h"
 #include "program/program.h"
@@ -20,7 +22,11 @@
 #include "ui/window/toolbar_widget.h"
 
 #include <QCloseEvent>
+#include <QDropEvent>
+#include <QFile>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -35,6 +41,16 @@ constexpr QSize StartSize{760, 830};
 constexpr QSize SmallestSize{160, 160};
 
 MainWindow *mainWindow = nullptr;
+
+// Full path of the one file that is dragged; empty for anything else.
+std::string DroppedFile(const QMimeData &dragged)
+{
+    const QList<QUrl> urls = dragged.urls();
+    if (urls.size() != 1 || !urls.front().isLocalFile()) {
+        return {};
+    }
+    return QFile::encodeName(urls.front().toLocalFile()).toStdString();
+}
 
 } // namespace
 
@@ -88,6 +104,9 @@ void ClientArea::mousePressEvent(QMouseEvent *event)
 MainWindow::MainWindow() : Client(new ClientArea(this))
 {
     mainWindow = this;
+    // The texts are English, whichever way the desktop writes.
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    setAcceptDrops(true);
     connect(&tmrSolveTime, &QTimer::timeout, this, ClockTick);
     connect(&tmrGameWon, &QTimer::timeout, this, WinDisplayTick);
     setCentralWidget(Client);
@@ -202,6 +221,21 @@ void MainWindow::changeEvent(QEvent *event)
     } else if (event->type() == QEvent::ActivationChange && !isActiveWindow()) {
         Client->Board->LetModifiersGo();
     }
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!DroppedFile(*event->mimeData()).empty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    // The program that it comes from waits until this is over, and a question may come up.
+    CallFromEventLoop([file = DroppedFile(*event->mimeData())] { OpenDroppedGame(file); });
+    activateWindow();
 }
 
 void MainWindow::keyPressEvent(QKeyEvent *event)

@@ -54,6 +54,14 @@ QPoint KeptOnScreen(const QRect &window, const QRect &screen)
     return {std::max(x, screen.left()), std::max(y, screen.top())};
 }
 
+bool HasRoomBeside(const QWidget &window)
+{
+    const QRect main = Window()->frameGeometry();
+    const QRect room = ScreenAt(main.center());
+    const QSize size = FramedSize(window);
+    return !QRect(PlaceBeside(main, size, room), size).intersects(main);
+}
+
 void OpenAt(QWidget &window, const WindowPlace &place)
 {
     // Any number may stand in a file; no screen reaches this far.

@@ -26,6 +26,9 @@ QPoint PlaceBeside(const QRect &other, const QSize &size, const QRect &screen);
 // too large keeps its top left corner there.
 QPoint KeptOnScreen(const QRect &window, const QRect &screen);
 
+// Whether a window would stand beside the main window without covering it.
+bool HasRoomBeside(const QWidget &window);
+
 // Moves a window that is about to be shown to its place, or beside the main window when it has
 // none. A width and height in the place become its size.
 void OpenAt(QWidget &window, const WindowPlace &place);

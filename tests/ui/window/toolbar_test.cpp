@@ -184,7 +184,9 @@ TEST_F(ToolbarOnView, AssistiveToolsCanPressTheButtons)
     QAccessibleInterface *button = QAccessible::queryAccessibleInterface(Button(6));
     ASSERT_NE(button->actionInterface(), nullptr);
     button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    const auto placed = [] { return (WordAt({4, 7}) & CandidateMask) == BitTable[6]; };
+    const auto placed = [] {
+        return (WordAt({4, 7}) & CandidateMask) == BitTable[6];
+    };
     EXPECT_TRUE(QTest::qWaitFor(placed, Patience));
     Button(14)->click();
     EXPECT_EQ(ToolMode, 20);
