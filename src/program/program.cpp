@@ -57,20 +57,41 @@ void StartProgram(const std::string &gameFile)
     }
 }
 
-bool EndProgram()
+bool AskBeforeTheEnd()
 {
     if (SearchActive != False) {
         ReadyForCommand(); // asks whether to stop it
         return false;
     }
     QuerySaveGame();
-    if (LastAnswer == AnsweredCancel) {
-        return false;
-    }
-    StopSound();
+    return LastAnswer != AnsweredCancel;
+}
+
+void KeepSettings()
+{
     KeepMainPlace();
     // Before the other screens go, so that those open now count as open.
     WriteConfiguration();
+}
+
+void KeepUnasked()
+{
+    // Whatever else is to outlast an end about which nobody can be asked belongs here.
+    KeepSettings();
+}
+
+void EndProgramUnasked()
+{
+    StopSound();
+    KeepSettings();
+}
+
+bool EndProgram()
+{
+    if (!AskBeforeTheEnd()) {
+        return false;
+    }
+    EndProgramUnasked();
     return true;
 }
 

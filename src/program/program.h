@@ -15,4 +15,15 @@ void StartProgram(const std::string &gameFile);
 // and keeps the settings. False when the player would rather stay.
 bool EndProgram();
 
+// The two halves of it: the questions, false when the player would rather stay; and what is due when
+// they are answered, or when they have been before.
+bool AskBeforeTheEnd();
+void EndProgramUnasked();
+
+// Writes the settings as they are, with the windows that are open, while the program goes on.
+void KeepSettings();
+
+// Keeps what can be kept while the program goes on and nobody may be asked anything.
+void KeepUnasked();
+
 } // namespace kelvarine

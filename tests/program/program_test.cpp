@@ -95,6 +95,33 @@ TEST_F(WholeProgram, CancelInTheSaveQuestionKeepsTheProgramAndWritesNothing)
     EXPECT_EQ(Folders.ReadSetting("config.sdu"), "");
 }
 
+TEST_F(WholeProgram, QuestionBeforeTheEndEndsNothing)
+{
+    StartProgram("");
+    GameModified = True;
+    ForgetRecord();
+    Seen.SaveAnswers = {Answer::No, Answer::Cancel};
+    EXPECT_TRUE(AskBeforeTheEnd());
+    EXPECT_FALSE(AskBeforeTheEnd());
+    EXPECT_EQ(Seen.Questions.size(), 2U);
+    EXPECT_EQ(Folders.ReadSetting("config.sdu"), "");
+    KeepSettings();
+    EXPECT_NE(Folders.ReadSetting("config.sdu"), "");
+}
+
+TEST_F(WholeProgram, WhereNobodyMayBeAskedNothingIsAndTheSettingsAreKept)
+{
+    for (void (*keep)() : {KeepUnasked, EndProgramUnasked}) {
+        StartProgram("");
+        GameModified = True;
+        ForgetRecord();
+        keep();
+        EXPECT_TRUE(Seen.Questions.empty());
+        EXPECT_EQ(GameModified, True);
+        EXPECT_NE(Folders.ReadSetting("config.sdu"), "");
+    }
+}
+
 TEST_F(WholeProgram, EndDuringASearchAsksOnlyWhetherToStopIt)
 {
     StartProgram("");

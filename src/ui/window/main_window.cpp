@@ -19,6 +19,7 @@
 #include "ui/window/menu_bar.h"
 #include "ui/window/menus.h"
 #include "ui/window/placing.h"
+#include "ui/window/session.h"
 #include "ui/window/toolbar_widget.h"
 
 #include <QCloseEvent>
@@ -138,6 +139,12 @@ bool MainWindow::CloseUnlessAsking()
     return !isVisible();
 }
 
+bool MainWindow::AskAsClosingDoes()
+{
+    const QScopedValueRollback nowAsking(asking, true);
+    return AskBeforeTheEnd();
+}
+
 bool MainWindow::IsClosing() const
 {
     return asking;
@@ -147,7 +154,10 @@ void MainWindow::closeEvent(QCloseEvent *event)
 {
     const QScopedValueRollback nowAsking(asking, true);
     event->ignore();
-    if (EndProgram()) {
+    if (EndIsAgreed()) {
+        EndProgramUnasked();
+        event->accept();
+    } else if (EndProgram()) {
         event->accept();
     }
 }

@@ -57,7 +57,10 @@ public:
     // decides and nothing happens. True when the window is gone.
     bool CloseUnlessAsking();
 
-    // A closing waits for the player's answer.
+    // Asks what a closing would ask, and closes nothing. False when the player would rather stay.
+    bool AskAsClosingDoes();
+
+    // A closing, or a session's end, waits for the player's answer.
     [[nodiscard]] bool IsClosing() const;
 
 protected:
