@@ -46,6 +46,13 @@ std::uint32_t Blend(std::uint32_t below, std::uint32_t above, std::uint32_t cove
     return mix(below & pairs, above & pairs) | mix(below >> 8 & pairs, above >> 8 & pairs) << 8;
 }
 
+constexpr double Farthest = 1e8; // keeps sums of edges within their type
+
+int EdgeAt(double ratio, int position)
+{
+    return static_cast<int>(std::clamp(std::round(position * ratio), -Farthest, Farthest));
+}
+
 } // namespace
 
 Canvas CanvasOf(QImage &picture)
@@ -73,9 +80,21 @@ Canvas PaperCanvas(QPainter &paper, QImage &beneath)
 
 int DeviceEdge(const Canvas &canvas, int position)
 {
-    constexpr double farthest = 1e8; // keeps sums of edges within their type
-    const double edge = std::round(position * canvas.Ratio);
-    return static_cast<int>(std::clamp(edge, -farthest, farthest));
+    return EdgeAt(canvas.Ratio, position);
+}
+
+int PixelOfDevice(double ratio, double place)
+{
+    constexpr double exact = 1e-3; // of a pixel; a place is told in fractions of logical ones
+    const double device = std::floor(std::clamp(place, -Farthest, Farthest) + exact);
+    int position = static_cast<int>(std::floor(device / ratio));
+    while (EdgeAt(ratio, position + 1) <= device) {
+        ++position;
+    }
+    while (EdgeAt(ratio, position) > device) {
+        --position;
+    }
+    return position;
 }
 
 DeviceArea DevicePart(const Canvas &canvas, const Rectangle &rectangle)

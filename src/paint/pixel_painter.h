@@ -55,6 +55,9 @@ Canvas PaperCanvas(QPainter &paper, QImage &beneath);
 // Device pixel at which a logical pixel begins, not clipped.
 int DeviceEdge(const Canvas &canvas, int position);
 
+// The logical pixel that is painted at a place in device pixels: the other way round.
+int PixelOfDevice(double ratio, double place);
+
 // Device pixels of a rectangle that lie in the picture.
 DeviceArea DevicePart(const Canvas &canvas, const Rectangle &rectangle);
 

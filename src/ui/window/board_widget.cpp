@@ -4,6 +4,7 @@
 #include "input/keys.h"
 #include "input/mouse.h"
 #include "input/toolbar.h"
+#include "outside/window.h"
 #include "paint/board_painter.h"
 #include "ui/window/board_accessible.h"
 #include "ui/window/key_decoder.h"
@@ -44,13 +45,29 @@ BoardWidget::BoardWidget(QWidget *parent) : QWidget(parent)
 void BoardWidget::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
+    if (BoardPicture().devicePixelRatio() != devicePixelRatioF()) {
+        // The window has come to a screen of another ratio. What is there stands in until then.
+        QMetaObject::invokeMethod(this, ResizeWindow, Qt::QueuedConnection);
+    }
+    // Where the board begins within a pixel of the screen it begins with the nearest one.
+    const QTransform onScreen = painter.deviceTransform();
+    const QPointF corner(onScreen.dx(), onScreen.dy());
+    painter.translate((corner.toPoint() - corner) / devicePixelRatioF());
     painter.drawImage(0, 0, BoardPicture());
+}
+
+QPoint BoardWidget::PixelAt(const QPointF &position) const
+{
+    const double ratio = devicePixelRatioF();
+    const QPointF corner = QPointF(mapTo(window(), QPoint(0, 0))) * ratio;
+    const QPointF inPicture = position * ratio + corner - corner.toPoint();
+    return {PixelOfDevice(ratio, inPicture.x()), PixelOfDevice(ratio, inPicture.y())};
 }
 
 void BoardWidget::mousePressEvent(QMouseEvent *event)
 {
     const std::int32_t button = event->button() == Qt::RightButton ? RightButton : LeftButton;
-    const QPoint place = event->position().toPoint();
+    const QPoint place = PixelAt(event->position());
     BoardPressed(button, ModifiersOf(event->modifiers()), place.x(), place.y());
 }
 
@@ -68,7 +85,7 @@ void BoardWidget::mouseMoveEvent(QMouseEvent *event)
 {
     // Only the left button alone drags.
     const std::int32_t button = event->buttons() == Qt::LeftButton ? LeftButton : NoButton;
-    const QPoint place = event->position().toPoint();
+    const QPoint place = PixelAt(event->position());
     BoardMoved(button, ModifiersOf(event->modifiers()), place.x(), place.y());
 }
 

@@ -33,6 +33,9 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    // The pixel of the board that is painted at a place of the widget.
+    [[nodiscard]] QPoint PixelAt(const QPointF &position) const;
+
     bool modifierHeld = false; // Shift or Ctrl went down and has not come up yet
 };
 
