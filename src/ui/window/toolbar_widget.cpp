@@ -19,6 +19,8 @@ namespace {
 constexpr int EdgeShade = 170; // percent, as the toolkit darkens colours
 constexpr int PressedShade = 125;
 constexpr qreal Rounding = 3; // pixels
+constexpr int CaptionMargin = 2;
+constexpr int SmallestCaption = 6;
 
 // How light a colour looks, 0 black to 1 white.
 double Lightness(const QColor &colour)
@@ -84,11 +86,30 @@ void ToolButtonWidget::paintEvent(QPaintEvent * /*event*/)
     painter.setBrush(isDown() ? background.darker(PressedShade) : background);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Rounding, Rounding);
     painter.setPen(ink);
+    painter.setFont(CaptionFont());
     painter.drawText(rect(), Qt::AlignCenter, text());
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 1, 1);
     }
+}
+
+QFont ToolButtonWidget::CaptionFont() const
+{
+    // The toolbar is as high as it is; what does not fit is written smaller.
+    QFont fitting = font();
+    int pixels = QFontInfo(fitting).pixelSize();
+    const QSize room(width() - 2 * CaptionMargin, height());
+    while (pixels > SmallestCaption && !QRect({}, room).contains(QRect({}, CaptionSize(fitting)))) {
+        fitting.setPixelSize(--pixels);
+    }
+    return fitting;
+}
+
+QSize ToolButtonWidget::CaptionSize(const QFont &letters) const
+{
+    const QFontMetrics measure(letters);
+    return {measure.horizontalAdvance(text()), measure.height()};
 }
 
 void ToolButtonWidget::mousePressEvent(QMouseEvent * /*event*/)

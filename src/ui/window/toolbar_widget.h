@@ -19,6 +19,9 @@ public:
     // Shows the button's caption, colour, tip and place as they are now.
     void Update();
 
+    // The font in which the caption fits on the button.
+    [[nodiscard]] QFont CaptionFont() const;
+
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -29,6 +32,8 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
+    [[nodiscard]] QSize CaptionSize(const QFont &letters) const;
+
     std::int32_t number;
 };
 
