@@ -1,6 +1,8 @@
 #include "paint/board_painter.h"
 
+#include "board/look.h"
 #include "game/clock.h"
+#include "grid/colour.h"
 #include "grid/grid.h"
 #include "outside/board.h"
 #include "paint/cell_painter.h"
@@ -71,12 +73,34 @@ void PaintNumbers(const Canvas &canvas)
     }
 }
 
+namespace {
+
+// Device pixels that are left over beside a board without a border show the margin.
+void PaintLeftOver(const Canvas &canvas)
+{
+    const Colour colour = ColourTable[MarginColour];
+    const int right = DeviceX(canvas, canvas.Width);
+    const int bottom = DeviceY(canvas, canvas.Height);
+    if (BorderThickness > 0 || canvas.Across.Count == 0 || canvas.Down.Count == 0) {
+        return;
+    }
+    const int left = DeviceX(canvas, 0);
+    const int top = DeviceY(canvas, 0);
+    FillDeviceArea(canvas, {0, 0, left, canvas.DeviceHeight}, colour);
+    FillDeviceArea(canvas, {0, 0, canvas.DeviceWidth, top}, colour);
+    FillDeviceArea(canvas, {right, 0, canvas.DeviceWidth, canvas.DeviceHeight}, colour);
+    FillDeviceArea(canvas, {0, bottom, canvas.DeviceWidth, canvas.DeviceHeight}, colour);
+}
+
+} // namespace
+
 void PaintBoard(QImage &picture)
 {
-    const Canvas canvas = CanvasOf(picture);
+    const Canvas canvas = BoardCanvasOf(picture);
     if (canvas.Pixels == nullptr) {
         return;
     }
+    PaintLeftOver(canvas);
     // 1. Lines, what grains and frames them, and cells.
     PaintCells(canvas);
 

@@ -1,11 +1,13 @@
 #include "ui/window/board_widget.h"
 
+#include "board/geometry.h"
 #include "game/search.h"
 #include "input/keys.h"
 #include "input/mouse.h"
 #include "input/toolbar.h"
 #include "outside/window.h"
 #include "paint/board_painter.h"
+#include "paint/device_axis.h"
 #include "ui/window/board_accessible.h"
 #include "ui/window/key_decoder.h"
 
@@ -61,7 +63,8 @@ QPoint BoardWidget::PixelAt(const QPointF &position) const
     const double ratio = devicePixelRatioF();
     const QPointF corner = QPointF(mapTo(window(), QPoint(0, 0))) * ratio;
     const QPointF inPicture = position * ratio + corner - corner.toPoint();
-    return {PixelOfDevice(ratio, inPicture.x()), PixelOfDevice(ratio, inPicture.y())};
+    return {PixelOn(BoardAxis(ratio, CellWidth), inPicture.x()),
+            PixelOn(BoardAxis(ratio, CellHeight), inPicture.y())};
 }
 
 void BoardWidget::mousePressEvent(QMouseEvent *event)
