@@ -15,8 +15,8 @@ void StartProgram(const std::string &gameFile);
 // and keeps the settings. False when the player would rather stay.
 bool EndProgram();
 
-// The two halves of it: the questions, false when the player would rather stay; and what is due when
-// they are answered, or when they have been before.
+// The two halves of it: the questions, false when the player would rather stay; and what is due
+// when they are answered, or when they have been before.
 bool AskBeforeTheEnd();
 void EndProgramUnasked();
 

@@ -40,7 +40,8 @@ Program::Program()
     GameModified = False;
     Main->resize(760, 830);
     Main->show();
-    // There is no keyboard to ask: the toolkit takes the modifiers of the latest key for those held.
+    // There is no keyboard to ask: the toolkit takes the modifiers of the latest key for those
+    // held.
     QTest::keyEvent(QTest::Release, Main->windowHandle(), Qt::Key_F35);
     QCoreApplication::processEvents();
 }
