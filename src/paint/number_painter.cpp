@@ -104,8 +104,11 @@ Share ShareOf(NumberLayout layout, int number, int place)
     }
     case NumberLayout::Quad:
         return {place % 2 == 1 ? 0.25 : 0.75, place < 3 ? 0.25 : 0.75};
-    case NumberLayout::Nine:
-        return {((number - 1) % 3 * 2 + 1) / 6.0, (((number - 1) / 3) * 2 + 1) / 6.0};
+    case NumberLayout::Nine: {
+        const int column = (number - 1) % 3;
+        const int row = (number - 1) / 3;
+        return {(2 * column + 1) / 6.0, (2 * row + 1) / 6.0};
+    }
     default:
         return {};
     }

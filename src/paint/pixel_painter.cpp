@@ -89,11 +89,11 @@ int DeviceY(const Canvas &canvas, int y)
     return EdgeOn(canvas.Down, y);
 }
 
-void FillDeviceArea(const Canvas &canvas, const DeviceArea &wanted, Colour colour)
+void FillDeviceArea(const Canvas &canvas, const DeviceArea &area, Colour colour)
 {
-    const DeviceArea area = Cut(canvas, wanted);
-    for (int y = area.Top; y < area.Bottom; ++y) {
-        std::fill(LineOf(canvas, y) + area.Left, LineOf(canvas, y) + area.Right, Opaque | colour);
+    const DeviceArea seen = Cut(canvas, area);
+    for (int y = seen.Top; y < seen.Bottom; ++y) {
+        std::fill(LineOf(canvas, y) + seen.Left, LineOf(canvas, y) + seen.Right, Opaque | colour);
     }
 }
 

@@ -121,6 +121,7 @@ def main():
         walk_back(desktop, program, session.log_out, session.before)
         expect("refuses" in session.heard(), "a Cancel does")
         over_the_closing_question(desktop, program, session)
+        (desktop.home / "evening.sdk").unlink()
         make_files(desktop, program)
         for words in "checkpoint", "called off":
             without_an_end(desktop, program, session, words)

@@ -4,6 +4,7 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -83,13 +84,19 @@ void OpenAt(QWidget &window, const WindowPlace &place)
 
 void BringToFront(QWidget &window)
 {
+    // At a start the main window is to have the keyboard, and no screen asks for it.
+    const QWindow *main = Window()->windowHandle();
+    const bool starting = main != nullptr && !main->isExposed();
+    window.setAttribute(Qt::WA_ShowWithoutActivating, starting);
     if (window.isMinimized()) {
         window.showNormal();
     } else {
         window.show();
     }
-    window.raise();
-    window.activateWindow();
+    if (!starting) {
+        window.raise();
+        window.activateWindow();
+    }
 }
 
 void KeepPlace(const QWidget &window, WindowPlace &place)

@@ -33,7 +33,8 @@ bool HasRoomBeside(const QWidget &window);
 // none. A width and height in the place become its size.
 void OpenAt(QWidget &window, const WindowPlace &place);
 
-// Shows a window, if it must be out of its icon, in front of the others and with the focus.
+// Shows a window, if it must be out of its icon, in front of the others and with the focus; while
+// the main window itself is still on its way to the screen, without the focus.
 void BringToFront(QWidget &window);
 
 // Keeps where a window stands, unless it is hidden or minimised.
