@@ -5,6 +5,7 @@
 #include "input/keys.h"
 #include "input/mouse.h"
 #include "input/toolbar.h"
+#include "outside/events.h"
 #include "outside/window.h"
 #include "paint/board_painter.h"
 #include "paint/device_axis.h"
@@ -49,7 +50,7 @@ void BoardWidget::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     if (BoardPicture().devicePixelRatio() != devicePixelRatioF()) {
         // The window has come to a screen of another ratio. What is there stands in until then.
-        QMetaObject::invokeMethod(this, ResizeWindow, Qt::QueuedConnection);
+        CallFromEventLoop(ResizeWindow);
     }
     // Where the board begins within a pixel of the screen it begins with the nearest one.
     const QTransform onScreen = painter.deviceTransform();

@@ -1,11 +1,13 @@
 #include "ui/window/front.h"
 
+#include "outside/events.h"
 #include "outside/window.h"
 #include "ui/window/main_window.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
+#include <QPointer>
 #include <QWindow>
 
 #include <algorithm>
@@ -33,8 +35,11 @@ public:
     bool eventFilter(QObject * /*watched*/, QEvent *event) override
     {
         if (event->type() == QEvent::Expose || event->type() == QEvent::Hide) {
-            QMetaObject::invokeMethod(
-                this, [this] { ActivateWhenAllAreThere(); }, Qt::QueuedConnection);
+            CallFromEventLoop([watch = QPointer(this)] {
+                if (watch != nullptr) {
+                    watch->ActivateWhenAllAreThere();
+                }
+            });
         }
         return false;
     }
@@ -75,7 +80,8 @@ int RunDialog(QDialog &dialog)
 
 void ActivateMainWindowLast()
 {
-    auto *watch = new ArrivalWatch(Window());
+    auto *watch = new ArrivalWatch;
+    watch->setParent(Window());
     for (QWidget *window : QApplication::topLevelWidgets()) {
         if (IsUnderWay(window)) {
             window->windowHandle()->installEventFilter(watch);

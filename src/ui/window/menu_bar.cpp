@@ -1,10 +1,12 @@
 #include "ui/window/menu_bar.h"
 
+#include "outside/events.h"
 #include "outside/window.h"
 
 #include <QActionEvent>
 #include <QApplication>
 #include <QMenu>
+#include <QPointer>
 #include <QProxyStyle>
 
 #include <algorithm>
@@ -81,8 +83,11 @@ bool MenuBar::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::Show) {
         MoveIntoWindow(*menu);
     } else if (event->type() == QEvent::Hide) {
-        QMetaObject::invokeMethod(
-            this, [this] { FocusBoardAfterMenus(); }, Qt::QueuedConnection);
+        CallFromEventLoop([bar = QPointer(this)] {
+            if (bar != nullptr) {
+                bar->FocusBoardAfterMenus();
+            }
+        });
     } else if (event->type() == QEvent::KeyPress &&
                static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
         // The toolkit would leave the keyboard with the bar.

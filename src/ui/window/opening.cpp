@@ -1,10 +1,12 @@
 #include "ui/window/opening.h"
 
+#include "outside/events.h"
 #include "ui/window/main_window.h"
 #include "ui/window/placing.h"
 
 #include <QApplication>
 #include <QEvent>
+#include <QPointer>
 #include <QScreen>
 #include <QStyle>
 #include <QWindow>
@@ -75,8 +77,11 @@ public:
         case QEvent::Expose:
         case QEvent::Move:
             // When the window itself has taken the event.
-            QMetaObject::invokeMethod(
-                this, [this] { Settle(); }, Qt::QueuedConnection);
+            CallFromEventLoop([opening = QPointer(this)] {
+                if (opening != nullptr) {
+                    opening->Settle();
+                }
+            });
             break;
         case QEvent::Hide:
             deleteLater();
