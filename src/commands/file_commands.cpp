@@ -5,6 +5,7 @@
 #include "files/game_file.h"
 #include "files/text_case.h"
 #include "game/lifecycle.h"
+#include "game/search.h"
 #include "grid/history.h"
 #include "outside/board.h"
 #include "outside/messages.h"
@@ -78,6 +79,17 @@ void OpenGameFile(const std::string &path)
     GameModified = False;
     DrawBoard();
     RefreshWindow();
+}
+
+void OpenDroppedGame(const std::string &path)
+{
+    if (!ReadyForCommand()) {
+        return;
+    }
+    QuerySaveGame();
+    if (LastAnswer != AnsweredCancel) {
+        OpenGameFile(path);
+    }
 }
 
 void mnuSave()

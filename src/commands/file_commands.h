@@ -19,6 +19,10 @@ void mnuOpen();
 // Opens a game by its full path, without any question.
 void OpenGameFile(const std::string &path);
 
+// Opens a game that the player has dropped on the window, after the question about the game in
+// hand. Nothing but the question whether to stop it while a search runs.
+void OpenDroppedGame(const std::string &path);
+
 // Save the game: under the name that it has, asking for one when it has none, or when the player
 // does not want what was read as text under a foreign name to become a game; and under a name that
 // the player chooses.

@@ -11,7 +11,8 @@ void MakeMainWindow();
 // Puts the main window where it stood last, in reach of the screens that are there, and shows it.
 void ShowMainWindow();
 
-// Brings the main window to the front and gives it the keyboard.
+// Brings the main window to the front and gives it the keyboard, as soon as the program's other
+// windows that have been opened are on view.
 void ActivateMainWindow();
 
 // Asks the main window to close, as the player would.

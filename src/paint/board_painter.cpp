@@ -1,6 +1,8 @@
 #include "paint/board_painter.h"
 
+#include "board/look.h"
 #include "game/clock.h"
+#include "grid/colour.h"
 #include "grid/grid.h"
 #include "outside/board.h"
 #include "paint/cell_painter.h"
@@ -20,17 +22,12 @@ namespace {
 QImage picBoardBuild; // keeps its pixels between paintings
 QImage picBoard;      // shares the pixels of picBoardBuild until a banner is drawn on it
 
-void Resize(QImage &picture, QSize size, double ratio)
+QImage BlackPicture(QSize size, double ratio)
 {
-    if (picture.isNull()) {
-        picture = QImage(size, QImage::Format_RGB32);
-        picture.fill(Qt::black);
-    } else if (picture.size() != size) {
-        picture = picture.copy(QRect(QPoint(0, 0), size));
-    }
-    if (picture.devicePixelRatio() != ratio) {
-        picture.setDevicePixelRatio(ratio);
-    }
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    picture.setDevicePixelRatio(ratio);
+    return picture;
 }
 
 } // namespace
@@ -39,8 +36,12 @@ void SetBoardPictureSize(int width, int height, double ratio)
 {
     const QSize size(std::max(1, static_cast<int>(std::lround(width * ratio))),
                      std::max(1, static_cast<int>(std::lround(height * ratio))));
-    Resize(picBoardBuild, size, ratio);
-    Resize(picBoard, size, ratio);
+    // Some pixels of odd lines in 3D are never painted: they must not show another layout's.
+    picBoardBuild = BlackPicture(size, ratio);
+    // What is on view stays until the next painting, which a search may put off.
+    const QImage shown = picBoard.copy(QRect(QPoint(0, 0), size));
+    picBoard = shown.isNull() ? picBoardBuild : shown;
+    picBoard.setDevicePixelRatio(ratio);
 }
 
 const QImage &BoardPicture()
@@ -72,12 +73,34 @@ void PaintNumbers(const Canvas &canvas)
     }
 }
 
+namespace {
+
+// Device pixels that are left over beside a board without a border show the margin.
+void PaintLeftOver(const Canvas &canvas)
+{
+    const Colour colour = ColourTable[MarginColour];
+    const int right = DeviceX(canvas, canvas.Width);
+    const int bottom = DeviceY(canvas, canvas.Height);
+    if (BorderThickness > 0 || canvas.Across.Count == 0 || canvas.Down.Count == 0) {
+        return;
+    }
+    const int left = DeviceX(canvas, 0);
+    const int top = DeviceY(canvas, 0);
+    FillDeviceArea(canvas, {0, 0, left, canvas.DeviceHeight}, colour);
+    FillDeviceArea(canvas, {0, 0, canvas.DeviceWidth, top}, colour);
+    FillDeviceArea(canvas, {right, 0, canvas.DeviceWidth, canvas.DeviceHeight}, colour);
+    FillDeviceArea(canvas, {0, bottom, canvas.DeviceWidth, canvas.DeviceHeight}, colour);
+}
+
+} // namespace
+
 void PaintBoard(QImage &picture)
 {
-    const Canvas canvas = CanvasOf(picture);
+    const Canvas canvas = BoardCanvasOf(picture);
     if (canvas.Pixels == nullptr) {
         return;
     }
+    PaintLeftOver(canvas);
     // 1. Lines, what grains and frames them, and cells.
     PaintCells(canvas);
 

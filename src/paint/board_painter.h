@@ -11,8 +11,8 @@
 namespace kelvarine {
 
 // Gives the off-screen picture and the visible one a size in logical pixels, at least 1 by 1, and
-// the device pixel ratio of their screen, above 0. What both hold stays where it fits. Call after
-// LayoutBoard.
+// the device pixel ratio of their screen, above 0. The off-screen picture is black after that; what
+// the visible one holds stays where it fits. Call after LayoutBoard.
 void SetBoardPictureSize(int width, int height, double ratio);
 
 // The visible board: the latest finished picture and any banner over it. Do not keep a copy.

@@ -9,7 +9,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 namespace kelvarine {
 
@@ -22,24 +21,29 @@ constexpr int RingPen = 2;
 struct RingPicture {
     int Width = 0; // logical pixels
     int Height = 0;
-    double Ratio = 0;
+    QSize Device; // the same in device pixels
     Mask Shape;
 };
 
 RingPicture ringPicture; // picture cache
 
-Mask PaintRing(double ratio)
+QSize DeviceSizeOf(const Canvas &canvas, int x, int y)
 {
-    QImage picture(static_cast<int>(std::ceil(CellWidth * ratio)),
-                   static_cast<int>(std::ceil(CellHeight * ratio)),
-                   QImage::Format_ARGB32_Premultiplied);
-    picture.setDevicePixelRatio(ratio);
+    return {DeviceX(canvas, x + CellWidth) - DeviceX(canvas, x),
+            DeviceY(canvas, y + CellHeight) - DeviceY(canvas, y)};
+}
+
+Mask PaintRing(QSize device)
+{
+    QImage picture(device.expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     const int radius = std::max(1, std::max(CellWidth, CellHeight) / 2) - 1;
     if (radius > 0) {
         const auto [across, down] = CellEllipse(radius);
         QPainter painter(&picture);
         painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(static_cast<double>(picture.width()) / CellWidth,
+                      static_cast<double>(picture.height()) / CellHeight);
         painter.setPen(QPen(Qt::black, RingPen));
         const QPoint centre(CellWidth / 2, CellHeight / 2);
         painter.drawEllipse(QPointF(centre), across, down);
@@ -47,11 +51,11 @@ Mask PaintRing(double ratio)
     return MaskOf(picture);
 }
 
-const Mask &RingFor(double ratio)
+const Mask &RingFor(QSize device)
 {
     RingPicture &ring = ringPicture;
-    if (ring.Width != CellWidth || ring.Height != CellHeight || ring.Ratio != ratio) {
-        ring = {CellWidth, CellHeight, ratio, PaintRing(ratio)};
+    if (ring.Width != CellWidth || ring.Height != CellHeight || ring.Device != device) {
+        ring = {CellWidth, CellHeight, device, PaintRing(device)};
     }
     return ring.Shape;
 }
@@ -86,7 +90,7 @@ void DrawCell(const Canvas &canvas, Cell cell)
     FillCell(canvas, cell, x, y);
     FrameCell(canvas, word, x, y);
     if ((word & AlertBit) != 0) {
-        BlendMask(canvas, RingFor(canvas.Ratio), {x, y}, ColourTable[AlertColour]);
+        BlendMask(canvas, RingFor(DeviceSizeOf(canvas, x, y)), {x, y}, ColourTable[AlertColour]);
     }
 }
 

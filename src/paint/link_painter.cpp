@@ -4,6 +4,7 @@
 #include "board/look.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
+#include "paint/device_axis.h"
 #include "paint/toolkit_colour.h"
 
 #include <QImage>
@@ -15,10 +16,18 @@ namespace {
 
 constexpr int LinkPen = 2;
 
+// Where a point of the board is painted, for a painter who knows logical pixels.
+QPointF OnScreen(const QPainter &painter, Point point)
+{
+    const double ratio = painter.device()->devicePixelRatioF();
+    return {EdgeOn(BoardAxis(ratio, CellWidth), point.X) / ratio,
+            EdgeOn(BoardAxis(ratio, CellHeight), point.Y) / ratio};
+}
+
 void DrawLines(QPainter &painter, const std::vector<Line> &lines)
 {
     for (const Line &line : lines) {
-        painter.drawLine(line.From.X, line.From.Y, line.To.X, line.To.Y);
+        painter.drawLine(OnScreen(painter, line.From), OnScreen(painter, line.To));
     }
 }
 
@@ -28,7 +37,7 @@ void DrawDiscs(QPainter &painter, const std::vector<Disc> &discs)
     painter.setPen(Qt::NoPen);
     for (const Disc &disc : discs) {
         const auto [across, down] = CellEllipse(disc.Radius);
-        painter.drawEllipse(QPointF(disc.Centre.X, disc.Centre.Y), across, down);
+        painter.drawEllipse(OnScreen(painter, disc.Centre), across, down);
     }
 }
 

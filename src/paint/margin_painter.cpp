@@ -85,7 +85,8 @@ void PaintWindowTexts(QPainter &painter, int clientWidth, int clientHeight)
         WriteColumnLabels(painter, pen);
         WriteRowLabels(painter, pen);
     } else {
-        pen = {FaceOf(painter.font()), ColourOf(painter.pen().color().rgb())};
+        // The pen of the window would be black on black in the usual look.
+        pen = {FaceOf(painter.font()), CoordinateTextColour};
     }
     WriteRatingAndGivenCount(painter, pen);
 }

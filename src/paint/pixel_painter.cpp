@@ -18,13 +18,6 @@ std::uint32_t *LineOf(const Canvas &canvas, int y)
     return canvas.Pixels + y * canvas.Stride;
 }
 
-void FillDeviceArea(const Canvas &canvas, const DeviceArea &area, Colour colour)
-{
-    for (int y = area.Top; y < area.Bottom; ++y) {
-        std::fill(LineOf(canvas, y) + area.Left, LineOf(canvas, y) + area.Right, Opaque | colour);
-    }
-}
-
 // The part of an area that lies in the picture.
 DeviceArea Cut(const Canvas &canvas, const DeviceArea &area)
 {
@@ -59,6 +52,8 @@ Canvas CanvasOf(QImage &picture)
     canvas.DeviceWidth = picture.width();
     canvas.DeviceHeight = picture.height();
     canvas.Ratio = picture.devicePixelRatio();
+    canvas.Across.Ratio = canvas.Ratio;
+    canvas.Down.Ratio = canvas.Ratio;
     canvas.Width = static_cast<int>(std::lround(picture.width() / canvas.Ratio));
     canvas.Height = static_cast<int>(std::lround(picture.height() / canvas.Ratio));
     return canvas;
@@ -71,18 +66,42 @@ Canvas PaperCanvas(QPainter &paper, QImage &beneath)
     return canvas;
 }
 
-int DeviceEdge(const Canvas &canvas, int position)
+Canvas BoardCanvasOf(QImage &picture)
 {
-    constexpr double farthest = 1e8; // keeps sums of edges within their type
-    const double edge = std::round(position * canvas.Ratio);
-    return static_cast<int>(std::clamp(edge, -farthest, farthest));
+    Canvas canvas = CanvasOf(picture);
+    canvas.Across = BoardAxis(canvas.Ratio, CellWidth);
+    canvas.Down = BoardAxis(canvas.Ratio, CellHeight);
+    return canvas;
+}
+
+bool HasFinerPixels(const Canvas &canvas)
+{
+    return canvas.Paper == nullptr && canvas.Ratio != 1;
+}
+
+int DeviceX(const Canvas &canvas, int x)
+{
+    return EdgeOn(canvas.Across, x);
+}
+
+int DeviceY(const Canvas &canvas, int y)
+{
+    return EdgeOn(canvas.Down, y);
+}
+
+void FillDeviceArea(const Canvas &canvas, const DeviceArea &area, Colour colour)
+{
+    const DeviceArea seen = Cut(canvas, area);
+    for (int y = seen.Top; y < seen.Bottom; ++y) {
+        std::fill(LineOf(canvas, y) + seen.Left, LineOf(canvas, y) + seen.Right, Opaque | colour);
+    }
 }
 
 DeviceArea DevicePart(const Canvas &canvas, const Rectangle &rectangle)
 {
-    return Cut(canvas, {DeviceEdge(canvas, rectangle.X), DeviceEdge(canvas, rectangle.Y),
-                        DeviceEdge(canvas, rectangle.X + rectangle.Width),
-                        DeviceEdge(canvas, rectangle.Y + rectangle.Height)});
+    return Cut(canvas, {DeviceX(canvas, rectangle.X), DeviceY(canvas, rectangle.Y),
+                        DeviceX(canvas, rectangle.X + rectangle.Width),
+                        DeviceY(canvas, rectangle.Y + rectangle.Height)});
 }
 
 void FillCorners(const Canvas &canvas, Point a, Point b, Colour colour)
@@ -99,6 +118,27 @@ void FillCorners(const Canvas &canvas, Point a, Point b, Colour colour)
     }
 }
 
+namespace {
+
+// From the middle of a pixel to that of another, as wide as one.
+void DrawSmoothLine(const Canvas &canvas, Point from, Point to, Colour colour)
+{
+    QImage picture(
+        reinterpret_cast<uchar *>(canvas.Pixels), canvas.DeviceWidth, canvas.DeviceHeight,
+        canvas.Stride * static_cast<qsizetype>(sizeof(std::uint32_t)), QImage::Format_RGB32);
+    const auto middle = [&](Point pixel) {
+        return QPointF((DeviceX(canvas, pixel.X) + DeviceX(canvas, pixel.X + 1)) / 2.0,
+                       (DeviceY(canvas, pixel.Y) + DeviceY(canvas, pixel.Y + 1)) / 2.0);
+    };
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ToolkitColour(colour), std::max(1.0, std::round(canvas.Ratio)),
+                        Qt::SolidLine, Qt::FlatCap));
+    painter.drawLine(middle(from), middle(to));
+}
+
+} // namespace
+
 void DrawLine(const Canvas &canvas, Point from, Point to, Colour colour)
 {
     if (from.X == to.X || from.Y == to.Y) {
@@ -111,17 +151,18 @@ void DrawLine(const Canvas &canvas, Point from, Point to, Colour colour)
         canvas.Paper->drawLine(QPointF(from.X, from.Y) + middle, QPointF(to.X, to.Y) + middle);
         return;
     }
-    const int x = DeviceEdge(canvas, from.X);
-    const int y = DeviceEdge(canvas, from.Y);
-    const int width = DeviceEdge(canvas, to.X) - x;
-    const int height = DeviceEdge(canvas, to.Y) - y;
+    if (HasFinerPixels(canvas)) {
+        DrawSmoothLine(canvas, from, to, colour);
+        return;
+    }
+    const int width = to.X - from.X;
+    const int height = to.Y - from.Y;
     const int steps = std::max(std::abs(width), std::abs(height));
-    const int pen = std::max(1, static_cast<int>(std::lround(canvas.Ratio)));
     for (int step = 0; step <= steps; ++step) {
         const double part = static_cast<double>(step) / std::max(steps, 1);
-        const int left = x + static_cast<int>(std::lround(width * part));
-        const int top = y + static_cast<int>(std::lround(height * part));
-        FillDeviceArea(canvas, Cut(canvas, {left, top, left + pen, top + pen}), colour);
+        const int left = from.X + static_cast<int>(std::lround(width * part));
+        const int top = from.Y + static_cast<int>(std::lround(height * part));
+        FillDeviceArea(canvas, {left, top, left + 1, top + 1}, colour);
     }
 }
 
@@ -141,8 +182,11 @@ Mask MaskOf(const QImage &painted)
 
 void BlendMask(const Canvas &canvas, const Mask &mask, Point place, Colour colour)
 {
-    const int x = DeviceEdge(canvas, place.X);
-    const int y = DeviceEdge(canvas, place.Y);
+    BlendMaskAtPixel(canvas, mask, DeviceX(canvas, place.X), DeviceY(canvas, place.Y), colour);
+}
+
+void BlendMaskAtPixel(const Canvas &canvas, const Mask &mask, int x, int y, Colour colour)
+{
     const DeviceArea area = Cut(canvas, {x, y, x + mask.Width, y + mask.Height});
     for (int line = area.Top; line < area.Bottom; ++line) {
         const std::uint8_t *covers =

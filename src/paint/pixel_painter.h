@@ -6,6 +6,7 @@
 
 #include "board/geometry.h"
 #include "grid/colour.h"
+#include "paint/device_axis.h"
 
 #include <QImage>
 #include <QPainter>
@@ -26,6 +27,8 @@ struct Canvas {
     int Width = 0; // logical
     int Height = 0;
     double Ratio = 1;
+    DeviceAxis Across; // where logical pixels lie among those of the device
+    DeviceAxis Down;
     QPainter *Paper = nullptr; // draws the strokes on paper besides, in logical pixels
 };
 
@@ -52,8 +55,16 @@ Canvas CanvasOf(QImage &picture);
 // lies beneath; masks go to it alone.
 Canvas PaperCanvas(QPainter &paper, QImage &beneath);
 
+// The same with the board on it, whose cells and lines take whole pixels of the device.
+Canvas BoardCanvasOf(QImage &picture);
+
+// Whether the canvas has more device pixels than logical ones, so that there is something to be
+// gained by looking at them; paper is none of these.
+bool HasFinerPixels(const Canvas &canvas);
+
 // Device pixel at which a logical pixel begins, not clipped.
-int DeviceEdge(const Canvas &canvas, int position);
+int DeviceX(const Canvas &canvas, int x);
+int DeviceY(const Canvas &canvas, int y);
 
 // Device pixels of a rectangle that lie in the picture.
 DeviceArea DevicePart(const Canvas &canvas, const Rectangle &rectangle);
@@ -61,13 +72,17 @@ DeviceArea DevicePart(const Canvas &canvas, const Rectangle &rectangle);
 // Fills the rectangle between two of its corners, both included, given in any order.
 void FillCorners(const Canvas &canvas, Point a, Point b, Colour colour);
 
-// Draws a line of one pixel. Only a slanted one has steps; none is smoothed.
+// Draws a line of one pixel. A slanted one has steps, and is smoothed where pixels are finer.
 void DrawLine(const Canvas &canvas, Point from, Point to, Colour colour);
 
 // Covers of a painted picture of format ARGB32_Premultiplied.
 Mask MaskOf(const QImage &painted);
 
-// Lays a colour through a mask whose top left corner is at a point.
+// Lays a colour through a mask whose top left corner is at a point, and the same at a device pixel.
 void BlendMask(const Canvas &canvas, const Mask &mask, Point place, Colour colour);
+void BlendMaskAtPixel(const Canvas &canvas, const Mask &mask, int x, int y, Colour colour);
+
+// Fills a part of the picture in device pixels.
+void FillDeviceArea(const Canvas &canvas, const DeviceArea &area, Colour colour);
 
 } // namespace kelvarine

@@ -12,12 +12,14 @@
 #include <cassert>
 #include <cmath>
 #include <string>
+#include <utility>
 
 namespace kelvarine {
 
 namespace {
 
 constexpr double PixelsPerPoint = 96.0 / 72.0;
+constexpr std::uint8_t HalfCovered = 128; // a pixel counts as ink
 
 Face FaceOf(const QRawFont &font)
 {
@@ -41,6 +43,26 @@ struct DigitSet {
 std::array<DigitSet, 8> digitSets;
 std::size_t oldestSet;
 
+// Middle of the smallest rectangle round all that is covered.
+std::pair<double, double> MiddleOfInk(const Mask &mask)
+{
+    int left = mask.Width;
+    int right = 0;
+    int top = mask.Height;
+    int bottom = 0;
+    for (int y = 0; y < mask.Height; ++y) {
+        for (int x = 0; x < mask.Width; ++x) {
+            if (mask.Coverage[static_cast<std::size_t>(y * mask.Width + x)] >= HalfCovered) {
+                left = std::min(left, x);
+                right = std::max(right, x + 1);
+                top = std::min(top, y);
+                bottom = std::max(bottom, y + 1);
+            }
+        }
+    }
+    return {(left + right) / 2.0, (top + bottom) / 2.0};
+}
+
 Digits PaintDigits(const Face &face, double ratio)
 {
     Digits digits;
@@ -55,7 +77,9 @@ Digits PaintDigits(const Face &face, double ratio)
         QPainter painter(&picture);
         WriteText(painter, face, {0, 0}, text, 0);
         painter.end();
-        digits[digit] = {MaskOf(picture), width, face.Height};
+        const Mask mask = MaskOf(picture);
+        const auto [x, y] = MiddleOfInk(mask);
+        digits[digit] = {mask, width, face.Height, x, y};
     }
     return digits;
 }

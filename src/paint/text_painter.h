@@ -37,6 +37,8 @@ struct DigitPicture {
     Mask Shape;
     int Width = 0; // its advance and the height of its line box, logical pixels
     int Height = 0;
+    double InkX = 0; // middle of its ink in the mask, device pixels
+    double InkY = 0;
 };
 
 // Picture of a digit 0..9 at a size, from a cache. Good until the next call.

@@ -104,8 +104,8 @@ void TextureRectangle(const Canvas &canvas, const Rectangle &rectangle, std::int
         return;
     }
     const QImage &tile = TileFor(texture, canvas.Ratio);
-    const int originX = DeviceEdge(canvas, rectangle.X);
-    const int originY = DeviceEdge(canvas, rectangle.Y);
+    const int originX = DeviceX(canvas, rectangle.X);
+    const int originY = DeviceY(canvas, rectangle.Y);
     for (int y = area.Top; y < area.Bottom; ++y) {
         const int tileLine = (y - originY) % tile.height();
         TextureLine(canvas.Pixels + y * canvas.Stride, area.Left, area.Right,

@@ -92,22 +92,42 @@ void KeepBeforeAsking()
     KeepConfiguration(untold);
 }
 
-bool EndProgram()
+bool AskBeforeTheEnd()
 {
     if (RunUnderWay != False) {
         CloseAfterRun();
         return false;
     }
     QuerySaveGame();
-    if (LastAnswer == AnsweredCancel) {
-        return false;
-    }
-    SetRecoveryTimer(false, RecoveryInterval);
-    RemoveRecovery();
-    StopSound();
+    return LastAnswer != AnsweredCancel;
+}
+
+void KeepSettings()
+{
     KeepMainPlace();
     // Before the other screens go, so that those open now count as open.
     WriteConfiguration();
+}
+
+void EndProgramUnasked()
+{
+    SetRecoveryTimer(false, RecoveryInterval);
+    StopSound();
+    KeepSettings();
+}
+
+void EndProgramAnswered()
+{
+    RemoveRecovery();
+    EndProgramUnasked();
+}
+
+bool EndProgram()
+{
+    if (!AskBeforeTheEnd()) {
+        return false;
+    }
+    EndProgramAnswered();
     return true;
 }
 

@@ -19,4 +19,15 @@ void KeepBeforeAsking();
 // and keeps the settings. False when the player would rather stay.
 bool EndProgram();
 
+// The two halves of it: the questions, false when the player would rather stay; and what is due
+// when they are answered, or have been before.
+bool AskBeforeTheEnd();
+void EndProgramAnswered();
+
+// The second half where nobody could be asked: what is kept for a crash stays for the next start.
+void EndProgramUnasked();
+
+// Writes the settings as they are, with the windows that are open, while the program goes on.
+void KeepSettings();
+
 } // namespace kelvarine

@@ -4,8 +4,10 @@
 
 #include <QApplication>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <iostream>
 #include <string>
 
 namespace {
@@ -22,10 +24,20 @@ std::string GivenFile(int argc, char **argv)
     return failure ? argv[1] : path.string();
 }
 
+// The program has no options, and what looks like one is not for the toolkit either.
+bool AsksForAnOption(int argc, char **argv)
+{
+    return std::any_of(argv + 1, argv + argc, [](const char *word) { return *word == '-'; });
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    if (AsksForAnOption(argc, argv)) {
+        std::cerr << "kelvarine: there are no options. Start it as: kelvarine [file]\n";
+        return 2;
+    }
     const QApplication application(argc, argv);
     QApplication::setApplicationName("kelvarine");
     // In these letters the version is looked for in the finished program.

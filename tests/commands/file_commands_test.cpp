@@ -7,6 +7,7 @@
 #include "game/undo.h"
 #include "grid/grid.h"
 #include "grid/history.h"
+#include "logic/driver.h"
 #include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
@@ -99,6 +100,38 @@ TEST_F(FileCommands, OpenAsksForTheGameInHandFirst)
     ForgetRecord();
     LastAnswer = 0;
     EXPECT_EQ(ProgramState(), before);
+}
+
+TEST_F(FileCommands, DroppedGameOpensAsANamedOneDoesAfterTheQuestion)
+{
+    SavedGame();
+    StartSavedGame(EasyGame);
+    GameModified = True;
+    const GridTable before = Grid;
+    Seen.SaveAnswers = {Answer::Cancel, Answer::No};
+    OpenDroppedGame(Folder.Path("saved.sdk"));
+    EXPECT_EQ(Acts(), (Texts{"pending events: ",
+                             "save question: Would you like to save this game first?"}));
+    EXPECT_EQ(Grid, before);
+    OpenDroppedGame(Folder.Path("saved.sdk"));
+    EXPECT_EQ(GameFilePath, Folder.Path("saved.sdk"));
+    EXPECT_EQ(Seen.WindowTitle, "Kelvarine (saved.sdk)");
+    EXPECT_EQ(GameModified, False);
+    EXPECT_NE(Grid, before);
+}
+
+TEST_F(FileCommands, GameDroppedDuringASearchOnlyAsks)
+{
+    SavedGame();
+    const GridTable before = Grid;
+    SearchActive = True;
+    SearchKind = 1;
+    ForgetRecord();
+    OpenDroppedGame(Folder.Path("saved.sdk"));
+    SearchActive = False;
+    SearchKind = 0;
+    EXPECT_EQ(Acts(), (Texts{"stop sound: ", "question: Would you like to stop searching?"}));
+    EXPECT_EQ(Grid, before);
 }
 
 TEST_F(FileCommands, CancelInTheDialogOpensNothing)

@@ -1,12 +1,13 @@
 #!/usr/bin/python3
 """A logout while a dialog or a box stands: the program asks whether to save before it agrees, a
-Cancel cancels the logout, and the box that goes with the program has decided nothing."""
+Cancel cancels the logout, and the box that goes with the program has decided nothing. The window
+goes only when it is told to: not at a checkpoint, and not when another program cancels the logout."""
 
 import subprocess
 import sys
 
-from desktop import Desktop, expect, wait_for
-from over_boxes import Story, contents, make_files, walk, walk_back
+from desktop import Desktop, Game, expect, wait_for
+from over_boxes import MIRRORED, Story, contents, make_files, walk, walk_back
 
 
 class Session:
@@ -23,12 +24,19 @@ class Session:
     def heard(self):
         return self.words.read_text().splitlines()
 
+    def want(self, words, until):
+        """Wants the program to save, and waits for a word that comes of it."""
+        known = self.heard().count(until)
+        self.manager.stdin.write(words.encode() + b"\n")
+        self.manager.stdin.flush()
+        self.wait(until, known)
+
+    def wait(self, word, known):
+        wait_for(lambda: self.heard().count(word) > known, f"the word {word} of the session")
+
     def log_out(self, _story=None):
         """Asks the program to save and go, until it wants to talk to the player."""
-        known = self.heard().count("asks")
-        self.manager.stdin.write(b"logout\n")
-        self.manager.stdin.flush()
-        wait_for(lambda: self.heard().count("asks") > known, "the program to ask the player")
+        self.want("logout", "asks")
 
 
 def over_the_closing_question(desktop, program, session):
@@ -48,6 +56,66 @@ def over_the_closing_question(desktop, program, session):
            "which then decides: Yes saves")
 
 
+def without_an_end(desktop, program, session, words):
+    """A checkpoint, or a logout that does not come about: asked and kept as at an end, and no end."""
+    story = Story(desktop, program, session.before)
+    story.modify()
+    story.game.menu("alt+s")
+    screen = story.box("^Statistics$")
+    files = contents(desktop)
+    desktop.settings_file.unlink()
+    session.want(words, "asks")
+    known = session.heard().count("saved")
+    desktop.answer("alt+n", other_than=story.known)
+    session.wait("saved", known)
+    expect(story.game.process.poll() is None, f"{words}: the window stays")
+    expect(desktop.settings_file.exists() and desktop.setting(7, 5) == -1,
+           "the settings are written, with the screen that is open")
+    expect(contents(desktop) == files, "the answer was No, and the game is not saved")
+    session.want(words, "asks")
+    known = session.heard().count("saved")
+    desktop.answer("alt+y", other_than=story.known)
+    session.wait("saved", known)
+    changed = [name for name, held in contents(desktop).items() if held != files[name]]
+    expect(changed == ["evening.sdk"] and story.game.process.poll() is None, "a Yes saves it")
+    (desktop.home / "evening.sdk").write_bytes(files["evening.sdk"])
+    desktop.focus(screen)
+    desktop.key("Escape")
+    desktop.gone(screen)
+    story.game.focus()
+    desktop.key("shift+m")
+    expect(story.game.end("alt+n") == 0, "a closing later on asks for itself")
+
+
+def quiet(desktop, program, session):
+    story = Story(desktop, program, session.before)
+    story.modify()
+    files = contents(desktop)
+    known = session.heard().count("asks")
+    session.want("quiet", "agrees")
+    wait_for(lambda: story.game.process.poll() is not None, "the program to end")
+    expect(story.game.process.returncode == 0 and contents(desktop) == files
+           and session.heard().count("asks") == known,
+           "where nobody may be asked nothing is, and no file is written over")
+    game = Game(desktop, program, behind_a_box=True)
+    desktop.answer("alt+y", other_than=[game.window])
+    game.focus()
+    expect(game.copy_line() == MIRRORED, "and the next start brings the game back")
+    expect(game.end(save_first="alt+n") == 0, "which a No ends for good")
+
+
+def agreed(desktop, program, session):
+    story = Story(desktop, program, session.before)
+    story.modify()
+    story.game.menu("alt+s")
+    story.box("^Statistics$")
+    session.log_out()
+    desktop.answer("alt+n", other_than=story.known)
+    wait_for(lambda: story.game.process.poll() is not None, "the program to end without more ado")
+    expect(story.game.process.returncode == 0 and desktop.setting(7, 5) == -1,
+           "a logout asks once, and the open screen comes back next time")
+
+
 def main():
     program, manager = sys.argv[1:]
     with Desktop() as desktop:
@@ -58,6 +126,12 @@ def main():
         walk_back(desktop, program, session.log_out, session.before)
         expect("refuses" in session.heard(), "a Cancel does")
         over_the_closing_question(desktop, program, session)
+        (desktop.home / "evening.sdk").unlink()
+        make_files(desktop, program)
+        for words in "checkpoint", "called off":
+            without_an_end(desktop, program, session, words)
+        quiet(desktop, program, session)
+        agreed(desktop, program, session)
     print("ended by logout: all as it should be")
 
 

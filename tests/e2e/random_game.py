@@ -68,10 +68,12 @@ def stops_a_search(desktop, program):
         game.focus()
         expect(banner_moves(game), "on No the search goes on")
         act()
-        answer(desktop, game, "alt+y")
         if way == "closing the window":
+            desktop.answer("alt+y", other_than=[game.window])
             desktop.answer("Escape", other_than=[game.window])  # which goes on: save first?
             game.focus()
+        else:
+            answer(desktop, game, "alt+y")
         line = game.copy_line()
         expect(line == "5" + "." * 79 + "9", f"stopped by {way}, the earlier game is back")
         expect(game.board().fill(1, 1) == GIVEN_FILL, "and on the board")

@@ -1,7 +1,12 @@
-// A session manager for one desktop of the tests. It prints the address for SESSION_MANAGER, and on
-// a line "logout" it asks its latest client to save and to go. What comes of that it prints, a
-// word a line: "asks" when the client wants to talk to the player, "refuses" when it cancels the
-// logout, "agrees" when it has saved and is told to go, "left" when it is gone.
+// A session manager for one desktop of the tests. It prints the address for SESSION_MANAGER and
+// asks its latest client to save, on a line
+//   "logout"      and to go when it has saved;
+//   "quiet"       the same, without asking the player anything;
+//   "checkpoint"  and no more;
+//   "called off"  for a logout that another program then cancels.
+// What comes of that it prints, a word a line: "asks" when the client wants to talk to the player,
+// "refuses" when it cancels the logout, "agrees" when it has saved and is told to go, "saved" when
+// it has saved and stays, "left" when it is gone.
 #include <X11/ICE/ICElib.h>
 #include <X11/SM/SMlib.h>
 #include <algorithm>
@@ -19,6 +24,7 @@ namespace {
 
 SmsConn client = nullptr;
 bool loggingOut = false;
+bool calledOff = false; // another program will cancel the logout in hand
 
 void Tell(std::string_view word)
 {
@@ -62,11 +68,15 @@ void LetItSaveMore(SmsConn connection, SmPointer /*data*/)
 
 void HearThatItIsSaved(SmsConn connection, SmPointer /*data*/, Bool /*well*/)
 {
-    if (loggingOut) {
+    if (calledOff) {
+        SmsShutdownCancelled(connection);
+        Tell("saved");
+    } else if (loggingOut) {
         Tell("agrees");
         SmsDie(connection);
     } else {
         SmsSaveComplete(connection);
+        Tell("saved");
     }
 }
 
@@ -184,12 +194,16 @@ bool Serve(IceConn line)
 bool Obey()
 {
     std::array<char, 64> words{};
-    if (::read(STDIN_FILENO, words.data(), words.size()) <= 0) {
+    const ssize_t length = ::read(STDIN_FILENO, words.data(), words.size());
+    if (length <= 0) {
         return false;
     }
+    const std::string_view line(words.data(), static_cast<std::size_t>(length) - 1);
     if (client != nullptr) {
-        loggingOut = true;
-        SmsSaveYourself(client, SmSaveBoth, True, SmInteractStyleAny, False);
+        loggingOut = line != "checkpoint";
+        calledOff = line == "called off";
+        const int style = line == "quiet" ? SmInteractStyleNone : SmInteractStyleAny;
+        SmsSaveYourself(client, SmSaveBoth, loggingOut ? True : False, style, False);
     }
     return true;
 }

@@ -11,7 +11,7 @@
 
 namespace kelvarine::testing {
 
-struct Outcome {
+struct RunOutcome {
     std::int32_t Result = 0;
     GridTable Words{};
     GridTable SafeCopy{};
@@ -25,13 +25,14 @@ struct Outcome {
     int Yields = 0;
     Flag Active = False;
 
-    friend bool operator==(const Outcome &, const Outcome &) = default;
+    friend bool operator==(const RunOutcome &, const RunOutcome &) = default;
 };
 
 // Runs a driver on a grid. After mostYields passes the run is stopped from outside, which bounds
 // it and compares that way of leaving as well.
 template <typename Driver>
-Outcome OutcomeOf(const Driver &driver, std::int32_t mode, const GridTable &start, int mostYields)
+RunOutcome OutcomeOf(const Driver &driver, std::int32_t mode, const GridTable &start,
+                     int mostYields)
 {
     Grid = start;
     HistoryCount = 0;
@@ -44,7 +45,7 @@ Outcome OutcomeOf(const Driver &driver, std::int32_t mode, const GridTable &star
             SearchActive = False;
         }
     };
-    Outcome outcome;
+    RunOutcome outcome;
     outcome.Result = driver(mode);
     outcome.Words = Grid;
     outcome.SafeCopy = History[SafeCopySlot];

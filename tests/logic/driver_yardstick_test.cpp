@@ -54,8 +54,8 @@ protected:
         // long.
         const bool isWalked = AnyTechniqueInUse();
         const int most = isWalked ? mostYields : std::numeric_limits<int>::max();
-        Outcome plain = OutcomeOf(plain::ApplyLogic, mode, start, most);
-        const Outcome fast = OutcomeOf(ApplyLogic, mode, start, most);
+        RunOutcome plain = OutcomeOf(plain::ApplyLogic, mode, start, most);
+        const RunOutcome fast = OutcomeOf(ApplyLogic, mode, start, most);
         plain.Yields = isWalked ? plain.Yields : fast.Yields;
         ASSERT_EQ(fast, plain) << "mode " << mode << ", mask " << std::hex << SolveMask << "\n"
                                << PencilmarksOf(start) << "plain " << plain.Result << ", "

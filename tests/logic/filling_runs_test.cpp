@@ -35,12 +35,12 @@ protected:
         const GridTable start = Grid;
         for (const std::int32_t mode : {SolveForPlayer, CountSolutions, ListSolutions25}) {
             SolveMask = mode == ListSolutions25 ? ListingMask : CountingMask;
-            Outcome walked = OutcomeOf(ApplyLogic, mode, start, MostYields);
+            RunOutcome walked = OutcomeOf(ApplyLogic, mode, start, MostYields);
             if (walked.Result == Stopped) {
                 continue;
             }
             ++Ended;
-            const Outcome filled = OutcomeOf(RunByFillings, mode, start, MostYields);
+            const RunOutcome filled = OutcomeOf(RunByFillings, mode, start, MostYields);
             walked.Used = filled.Used; // nothing, for no technique is used
             walked.Yields = filled.Yields;
             ASSERT_EQ(filled, walked) << what << ", " << mode;

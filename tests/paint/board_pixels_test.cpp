@@ -87,6 +87,39 @@ TEST_F(BoardPainting, PictureKeepsWhatFitsWhenItIsResized)
     EXPECT_EQ(PixelAt(BoardPicture(), 0, 0), corner);
 }
 
+// Lines in 3D of an odd thickness leave a pixel out, and what an earlier layout painted there would
+// be seen in it.
+TEST_F(BoardPainting, NothingOfAnEarlierLayoutIsSeen)
+{
+    constexpr int Windows[][2] = {{700, 760}, {640, 700}, {560, 640}};
+    const auto layOut = [](const int(&window)[2]) {
+        LayoutBoard(window[0], window[1], 0);
+        SetBoardPictureSize(BoardPlace.Width, BoardPlace.Height, 1);
+        DrawBoard();
+    };
+    PrimaryGrid3D = True;
+    SecondaryGrid3D = True;
+    for (const auto &[primary, secondary] : {std::pair(15, 5), std::pair(8, 11), std::pair(7, 3)}) {
+        for (const auto &window : Windows) {
+            PrimaryThickness = primary;
+            SecondaryThickness = secondary;
+            SetBoardPictureSize(1, 1, 1);
+            layOut(window);
+            const QImage fresh = BoardPicture().copy();
+            for (const auto &earlier : Windows) {
+                layOut(earlier);
+                layOut(window);
+                EXPECT_EQ(BoardPicture(), fresh) << primary << " at " << window[0];
+            }
+            SecondaryThickness = 0;
+            layOut(window);
+            SecondaryThickness = secondary;
+            layOut(window);
+            EXPECT_EQ(BoardPicture(), fresh) << "of another thickness";
+        }
+    }
+}
+
 TEST_F(BoardPainting, PaintingChangesNothingOfTheGame)
 {
     SetGame("53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79");

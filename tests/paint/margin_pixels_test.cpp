@@ -181,22 +181,27 @@ TEST_F(MarginTexts, LongRatingOnANarrowBoardDropsTheGivenCount)
     EXPECT_NEAR(one, TextWidth(BoardFace(points), "Multiple solutions"), 3);
 }
 
-TEST_F(MarginTexts, HiddenCoordinatesLeaveRatingAndCountInTheWindowsOwnPen)
+TEST_F(MarginTexts, HiddenCoordinatesLeaveRatingAndCountInTheirColourAndTheWindowsFont)
 {
     CoordinatesVisible = False;
     // The font may be any that the machine has; what it writes is the same here and there.
     for (const int pixels : {10, 20}) {
-        for (const Colour pen : {0xFF8000U, 0x000000U}) {
+        for (const Colour margin : {0x000000U, 0x204060U, 0xFFFFFFU}) {
+            ColourTable[MarginColour] = margin;
+            PickMarginTextColour();
+            const Colour ink = margin == 0xFFFFFF ? 0x000000 : 0xFFFFFF;
             QFont font;
             font.setPixelSize(pixels);
-            // In the colour of the margin no text is to be seen.
-            QImage expected = WindowPicture(Width, Height, Background, font);
-            EXPECT_EQ(TextIn(expected, AboveBoard()), Rectangle());
-            EXPECT_EQ(TextIn(expected, LeftOfBoard()), Rectangle());
-            EXPECT_EQ(TextIn(expected, BelowBoard()), Rectangle());
-            WriteRatingAndCount(expected, FaceOf(font), pen);
-            EXPECT_NE(TextIn(expected, BelowBoard()), Rectangle()) << "the machine has a font";
-            EXPECT_EQ(WindowPicture(Width, Height, pen, font), expected);
+            const QImage written = WindowPicture(Width, Height, 0x000000, font);
+            QImage expected(Width, Height, QImage::Format_RGB32);
+            expected.fill(QColor::fromRgb(margin));
+            const QImage blank = expected;
+            EXPECT_EQ(DifferenceOf(written, blank, AboveBoard()), Rectangle());
+            EXPECT_EQ(DifferenceOf(written, blank, LeftOfBoard()), Rectangle());
+            WriteRatingAndCount(expected, FaceOf(font), ink);
+            EXPECT_NE(DifferenceOf(expected, blank, BelowBoard()), Rectangle())
+                << "the machine has a font";
+            EXPECT_EQ(DifferenceOf(written, expected, BelowBoard()), Rectangle());
         }
     }
 }

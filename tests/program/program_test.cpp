@@ -101,6 +101,46 @@ TEST_F(WholeProgram, CancelInTheSaveQuestionKeepsTheProgramAndWritesNothing)
     EXPECT_EQ(Folders.ReadSetting("config.sdu"), "");
 }
 
+TEST_F(WholeProgram, QuestionBeforeTheEndEndsNothing)
+{
+    StartProgram("");
+    GameModified = True;
+    ForgetRecord();
+    Seen.SaveAnswers = {Answer::No, Answer::Cancel};
+    EXPECT_TRUE(AskBeforeTheEnd());
+    EXPECT_FALSE(AskBeforeTheEnd());
+    EXPECT_EQ(Seen.Questions.size(), 2U);
+    EXPECT_EQ(Folders.ReadSetting("config.sdu"), "");
+    KeepSettings();
+    EXPECT_NE(Folders.ReadSetting("config.sdu"), "");
+}
+
+TEST_F(WholeProgram, EndWithoutAQuestionKeepsTheSettingsAndTheGameForTheNextStart)
+{
+    StartProgram("");
+    StartSavedGame(EasyGame);
+    PushUndoState();
+    ForgetRecord();
+    KeepBeforeAsking();
+    EndProgramUnasked();
+    EXPECT_TRUE(Seen.Questions.empty());
+    EXPECT_EQ(GameModified, True);
+    EXPECT_FALSE(Seen.RecoveryTimerOn);
+    EXPECT_NE(Folders.ReadSetting("config.sdu"), "");
+    EXPECT_TRUE(FileExists(DataFolder() + "recovery-1.sdk"));
+}
+
+TEST_F(WholeProgram, EndOfAnAnsweredSessionTakesWhatIsKeptAway)
+{
+    StartProgram("");
+    StartSavedGame(EasyGame);
+    PushUndoState();
+    KeepBeforeAsking();
+    EndProgramAnswered();
+    EXPECT_FALSE(FileExists(DataFolder() + "recovery-1.sdk"));
+    EXPECT_FALSE(Seen.RecoveryTimerOn);
+}
+
 TEST_F(WholeProgram, EndDuringASearchStopsItAndClosesThen)
 {
     StartProgram("");

@@ -6,7 +6,10 @@
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Screens of other kinds come as words behind it.
+    if (!qgetenv("QT_QPA_PLATFORM").startsWith("offscreen:")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     ::testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelvarine"));

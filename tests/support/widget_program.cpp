@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QtTest>
 #include <gtest/gtest.h>
 
 namespace kelvarine::testing {
@@ -39,6 +40,9 @@ Program::Program()
     GameModified = False;
     Main->resize(760, 830);
     Main->show();
+    // There is no keyboard to ask: the toolkit takes the modifiers of the latest key for those
+    // held.
+    QTest::keyEvent(QTest::Release, Main->windowHandle(), Qt::Key_F35);
     QCoreApplication::processEvents();
 }
 

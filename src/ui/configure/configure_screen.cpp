@@ -34,7 +34,6 @@ namespace {
 constexpr QSize PanelDesign{450, 475};
 constexpr int LowestContainer = 140;
 constexpr int SmallestWidth = 458;
-constexpr int StripHeight = TabBaseline + 1;
 
 struct TabRow {
     std::string_view Text;
@@ -92,7 +91,7 @@ ConfigureScreen *OpenConfigureScreen()
 }
 
 ConfigureScreen::ConfigureScreen(QWidget *parent)
-    : QWidget(parent, Qt::Window), strip(new TabStrip(this, TabTexts(),
+    : QWidget(parent, Qt::Dialog), strip(new TabStrip(this, TabTexts(),
                                                       [this](std::int32_t tab) {
                                                           CurrentTab = tab;
                                                           ShowTab();
@@ -121,8 +120,9 @@ ConfigureScreen::ConfigureScreen(QWidget *parent)
         panels[tab]->hide();
         size = size.expandedTo(panels[tab]->minimumSizeHint());
     }
-    setMinimumSize(std::max(SmallestWidth, size.width()), StripHeight + LowestContainer);
-    resize(minimumWidth(), StripHeight + size.height());
+    setMinimumSize(std::max({SmallestWidth, size.width(), strip->WidthForTexts()}),
+                   strip->Height() + LowestContainer);
+    resize(minimumWidth(), strip->Height() + size.height());
     AddAccessKeys();
     qApp->installEventFilter(this);
     openScreen = this;
@@ -190,13 +190,14 @@ void ConfigureScreen::ArrangePanels()
     QWidget *panel = CurrentPanel();
     const QSize needed =
         panel != nullptr ? PanelDesign.expandedTo(panel->minimumSizeHint()) : PanelDesign;
-    const int room = std::max(LowestContainer, height() - StripHeight);
+    const int stripHeight = strip->Height();
+    const int room = std::max(LowestContainer, height() - stripHeight);
     const bool fits = room >= needed.height();
     const int barWidth = fits ? 0 : scrollBar->sizeHint().width();
 
-    strip->setGeometry(0, 0, width(), StripHeight);
-    container->setGeometry(0, StripHeight, width() - barWidth, room);
-    scrollBar->setGeometry(width() - barWidth, StripHeight, barWidth, room);
+    strip->setGeometry(0, 0, width(), stripHeight);
+    container->setGeometry(0, stripHeight, width() - barWidth, room);
+    scrollBar->setGeometry(width() - barWidth, stripHeight, barWidth, room);
     scrollBar->setVisible(!fits);
     if (panel != nullptr) {
         panel->resize(std::max(needed.width() - barWidth, container->width()),

@@ -22,8 +22,6 @@ namespace kelvarine {
 
 namespace {
 
-constexpr QSize PanelSize{450, 475};
-
 // ---- Showing the settings --------------------------------------------------------------------
 
 void ShowMode(const PrintControls &on)
@@ -82,7 +80,6 @@ PrintPanel::PrintPanel(QWidget *parent)
     : QWidget(parent), on(MakePrintControls(this, [this] { Refresh(); }))
 {
     setObjectName("picTabPrint");
-    setFixedSize(PanelSize);
     Refresh();
 }
 

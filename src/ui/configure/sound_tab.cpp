@@ -3,13 +3,12 @@
 #include "configure/sound_settings.h"
 #include "paint/text.h"
 #include "ui/controls/configure_controls.h"
+#include "ui/outside/sound_device.h"
 
-#include <QAudioDevice>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QMediaDevices>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -113,7 +112,7 @@ QWidget *MakeSoundTab(QWidget *parent)
                                  SoundDisabled != False,
                                  [](bool on) { SoundDisabled = FlagOf(on); }));
     rows->addStretch();
-    ShowVolumes(*panel, !QMediaDevices::defaultAudioOutput().isNull());
+    ShowVolumes(*panel, !SoundDevice().isNull());
     return panel;
 }
 

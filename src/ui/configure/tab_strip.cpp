@@ -14,8 +14,10 @@ namespace kelvarine {
 
 namespace {
 
-constexpr int EdgeRoom = 2; // kept free at the right end of the window
-constexpr int Corner = 3;   // cut off at the upper corners of a tab
+constexpr int EdgeRoom = 2;  // kept free at the right end of the window
+constexpr int Corner = 3;    // cut off at the upper corners of a tab
+constexpr int LineRoom = 3;  // above and below a text
+constexpr int TextRoom = 12; // on both sides of it
 
 // The tab that an arrow key leads to, round the strip.
 int NeighbourOf(int tab, int key)
@@ -84,12 +86,32 @@ QRect TabStrip::PlaceOfTab(int tab) const
     const int tabWidth = TabWidthFor(width());
     const bool front = IsInFront(tab, CurrentTab);
     const int left = TabLeft(tab, CurrentTab, tabWidth);
-    const int top = front ? FrontRowTop : RearRowTop;
+    const int frontTop = RearRowTop + RowHeight();
     // Four quarters of a wide window and the strip's own edges are more than the window: the last
     // tab of a row ends with it.
     const int last = width() - EdgeRoom - (front ? RearRowShift : 0);
     const int right = std::min(left + tabWidth - 2, last);
-    return {QPoint(left, top), QPoint(right, front ? TabBaseline : FrontRowTop - 1)};
+    return front ? QRect(QPoint(left, frontTop), QPoint(right, Height() - 1))
+                 : QRect(QPoint(left, RearRowTop), QPoint(right, frontTop - 1));
+}
+
+int TabStrip::Height() const
+{
+    return RearRowTop + 2 * RowHeight() + (TabBaseline + 1 - TabRowsEnd);
+}
+
+int TabStrip::WidthForTexts() const
+{
+    int widest = 0;
+    for (const QString &text : tabTexts) {
+        widest = std::max(widest, fontMetrics().horizontalAdvance(text));
+    }
+    return TabsInRow * (widest + TextRoom) + FirstTabLeft + RearRowShift + EdgeRoom;
+}
+
+int TabStrip::RowHeight() const
+{
+    return std::max(FrontRowTop - RearRowTop, fontMetrics().height() + LineRoom);
 }
 
 void TabStrip::Choose(int tab)
@@ -109,7 +131,7 @@ void TabStrip::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     const QPalette colours = palette();
     painter.setPen(EdgeColour(colours));
-    painter.drawLine(0, TabBaseline, width(), TabBaseline);
+    painter.drawLine(0, Height() - 1, width(), Height() - 1);
     // The rear row comes first, so that the front one covers its lower edge.
     for (const bool front : {false, true}) {
         for (int tab = 0; tab < TabCount; ++tab) {
@@ -137,7 +159,10 @@ void TabStrip::paintEvent(QPaintEvent * /*event*/)
 void TabStrip::mousePressEvent(QMouseEvent *event)
 {
     const QPointF place = event->position();
-    if (const auto tab = TabAt(place.x(), place.y(), CurrentTab, TabWidthFor(width()))) {
+    // The rule knows rows of the usual height.
+    const double usual = FrontRowTop - RearRowTop;
+    const double y = RearRowTop + (place.y() - RearRowTop) * usual / RowHeight();
+    if (const auto tab = TabAt(place.x(), y, CurrentTab, TabWidthFor(width()))) {
         Choose(*tab);
     }
 }

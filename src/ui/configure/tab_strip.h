@@ -21,6 +21,12 @@ public:
 
     [[nodiscard]] const QString &TextOfTab(int tab) const;
     [[nodiscard]] QRect PlaceOfTab(int tab) const; // where it is painted
+
+    // Pixels that the strip takes: both rows are high enough for the font.
+    [[nodiscard]] int Height() const;
+
+    // Width of a window in which every tab has room for its text.
+    [[nodiscard]] int WidthForTexts() const;
     void Choose(int tab);
 
     // The current tab is another one.
@@ -32,6 +38,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    [[nodiscard]] int RowHeight() const;
+
     std::array<QString, TabCount> tabTexts;
     std::function<void(std::int32_t)> chooseTab;
 };

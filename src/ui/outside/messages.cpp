@@ -4,9 +4,9 @@
 #include "paint/text.h"
 #include "ui/window/board_widget.h"
 #include "ui/window/box_place.h"
+#include "ui/window/front.h"
 #include "ui/window/main_window.h"
 
-#include <QApplication>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QScreen>
@@ -54,15 +54,14 @@ QMessageBox::StandardButton RunBox(QMessageBox::Icon icon, const QString &text,
                                    std::string_view title, QMessageBox::StandardButtons buttons,
                                    QMessageBox::StandardButton defaultButton)
 {
-    QWidget *above = QApplication::activeModalWidget();
-    QMessageBox box(icon, BoxText(title.empty() ? ProgramName : title), text, buttons,
-                    above != nullptr ? above : Window());
+    QWidget *asker = AskingWindow();
+    QMessageBox box(icon, BoxText(title.empty() ? ProgramName : title), text, buttons, asker);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(defaultButton);
-    if (above == nullptr) {
+    if (asker == Window()) {
         MoveBesideBoard(box);
     }
-    return static_cast<QMessageBox::StandardButton>(box.exec());
+    return static_cast<QMessageBox::StandardButton>(RunDialog(box));
 }
 
 } // namespace
@@ -95,7 +94,10 @@ Answer AskYesNoCancel(std::string_view text)
 
 std::string AskText(std::string_view prompt)
 {
-    return QInputDialog::getText(Window(), BoxText(ProgramName), BoxText(prompt)).toStdString();
+    QInputDialog box(AskingWindow());
+    box.setWindowTitle(BoxText(ProgramName));
+    box.setLabelText(BoxText(prompt));
+    return RunDialog(box) == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }
 
 } // namespace kelvarine

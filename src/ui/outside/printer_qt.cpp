@@ -7,9 +7,10 @@
 #include "paint/print_painter.h"
 #include "paint/text.h"
 #include "paint/text_painter.h"
+#include "ui/window/front.h"
 
-#include <QApplication>
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QFile>
 #include <QPdfWriter>
 #include <QPrintDialog>
@@ -156,9 +157,9 @@ PrinterPage CurrentPrinterPage()
 bool ChoosePrinter()
 {
     const QString name = ChosenPrinter().printerName();
-    QPrintDialog dialog(&ChosenPrinter(), QApplication::activeWindow());
+    QPrintDialog dialog(&ChosenPrinter(), AskingWindow());
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-    if (dialog.exec() != QDialog::Accepted) {
+    if (RunDialog(dialog) != QDialog::Accepted) {
         return false;
     }
     if (ChosenPrinter().printerName() != name && !WritesPdf()) {

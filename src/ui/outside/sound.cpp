@@ -6,8 +6,8 @@
 #include "files/sound_files.h"
 #include "files/wave_file.h"
 #include "outside/whole_file.h"
+#include "ui/outside/sound_device.h"
 
-#include <QAudioDevice>
 #include <QAudioFormat>
 #include <QAudioSink>
 #include <QCoreApplication>
@@ -101,6 +101,11 @@ QAudioFormat FormatOf(const WaveSound &sound)
     return format;
 }
 
+// Where there is no sound the toolkit says so on standard error, which is no news for a player.
+void SayNothing(QtMsgType /*kind*/, const QMessageLogContext & /*place*/, const QString & /*words*/)
+{
+}
+
 bool ReadSound(std::string_view file, WaveSound &sound)
 {
     std::string bytes;
@@ -126,6 +131,14 @@ void CloseAtTheEnd(QAudioSink *sink)
 
 } // namespace
 
+QAudioDevice SoundDevice()
+{
+    const QtMessageHandler usual = qInstallMessageHandler(SayNothing);
+    QAudioDevice device = QMediaDevices::defaultAudioOutput();
+    qInstallMessageHandler(usual);
+    return device;
+}
+
 void SetSoundVolume(std::uint32_t volume)
 {
     // The toolkit has one volume for both channels.
@@ -141,7 +154,7 @@ void PlaySound(std::string_view file, bool loop)
     if (!ReadSound(file, sound)) {
         return;
     }
-    const QAudioDevice device = QMediaDevices::defaultAudioOutput();
+    const QAudioDevice device = SoundDevice();
     if (device.isNull()) {
         return;
     }

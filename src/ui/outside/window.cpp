@@ -7,6 +7,7 @@
 #include "ui/configure/print_tab.h"
 #include "ui/window/board_accessible.h"
 #include "ui/window/board_widget.h"
+#include "ui/window/front.h"
 #include "ui/window/main_window.h"
 #include "ui/window/toolbar_widget.h"
 
@@ -19,12 +20,12 @@ void ShowMainWindow()
 
 void ActivateMainWindow()
 {
-    Window()->activateWindow();
+    ActivateMainWindowLast();
 }
 
 void CloseMainWindow()
 {
-    Window()->close();
+    Window()->CloseUnlessAsking();
 }
 
 void KeepMainPlace()

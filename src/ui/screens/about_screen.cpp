@@ -2,7 +2,7 @@
 #include "outside/messages.h"
 #include "outside/screens.h"
 #include "paint/text.h"
-#include "ui/window/main_window.h"
+#include "ui/window/front.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -66,7 +66,7 @@ QPlainTextEdit *LicenceBox(QWidget *parent)
 
 void ShowAboutScreen()
 {
-    QDialog screen(Window());
+    QDialog screen(AskingWindow());
     screen.setObjectName("frmAbout");
     screen.setWindowTitle(QCoreApplication::translate("About", "About Kelvarine"));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, &screen);
@@ -79,7 +79,7 @@ void ShowAboutScreen()
     layout->addWidget(LicenceBox(&screen));
     layout->addWidget(buttons);
     ok->setFocus();
-    screen.exec();
+    RunDialog(screen);
 }
 
 } // namespace kelvarine

@@ -6,8 +6,8 @@
 #include "outside/help.h"
 #include "paint/text.h"
 #include "ui/screens/file_names.h"
+#include "ui/window/front.h"
 #include "ui/window/help_key.h"
-#include "ui/window/main_window.h"
 #include "ui/window/placing.h"
 
 #include <QComboBox>
@@ -271,8 +271,8 @@ void FileDialog::done(int result)
 
 bool RunFileDialog(std::size_t fileType)
 {
-    FileDialog dialog(Window(), fileType);
-    return dialog.exec() == QDialog::Accepted;
+    FileDialog dialog(AskingWindow(), fileType);
+    return RunDialog(dialog) == QDialog::Accepted;
 }
 
 } // namespace kelvarine

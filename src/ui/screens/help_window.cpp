@@ -5,6 +5,8 @@
 #include "outside/messages.h"
 #include "paint/text.h"
 #include "ui/screens/help_page.h"
+#include "ui/window/front.h"
+#include "ui/window/placing.h"
 
 #include <QAction>
 #include <QApplication>
@@ -17,6 +19,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
@@ -296,9 +299,23 @@ void HelpWindow::StandBesideModalWindow()
     }
 }
 
+// The help opens on the screen of the window that asks for it, wherever it stood before.
+void HelpWindow::MoveToScreenOf(const QWidget &asker)
+{
+    if (screen() != asker.screen() || !testAttribute(Qt::WA_Moved)) {
+        const QRect room = asker.screen()->availableGeometry();
+        const QRect middle(room.center() - QRect({}, size()).center(), size());
+        move(KeptOnScreen(middle, room));
+    }
+}
+
 void HelpWindow::ShowTopic(int context)
 {
+    const QWidget *asker = AskingWindow(); // none where the help stands alone
     StandBesideModalWindow();
+    if (!isVisible() && asker != nullptr) {
+        MoveToScreenOf(*asker);
+    }
     Browser->setSource(PageOfContext(*help->Engine, context));
     Browser->setFocus();
     show();

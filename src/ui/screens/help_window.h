@@ -66,6 +66,7 @@ private:
     void Search();
     void ShowSearchResults();
     void StandBesideModalWindow();
+    void MoveToScreenOf(const QWidget &asker);
 
     std::unique_ptr<HelpCollection> help;
     QHelpSearchEngine searcher;

@@ -5,6 +5,7 @@
 #include "ui/window/main_window.h"
 #include "ui/window/placing.h"
 
+#include <QBoxLayout>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -67,20 +68,32 @@ void MakeBold(QLabel &label)
 
 } // namespace
 
-StatisticsScreen::StatisticsScreen(QWidget *parent) : QDialog(parent)
+StatisticsScreen::StatisticsScreen(QWidget *parent)
+    : QDialog(parent), tables(new QBoxLayout(QBoxLayout::LeftToRight))
 {
     setObjectName("frmStatistics");
     setWindowTitle("Statistics");
-    auto *layout = new QGridLayout(this);
-    layout->addWidget(BuildTable(SessionTable), 0, 0);
-    layout->addWidget(BuildTable(AllSessionsTable), 0, 1);
     auto *clear = new QPushButton("&Clear", this);
     clear->setObjectName("cmdClearStats");
     clear->setAccessibleName("Clear statistics");
     clear->setAutoDefault(false); // Enter alone must not come near it
     connect(clear, &QPushButton::clicked, this, cmdClearStats);
-    layout->addWidget(clear, 1, 1, Qt::AlignRight);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    auto *column = new QVBoxLayout(this);
+    tables->addWidget(BuildTable(SessionTable));
+    tables->addWidget(BuildTable(AllSessionsTable));
+    column->addLayout(tables);
+    column->addWidget(clear, 0, Qt::AlignRight);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void StatisticsScreen::FitBesideBoard()
+{
+    tables->setDirection(QBoxLayout::LeftToRight);
+    adjustSize();
+    if (!HasRoomBeside(*this)) {
+        tables->setDirection(QBoxLayout::TopToBottom);
+        adjustSize();
+    }
 }
 
 QWidget *StatisticsScreen::BuildTable(std::size_t table)
@@ -165,7 +178,7 @@ void ShowStatisticsScreen()
     }
     statisticsScreen->Refresh();
     if (!statisticsScreen->isVisible()) {
-        statisticsScreen->adjustSize();
+        statisticsScreen->FitBesideBoard();
         OpenAt(*statisticsScreen, {StatisticsPlace.Left, StatisticsPlace.Top, 0, 0});
     }
     BringToFront(*statisticsScreen);

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+class QBoxLayout;
 class QGridLayout;
 class QLabel;
 
@@ -19,6 +20,10 @@ public:
     // Takes the texts of the tables over.
     void Refresh();
 
+    // Puts the tables beside each other, or one below the other where that alone leaves the board
+    // in view.
+    void FitBesideBoard();
+
     void reject() override;
 
 protected:
@@ -30,6 +35,7 @@ private:
     void AddHeadings(QGridLayout &grid);
     void AddRow(QGridLayout &grid, std::size_t table, std::size_t row);
 
+    QBoxLayout *tables;
     std::array<std::array<std::array<QLabel *, 6>, 6>, 2> labels{};
 };
 

@@ -1,12 +1,18 @@
 #include "ui/window/board_widget.h"
 
+#include "board/geometry.h"
 #include "game/search.h"
 #include "input/keys.h"
 #include "input/mouse.h"
+#include "input/toolbar.h"
+#include "outside/events.h"
+#include "outside/window.h"
 #include "paint/board_painter.h"
+#include "paint/device_axis.h"
 #include "ui/window/board_accessible.h"
 #include "ui/window/key_decoder.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -42,13 +48,30 @@ BoardWidget::BoardWidget(QWidget *parent) : QWidget(parent)
 void BoardWidget::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
+    if (BoardPicture().devicePixelRatio() != devicePixelRatioF()) {
+        // The window has come to a screen of another ratio. What is there stands in until then.
+        CallFromEventLoop(ResizeWindow);
+    }
+    // Where the board begins within a pixel of the screen it begins with the nearest one.
+    const QTransform onScreen = painter.deviceTransform();
+    const QPointF corner(onScreen.dx(), onScreen.dy());
+    painter.translate((corner.toPoint() - corner) / devicePixelRatioF());
     painter.drawImage(0, 0, BoardPicture());
+}
+
+QPoint BoardWidget::PixelAt(const QPointF &position) const
+{
+    const double ratio = devicePixelRatioF();
+    const QPointF corner = QPointF(mapTo(window(), QPoint(0, 0))) * ratio;
+    const QPointF inPicture = position * ratio + corner - corner.toPoint();
+    return {PixelOn(BoardAxis(ratio, CellWidth), inPicture.x()),
+            PixelOn(BoardAxis(ratio, CellHeight), inPicture.y())};
 }
 
 void BoardWidget::mousePressEvent(QMouseEvent *event)
 {
     const std::int32_t button = event->button() == Qt::RightButton ? RightButton : LeftButton;
-    const QPoint place = event->position().toPoint();
+    const QPoint place = PixelAt(event->position());
     BoardPressed(button, ModifiersOf(event->modifiers()), place.x(), place.y());
 }
 
@@ -66,7 +89,7 @@ void BoardWidget::mouseMoveEvent(QMouseEvent *event)
 {
     // Only the left button alone drags.
     const std::int32_t button = event->buttons() == Qt::LeftButton ? LeftButton : NoButton;
-    const QPoint place = event->position().toPoint();
+    const QPoint place = PixelAt(event->position());
     BoardMoved(button, ModifiersOf(event->modifiers()), place.x(), place.y());
 }
 
@@ -80,7 +103,7 @@ bool BoardWidget::event(QEvent *event)
     return QWidget::event(event);
 }
 
-void BoardWidget::keyPressEvent(QKeyEvent *event)
+void BoardWidget::TakeKeyPress(QKeyEvent *event)
 {
     if (IsDesktopKey(event->key())) {
         event->ignore();
@@ -93,20 +116,57 @@ void BoardWidget::keyPressEvent(QKeyEvent *event)
     KeyDown(code, ModifiersOf(event->modifiers()));
 }
 
-void BoardWidget::keyReleaseEvent(QKeyEvent *event)
+void BoardWidget::TakeKeyRelease(const QKeyEvent &event)
 {
-    const std::int32_t code = KeyCodeOf(*event);
+    const std::int32_t code = KeyCodeOf(event);
     // Another key that comes up leaves the modifier down.
     modifierHeld = modifierHeld && !IsSignKey(code);
     KeyUp(code);
 }
 
+void BoardWidget::TakeModifiers()
+{
+    const std::int32_t held = ModifiersOf(QGuiApplication::queryKeyboardModifiers());
+    if ((held & (ShiftKey | CtrlKey)) == 0) {
+        LetModifiersGo();
+        return;
+    }
+    modifierHeld = true;
+    if ((held & CtrlKey) != 0) {
+        ShowSignOfCtrl();
+    } else {
+        ShowSignOfShift();
+    }
+}
+
+void BoardWidget::LetModifiersGo()
+{
+    // A sign that the player has set by the button is his own.
+    if (std::exchange(modifierHeld, false)) {
+        ShowPlainSign();
+    }
+}
+
+void BoardWidget::keyPressEvent(QKeyEvent *event)
+{
+    TakeKeyPress(event);
+}
+
+void BoardWidget::keyReleaseEvent(QKeyEvent *event)
+{
+    TakeKeyRelease(*event);
+}
+
+void BoardWidget::focusInEvent(QFocusEvent *event)
+{
+    QWidget::focusInEvent(event);
+    TakeModifiers();
+}
+
 void BoardWidget::focusOutEvent(QFocusEvent *event)
 {
-    // A modifier that opens a dialog is let go there.
-    if (std::exchange(modifierHeld, false)) {
-        KeyUp(ShiftCode);
-    }
+    // Where the focus goes nobody sees them come up.
+    LetModifiersGo();
     QWidget::focusOutEvent(event);
 }
 

@@ -11,6 +11,16 @@ class BoardWidget : public QWidget {
 public:
     explicit BoardWidget(QWidget *parent);
 
+    // A key goes down or comes up, here or where nobody else in the window wants it.
+    void TakeKeyPress(QKeyEvent *event);
+    void TakeKeyRelease(const QKeyEvent &event);
+
+    // The toolbar shows the sign of the modifiers that are down at this moment.
+    void TakeModifiers();
+
+    // It shows no sign of a modifier any more: none is watched from now on.
+    void LetModifiersGo();
+
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -19,9 +29,13 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    // The pixel of the board that is painted at a place of the widget.
+    [[nodiscard]] QPoint PixelAt(const QPointF &position) const;
+
     bool modifierHeld = false; // Shift or Ctrl went down and has not come up yet
 };
 

@@ -97,6 +97,14 @@ std::int32_t ModifiersOf(Qt::KeyboardModifiers modifiers)
     return sum;
 }
 
+bool IsModifierOrTab(int key)
+{
+    constexpr std::array keys{Qt::Key_Shift,   Qt::Key_Control, Qt::Key_Alt,
+                              Qt::Key_AltGr,   Qt::Key_Meta,    Qt::Key_Super_L,
+                              Qt::Key_Super_R, Qt::Key_Tab,     Qt::Key_Backtab};
+    return std::ranges::find(keys, key) != keys.end();
+}
+
 bool IsDesktopKey(int key)
 {
     constexpr std::array keys{Qt::Key_Alt,     Qt::Key_AltGr,   Qt::Key_Meta,

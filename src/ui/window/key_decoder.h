@@ -21,6 +21,9 @@ std::int32_t KeyCodeOf(const QKeyEvent &event);
 // Modifier sum of an event: 1 Shift, 2 Ctrl, 4 Alt.
 std::int32_t ModifiersOf(Qt::KeyboardModifiers modifiers);
 
+// Keys that only accompany others or take the focus elsewhere: they press no button.
+bool IsModifierOrTab(int key);
+
 // Modifiers that serve the menus and the window manager mean nothing by themselves: the question
 // of a search must not get in the way of closing the window by Alt and F4.
 bool IsDesktopKey(int key);

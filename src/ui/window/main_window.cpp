@@ -2,26 +2,32 @@
 
 #include "board/geometry.h"
 #include "board/look.h"
+#include "commands/file_commands.h"
 #include "game/clock.h"
 #include "game/screens.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
-#include "input/keys.h"
 #include "input/mouse.h"
 #include "input/toolbar.h"
 #include "outside/board.h"
+#include "outside/events.h"
 #include "paint/board_painter.h"
 #include "paint/margin_painter.h"
 #include "program/program.h"
 #include "ui/window/board_widget.h"
 #include "ui/window/key_decoder.h"
+#include "ui/window/menu_bar.h"
 #include "ui/window/menus.h"
 #include "ui/window/placing.h"
+#include "ui/window/session.h"
 #include "ui/window/toolbar_widget.h"
 
 #include <QCloseEvent>
+#include <QDropEvent>
+#include <QFile>
+#include <QGuiApplication>
 #include <QKeyEvent>
-#include <QMenuBar>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -36,6 +42,16 @@ constexpr QSize StartSize{760, 830};
 constexpr QSize SmallestSize{160, 160};
 
 MainWindow *mainWindow = nullptr;
+
+// Full path of the one file that is dragged; empty for anything else.
+std::string DroppedFile(const QMimeData &dragged)
+{
+    const QList<QUrl> urls = dragged.urls();
+    if (urls.size() != 1 || !urls.front().isLocalFile()) {
+        return {};
+    }
+    return QFile::encodeName(urls.front().toLocalFile()).toStdString();
+}
 
 } // namespace
 
@@ -86,13 +102,18 @@ void ClientArea::mousePressEvent(QMouseEvent *event)
 
 // ---- Main window ---------------------------------------------------------------------------
 
-MainWindow::MainWindow() : Client(new ClientArea(this)), timeBar(new QMenuBar(this))
+MainWindow::MainWindow() : Client(new ClientArea(this))
 {
     mainWindow = this;
+    // The texts are English, whichever way the desktop writes.
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    setAcceptDrops(true);
     connect(&tmrSolveTime, &QTimer::timeout, this, ClockTick);
     connect(&tmrGameWon, &QTimer::timeout, this, WinDisplayTick);
     setCentralWidget(Client);
-    BuildMenus();
+    auto *bar = new MenuBar(this);
+    setMenuBar(bar);
+    BuildMenus(bar);
     setMinimumSize(SmallestSize);
     resize(StartSize);
     Client->Board->setFocus();
@@ -104,19 +125,9 @@ MainWindow::~MainWindow()
     mainWindow = nullptr;
 }
 
-void MainWindow::BuildMenus()
-{
-    timeBar->setNativeMenuBar(false);
-    kelvarine::BuildMenus(menuBar(), timeBar);
-    menuBar()->setCornerWidget(timeBar, Qt::TopRightCorner);
-}
-
 void MainWindow::UpdateMenuCaptions()
 {
-    UpdateMenus(timeBar);
-    // The corner keeps the size that it had when it was set, so a longer caption needs this.
-    menuBar()->setCornerWidget(timeBar, Qt::TopRightCorner);
-    timeBar->show();
+    UpdateMenus(menuBar());
 }
 
 bool MainWindow::CloseUnlessAsking()
@@ -128,11 +139,22 @@ bool MainWindow::CloseUnlessAsking()
     return !isVisible();
 }
 
+bool MainWindow::AskAsClosingDoes()
+{
+    const QScopedValueRollback nowAsking(asking, true);
+    return AskBeforeTheEnd();
+}
+
+bool MainWindow::IsClosing() const
+{
+    return asking;
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     const QScopedValueRollback nowAsking(asking, true);
     event->ignore();
-    if (EndProgram()) {
+    if (EndAsAgreed() || EndProgram()) {
         event->accept();
     }
 }
@@ -144,14 +166,36 @@ void MainWindow::ShowAtItsPlace()
         const WindowPlace place =
             MainMaximised != False ? MainPlace
                                    : ReachablePlace(MainPlace, screens.width(), screens.height());
-        resize(QSize(place.Width, place.Height).boundedTo(screens));
+        resize(place.Width, place.Height);
         move(place.Left, place.Top);
+    } else {
+        const QRect room = screen()->availableGeometry();
+        move(FirstPlace(SizeWithin(size(), room.size()), room));
     }
     if (MainMaximised != False) {
         showMaximized();
     } else {
         show();
     }
+}
+
+QSize MainWindow::SizeWithin(const QSize &wanted, const QSize &room) const
+{
+    // The board's cells shrink alike in both directions; what stands round them keeps its size.
+    const int edges = LinesAcross() + 2 * (MarginThickness + BorderThickness);
+    const int above =
+        menuBar()->sizeHint().height() + (ToolbarVisible != False ? ToolbarHeight : 0);
+    const QSize around(edges, edges + above);
+    const QSize cells = wanted - around;
+    const QSize roomForCells = room - around;
+    if (cells.isEmpty() || roomForCells.isEmpty()) {
+        return wanted.boundedTo(room);
+    }
+    const double across = static_cast<double>(roomForCells.width()) / cells.width();
+    const double down = static_cast<double>(roomForCells.height()) / cells.height();
+    const double scale = std::min({1.0, across, down});
+    return around +
+           QSize(static_cast<int>(cells.width() * scale), static_cast<int>(cells.height() * scale));
 }
 
 void MainWindow::KeepPlace()
@@ -181,21 +225,34 @@ void MainWindow::changeEvent(QEvent *event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange) {
         KeepPlace();
+    } else if (event->type() == QEvent::ActivationChange && !isActiveWindow()) {
+        Client->Board->LetModifiersGo();
     }
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!DroppedFile(*event->mimeData()).empty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    // The program that it comes from waits until this is over, and a question may come up.
+    CallFromEventLoop([file = DroppedFile(*event->mimeData())] { OpenDroppedGame(file); });
+    activateWindow();
 }
 
 void MainWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (IsDesktopKey(event->key())) {
-        event->ignore();
-        return;
-    }
-    KeyDown(KeyCodeOf(*event), ModifiersOf(event->modifiers()));
+    Client->Board->TakeKeyPress(event);
 }
 
 void MainWindow::keyReleaseEvent(QKeyEvent *event)
 {
-    KeyUp(KeyCodeOf(*event));
+    Client->Board->TakeKeyRelease(*event);
 }
 
 } // namespace kelvarine

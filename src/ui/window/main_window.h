@@ -4,8 +4,6 @@
 #include <QMainWindow>
 #include <QTimer>
 
-class QMenuBar;
-
 namespace kelvarine {
 
 class BoardWidget;
@@ -49,6 +47,9 @@ public:
     // Puts the window where it last stood, in reach of the screens that are there, and shows it.
     void ShowAtItsPlace();
 
+    // The largest size up to a wanted one that fits into a room, with the board in the same form.
+    [[nodiscard]] QSize SizeWithin(const QSize &wanted, const QSize &room) const;
+
     // Keeps where the window stands, unless it is not on view.
     void KeepPlace();
 
@@ -56,19 +57,24 @@ public:
     // decides and nothing happens. True when the window is gone.
     bool CloseUnlessAsking();
 
+    // Asks what a closing would ask, and closes nothing. False when the player would rather stay.
+    bool AskAsClosingDoes();
+
+    // A closing, or a session's end, waits for the player's answer.
+    [[nodiscard]] bool IsClosing() const;
+
 protected:
     void closeEvent(QCloseEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
-    void BuildMenus();
-
-    bool asking = false; // a closing waits for the player's answer
-    QMenuBar *timeBar;   // the clock, at the far right end of the menu bar
+    bool asking = false; // the same
 };
 
 // The one main window, or null before it stands and after it has gone.

@@ -4,13 +4,18 @@
 #include "game/search.h"
 #include "input/menu_table.h"
 #include "paint/text.h"
+#include "ui/window/menu_bar.h"
 
 #include <QMenu>
 #include <QVariant>
 
+#include <algorithm>
+
 namespace kelvarine {
 
 namespace {
+
+constexpr std::string_view ClockMenu = "mnuTime";
 
 // One entry as the toolkit knows it: the row and the number that it stands for.
 struct Entry {
@@ -113,28 +118,29 @@ void AddBarEntry(QMenuBar *bar, const MenuRow &row)
     LetRun(action, row, 0);
 }
 
-QMenu *AddMenu(QMenuBar *bar, std::string_view name, const QString &caption)
+QMenu *AddMenu(MenuBar *bar, const MenuRow &row)
 {
-    QMenu *menu = bar->addMenu(caption);
-    menu->setObjectName(Text(name));
+    QMenu *menu = bar->AddMenu(Text(row.Name), Text(row.Caption));
     QObject::connect(menu, &QMenu::aboutToShow, menu, [menu] { OpenMenu(menu); });
     return menu;
 }
 
 } // namespace
 
-void BuildMenus(QMenuBar *mainBar, QMenuBar *timeBar)
+void BuildMenus(MenuBar *bar)
 {
     QMenu *top = nullptr;
     QMenu *sub = nullptr;
     for (std::size_t k = 0; k < MenuTable.size(); ++k) {
         const MenuRow &row = MenuTable[k];
         if (row.Level == 1) {
-            QMenuBar *bar = row.Name == "mnuTime" ? timeBar : mainBar;
+            if (row.Name == ClockMenu) {
+                bar->BeginFarEnd();
+            }
             if (row.Run != nullptr) {
                 AddBarEntry(bar, row);
             } else {
-                top = AddMenu(bar, row.Name, Text(row.Caption));
+                top = AddMenu(bar, row);
             }
         } else if (row.Run == nullptr && row.Caption != SeparatorCaption) {
             sub = top->addMenu(Text(row.Caption));
@@ -147,15 +153,12 @@ void BuildMenus(QMenuBar *mainBar, QMenuBar *timeBar)
     }
 }
 
-void UpdateMenus(QMenuBar *timeBar)
+void UpdateMenus(QMenuBar *bar)
 {
-    QMenu *menu = timeBar->actions().front()->menu();
-    for (const MenuRow &row : MenuTable) {
-        if (Text(row.Name) == menu->objectName()) {
-            menu->setTitle(Text(MenuCaption(row, 0)));
-        }
-    }
-    for (QAction *action : menu->actions()) {
+    auto *clock = bar->findChild<QMenu *>(Text(ClockMenu), Qt::FindDirectChildrenOnly);
+    const auto *row = std::ranges::find(MenuTable, ClockMenu, &MenuRow::Name).base();
+    clock->setTitle(Text(MenuCaption(*row, 0)));
+    for (QAction *action : clock->actions()) {
         SetCaption(*action);
     }
 }

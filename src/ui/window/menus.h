@@ -1,15 +1,18 @@
 // Builds the toolkit's menus from the table of the menu tree.
 #pragma once
 
-#include <QMenuBar>
+class QMenuBar;
 
 namespace kelvarine {
 
-// Fills two menu bars from the table: the last top-level menu, the clock's, goes to timeBar, all
-// others to mainBar. Opening a menu brings its check marks and enabled states up to date.
-void BuildMenus(QMenuBar *mainBar, QMenuBar *timeBar);
+class MenuBar;
 
-// Brings the captions that change in play up to date.
-void UpdateMenus(QMenuBar *timeBar);
+// Fills a menu bar from the table; the clock's menu stands at its far end. Opening a menu brings
+// its check marks and enabled states up to date.
+void BuildMenus(MenuBar *bar);
+
+// Brings the captions that change in play up to date, in their places, so that nothing that the
+// player does in the menus is disturbed.
+void UpdateMenus(QMenuBar *bar);
 
 } // namespace kelvarine

@@ -4,6 +4,7 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -12,14 +13,7 @@ namespace kelvarine {
 namespace {
 
 constexpr int FarAway = 1'000'000;
-
-// The part of a screen that windows may take: of the one that a point lies on, else of the one
-// that the main window stands on.
-QRect ScreenAt(const QPoint &point)
-{
-    const QScreen *screen = QGuiApplication::screenAt(point);
-    return (screen != nullptr ? screen : Window()->screen())->availableGeometry();
-}
+constexpr int RoomBeside = 740; // pixels that the widest of the screens beside the board takes
 
 // Size of a window with its frame. Before a window is shown, its frame is taken for as large as
 // that of the main window.
@@ -29,6 +23,19 @@ QSize FramedSize(const QWidget &window)
 }
 
 } // namespace
+
+QRect ScreenAt(const QPoint &point)
+{
+    const QScreen *screen = QGuiApplication::screenAt(point);
+    return (screen != nullptr ? screen : Window()->screen())->availableGeometry();
+}
+
+QPoint FirstPlace(const QSize &size, const QRect &screen)
+{
+    const QPoint middle = screen.center() - QRect({}, size).center();
+    const int beside = screen.right() + 1 - RoomBeside - size.width();
+    return KeptOnScreen({{std::min(middle.x(), beside), middle.y()}, size}, screen);
+}
 
 QPoint PlaceBeside(const QRect &other, const QSize &size, const QRect &screen)
 {
@@ -46,6 +53,14 @@ QPoint KeptOnScreen(const QRect &window, const QRect &screen)
     const int x = std::min(window.left(), screen.right() + 1 - window.width());
     const int y = std::min(window.top(), screen.bottom() + 1 - window.height());
     return {std::max(x, screen.left()), std::max(y, screen.top())};
+}
+
+bool HasRoomBeside(const QWidget &window)
+{
+    const QRect main = Window()->frameGeometry();
+    const QRect room = ScreenAt(main.center());
+    const QSize size = FramedSize(window);
+    return !QRect(PlaceBeside(main, size, room), size).intersects(main);
 }
 
 void OpenAt(QWidget &window, const WindowPlace &place)
@@ -69,13 +84,19 @@ void OpenAt(QWidget &window, const WindowPlace &place)
 
 void BringToFront(QWidget &window)
 {
+    // At a start the main window is to have the keyboard, and no screen asks for it.
+    const QWindow *main = Window()->windowHandle();
+    const bool starting = main != nullptr && !main->isExposed();
+    window.setAttribute(Qt::WA_ShowWithoutActivating, starting);
     if (window.isMinimized()) {
         window.showNormal();
     } else {
         window.show();
     }
-    window.raise();
-    window.activateWindow();
+    if (!starting) {
+        window.raise();
+        window.activateWindow();
+    }
 }
 
 void KeepPlace(const QWidget &window, WindowPlace &place)

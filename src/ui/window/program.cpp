@@ -4,6 +4,7 @@
 #include "program/program.h"
 #include "ui/window/help_key.h"
 #include "ui/window/main_window.h"
+#include "ui/window/opening.h"
 #include "ui/window/session.h"
 
 #include <QApplication>
@@ -23,6 +24,7 @@ void MakeMainWindow()
     theWindow = std::make_unique<MainWindow>();
     WatchForTheEnd();
     WatchForHelpKey();
+    WatchOpeningWindows();
 }
 
 int RunProgram(const std::string &gameFile)

@@ -17,7 +17,7 @@ QIcon ProgramIcon()
 {
     LoadPictures();
     QIcon icon;
-    for (const int size : std::array{16, 32, 48, 64, 128, 256}) {
+    for (const int size : std::array{16, 22, 24, 32, 48, 64, 128, 256, 512}) {
         icon.addFile(Text(":/icons/%1.png").arg(size), QSize(size, size));
     }
     return icon;

@@ -1,14 +1,20 @@
 #include "ui/window/session.h"
 
+#include "files/game_file.h"
+#include "game/lifecycle.h"
+#include "grid/grid.h"
 #include "program/program.h"
 #include "ui/window/main_window.h"
 
+#include <QFile>
 #include <QGuiApplication>
+#include <QScopedValueRollback>
 #include <QSessionManager>
 #include <QSocketNotifier>
 
 #include <array>
 #include <csignal>
+#include <optional>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -59,20 +65,68 @@ void LetLargeFilesFail()
     ::sigaction(SIGXFSZ, &action, nullptr);
 }
 
+// ---- The session ---------------------------------------------------------------------------
+
+// The game for which the player has answered the session's question, or could not be asked.
+std::optional<GridTable> answeredGame;
+bool wasAsked = false;
+
+bool toldToGo = false;
+
+// The session may end, or only wants to know that all is kept.
+void PrepareForTheEnd(QSessionManager &manager)
+{
+    KeepBeforeAsking();
+    wasAsked = manager.allowsInteraction();
+    if (!wasAsked) {
+        answeredGame = Grid;
+        return;
+    }
+    // A question that stands already decides by itself.
+    if (!Window()->IsClosing() && Window()->AskAsClosingDoes()) {
+        KeepSettings();
+        answeredGame = Grid;
+    } else {
+        answeredGame.reset();
+        manager.cancel();
+    }
+    manager.release();
+}
+
+// The toolkit would add a word of its own, which the program does not take.
+void TellHowToStart(QSessionManager &manager)
+{
+    QStringList words{QCoreApplication::applicationFilePath()};
+    if (!GameFilePath.empty()) {
+        words += QFile::decodeName(QByteArray::fromStdString(GameFilePath));
+    }
+    manager.setRestartCommand(words);
+}
+
+// Sees the application being told to go. The toolkit would close the screens before the main
+// window, which then could not tell any more which of them were open.
+class GoingWatch : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched != qApp || event->type() != QEvent::Quit || Window() == nullptr) {
+            return false;
+        }
+        const QScopedValueRollback going(toldToGo, true);
+        return !Window()->CloseUnlessAsking();
+    }
+};
+
 void WatchSession()
 {
-    QObject::connect(
-        qGuiApp, &QGuiApplication::commitDataRequest, Window(),
-        [](QSessionManager &manager) {
-            KeepBeforeAsking();
-            if (manager.allowsInteraction()) {
-                if (!Window()->CloseUnlessAsking()) {
-                    manager.cancel();
-                }
-                manager.release();
-            }
-        },
-        Qt::DirectConnection);
+    answeredGame.reset();
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, Window(), PrepareForTheEnd,
+                     Qt::DirectConnection);
+    QObject::connect(qGuiApp, &QGuiApplication::saveStateRequest, Window(), TellHowToStart,
+                     Qt::DirectConnection);
+    qApp->installEventFilter(new GoingWatch(Window()));
 }
 
 } // namespace
@@ -82,6 +136,19 @@ void WatchForTheEnd()
     WatchSignals();
     LetLargeFilesFail();
     WatchSession();
+}
+
+bool EndAsAgreed()
+{
+    if (!toldToGo || answeredGame != Grid) {
+        return false;
+    }
+    if (wasAsked) {
+        EndProgramAnswered();
+    } else {
+        EndProgramUnasked();
+    }
+    return true;
 }
 
 } // namespace kelvarine

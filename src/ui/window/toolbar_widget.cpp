@@ -3,6 +3,7 @@
 #include "input/toolbar.h"
 #include "paint/text.h"
 #include "paint/toolkit_colour.h"
+#include "ui/window/key_decoder.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -18,6 +19,8 @@ namespace {
 constexpr int EdgeShade = 170; // percent, as the toolkit darkens colours
 constexpr int PressedShade = 125;
 constexpr qreal Rounding = 3; // pixels
+constexpr int CaptionMargin = 2;
+constexpr int SmallestCaption = 6;
 
 // How light a colour looks, 0 black to 1 white.
 double Lightness(const QColor &colour)
@@ -52,6 +55,8 @@ ToolButtonWidget::ToolButtonWidget(std::int32_t index, QWidget *parent)
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
     setAutoDefault(false);
+    // Neither mouse nor keys come this way, but assistive tools do.
+    connect(this, &QPushButton::clicked, this, [this] { ToolPressed(number); });
 }
 
 void ToolButtonWidget::Update()
@@ -81,11 +86,30 @@ void ToolButtonWidget::paintEvent(QPaintEvent * /*event*/)
     painter.setBrush(isDown() ? background.darker(PressedShade) : background);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Rounding, Rounding);
     painter.setPen(ink);
+    painter.setFont(CaptionFont());
     painter.drawText(rect(), Qt::AlignCenter, text());
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 1, 1);
     }
+}
+
+QFont ToolButtonWidget::CaptionFont() const
+{
+    // The toolbar is as high as it is; what does not fit is written smaller.
+    QFont fitting = font();
+    int pixels = QFontInfo(fitting).pixelSize();
+    const QSize room(width() - 2 * CaptionMargin, height());
+    while (pixels > SmallestCaption && !QRect({}, room).contains(QRect({}, CaptionSize(fitting)))) {
+        fitting.setPixelSize(--pixels);
+    }
+    return fitting;
+}
+
+QSize ToolButtonWidget::CaptionSize(const QFont &letters) const
+{
+    const QFontMetrics measure(letters);
+    return {measure.horizontalAdvance(text()), measure.height()};
 }
 
 void ToolButtonWidget::mousePressEvent(QMouseEvent * /*event*/)
@@ -111,9 +135,16 @@ void ToolButtonWidget::mouseReleaseEvent(QMouseEvent * /*event*/)
     setDown(false);
 }
 
-void ToolButtonWidget::keyPressEvent(QKeyEvent * /*event*/)
+void ToolButtonWidget::keyPressEvent(QKeyEvent *event)
 {
-    ToolPressed(number);
+    if (!IsModifierOrTab(event->key())) {
+        ToolPressed(number);
+    }
+}
+
+void ToolButtonWidget::keyReleaseEvent(QKeyEvent * /*event*/)
+{
+    // Given on, a modifier that comes up would take the focus to the board.
 }
 
 ToolbarWidget::ToolbarWidget(QWidget *parent) : QWidget(parent)

@@ -9,7 +9,7 @@
 namespace kelvarine {
 
 // cmdTool: acts on the press of any mouse button, not on the release, and on any key while it has
-// the focus.
+// the focus, save for those that go with others.
 class ToolButtonWidget : public QPushButton {
     Q_OBJECT
 
@@ -19,6 +19,9 @@ public:
     // Shows the button's caption, colour, tip and place as they are now.
     void Update();
 
+    // The font in which the caption fits on the button.
+    [[nodiscard]] QFont CaptionFont() const;
+
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -26,8 +29,11 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
+    [[nodiscard]] QSize CaptionSize(const QFont &letters) const;
+
     std::int32_t number;
 };
 

@@ -246,4 +246,29 @@ TEST_F(StatisticsScreens, OpeningTwiceIsOneScreen)
     EXPECT_EQ(program.Main->findChildren<QWidget *>("frmStatistics").size(), 1);
 }
 
+TEST(StatisticsPlacing, LeaveTheBoardInViewWhereThatIsPossible)
+{
+    // The screen of these tests is 800 pixels wide.
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const Program program;
+    program.Main->move(0, 0);
+    for (const int width : {80, 300, 420}) {
+        program.Main->resize(width, 500);
+        program.Main->setMinimumSize(60, 60);
+        program.Main->resize(width, 500);
+        StatisticsPlace = {};
+        mnuStatistics();
+        QCoreApplication::processEvents();
+        QWidget *statistics = nullptr;
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            statistics = window->objectName() == "frmStatistics" ? window : statistics;
+        }
+        ASSERT_NE(statistics, nullptr);
+        EXPECT_FALSE(statistics->frameGeometry().intersects(program.Main->frameGeometry()))
+            << width << " beside " << statistics->width();
+        EXPECT_TRUE(screen.contains(statistics->frameGeometry())) << width;
+        statistics->close();
+    }
+}
+
 } // namespace kelvarine::testing

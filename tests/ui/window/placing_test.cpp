@@ -46,6 +46,14 @@ TEST(Placing, NeverLeavesTheScreen)
     EXPECT_EQ(KeptOnScreen({30, 40, 4000, 3000}, Screen), QPoint(0, 0));
 }
 
+TEST(Placing, FirstWindowLeavesRoomForTheScreensBesideIt)
+{
+    EXPECT_EQ(FirstPlace({760, 830}, {0, 0, 3840, 2160}), QPoint(1540, 665)) << "in the middle";
+    EXPECT_EQ(FirstPlace({760, 830}, Screen), QPoint(420, 125));
+    EXPECT_EQ(FirstPlace({500, 580}, {0, 0, 1024, 600}), QPoint(0, 10));
+    EXPECT_EQ(FirstPlace({500, 580}, {1920, -200, 1024, 600}), QPoint(1920, -190));
+}
+
 TEST(Placing, AbsurdPlacesOfAFileAreHarmless)
 {
     const Program program;

@@ -1,6 +1,7 @@
 #include "board/look.h"
 #include "grid/colour.h"
 #include "grid/grid.h"
+#include "grid/history.h"
 #include "input/menu_table.h"
 #include "input/toolbar.h"
 #include "logic/driver.h"
@@ -11,6 +12,8 @@
 #include "ui/window/board_widget.h"
 #include "ui/window/toolbar_widget.h"
 
+#include <QAccessible>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QtTest>
 #include <gtest/gtest.h>
@@ -121,7 +124,7 @@ TEST_F(ToolbarOnView, PressThatMovesNoFocusLeavesItWithTheBoardToo)
 TEST_F(ToolbarOnView, AnyKeyOnAFocusedButtonActsAndTheFocusGoesBack)
 {
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_X, Qt::Key_F5, Qt::Key_Up,
-                              Qt::Key_Shift, Qt::Key_Escape}) {
+                              Qt::Key_Menu, Qt::Key_Escape}) {
         NumberFilter = CandidateMask;
         ToolMode = 20;
         ToolSign = 0;
@@ -131,6 +134,62 @@ TEST_F(ToolbarOnView, AnyKeyOnAFocusedButtonActsAndTheFocusGoesBack)
         EXPECT_EQ(NumberFilter, BitTable[4]) << key;
         EXPECT_EQ(QApplication::focusWidget(), Board()) << key;
     }
+}
+
+TEST_F(ToolbarOnView, ModifierAloneOnAFocusedButtonIsNoPress)
+{
+    WordAt({4, 7}) |= SelectedBit;
+    const CellWord before = WordAt({4, 7});
+    for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_AltGr,
+                              Qt::Key_Meta, Qt::Key_Super_L, Qt::Key_Super_R}) {
+        Button(4)->setFocus(Qt::TabFocusReason);
+        SendKey(Button(4), QEvent::KeyPress, key);
+        SendKey(Button(4), QEvent::KeyRelease, key);
+        EXPECT_EQ(WordAt({4, 7}), before) << std::hex << key;
+        EXPECT_EQ(QApplication::focusWidget(), Button(4)) << std::hex << key;
+    }
+}
+
+TEST_F(ToolbarOnView, ShiftAndTabGoBackFromAButtonAndPlaceNothing)
+{
+    WordAt({4, 7}) |= SelectedBit;
+    const CellWord before = WordAt({4, 7});
+    Button(2)->setFocus(Qt::TabFocusReason);
+    SendKey(Button(2), QEvent::KeyPress, Qt::Key_Shift);
+    QTest::keyClick(Button(2), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::focusWidget(), Button(1));
+    EXPECT_EQ(WordAt({4, 7}), before);
+    Button(14)->setFocus(Qt::TabFocusReason); // the last one
+    QTest::keyClick(Button(14), Qt::Key_Tab);
+    EXPECT_EQ(ToolMode, 0);
+    EXPECT_EQ(WordAt({4, 7}), before);
+}
+
+TEST_F(ToolbarOnView, AltAndALetterOnAFocusedButtonOpenTheMenuAlone)
+{
+    WordAt({4, 7}) |= SelectedBit;
+    const CellWord before = WordAt({4, 7});
+    Button(3)->setFocus(Qt::TabFocusReason);
+    SendKey(Button(3), QEvent::KeyPress, Qt::Key_Alt);
+    QTest::keyClick(Button(3), Qt::Key_G, Qt::AltModifier);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(QApplication::activePopupWidget()->objectName(), "mnuGame");
+    EXPECT_EQ(WordAt({4, 7}), before);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+}
+
+TEST_F(ToolbarOnView, AssistiveToolsCanPressTheButtons)
+{
+    WordAt({4, 7}) |= SelectedBit;
+    QAccessibleInterface *button = QAccessible::queryAccessibleInterface(Button(6));
+    ASSERT_NE(button->actionInterface(), nullptr);
+    button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    const auto placed = [] {
+        return (WordAt({4, 7}) & CandidateMask) == BitTable[6];
+    };
+    EXPECT_TRUE(QTest::qWaitFor(placed, Patience));
+    Button(14)->click();
+    EXPECT_EQ(ToolMode, 20);
 }
 
 TEST_F(ToolbarOnView, TabReachesEveryButton)
@@ -241,6 +300,56 @@ TEST_F(ToolbarOnView, DigitThatComesUpLeavesShiftHeld)
     EXPECT_EQ(Button(1)->text(), "- 1");
     CloseModals([&] { SendKey(Board(), QEvent::KeyPress, Qt::Key_H, Qt::ShiftModifier); });
     EXPECT_EQ(Button(1)->text(), "1") << "let go in the dialog";
+}
+
+TEST_F(ToolbarOnView, ModifierThatOpensABoxIsNotHeldAfterwards)
+{
+    const auto pressCtrlAnd = [&](Qt::Key key) {
+        QWidget *focus = program.Main->focusWidget();
+        SendKey(focus, QEvent::KeyPress, Qt::Key_Control);
+        return CloseModals([&] { SendKey(focus, QEvent::KeyPress, key, Qt::ControlModifier); });
+    };
+    for (const Qt::Key key : {Qt::Key_B, Qt::Key_T}) {
+        for (const Qt::Key letter : {Qt::Key_G, Qt::Key_H, Qt::Key_unknown}) {
+            ClearCellBits(CandidateMask | SelectedBit);
+            WordAt({4, 7}) = BitTable[5] | SelectedBit;
+            GameModified = True;
+            program.Main->activateWindow(); // without a window manager a box leaves none active
+            ASSERT_TRUE(QTest::qWaitForWindowActive(program.Main.get(), Patience));
+            if (letter != Qt::Key_unknown) {
+                QTest::keyClick(program.Main->focusWidget(), letter, Qt::AltModifier);
+                QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+            } else {
+                program.Main->menuBar()->setFocus(); // its keys reach the window
+            }
+            EXPECT_EQ(pressCtrlAnd(key).size(), 1U);
+            QCoreApplication::processEvents();
+            EXPECT_EQ(Button(1)->text(), "1");
+            Press(3);
+            EXPECT_EQ(WordAt({4, 7}) & CandidateMask, BitTable[3]) << "and not 3 and 5";
+        }
+    }
+}
+
+TEST_F(ToolbarOnView, ModifierThatIsHeldWhenTheFocusComesShowsItsSign)
+{
+    Button(3)->setFocus(Qt::TabFocusReason);
+    QWindow *window = program.Main->windowHandle();
+    QTest::keyEvent(QTest::Press, window, Qt::Key_F20, Qt::ShiftModifier); // of no meaning itself
+    Board()->clearFocus();
+    Board()->setFocus();
+    EXPECT_EQ(Button(1)->text(), "- 1");
+    QTest::keyEvent(QTest::Release, window, Qt::Key_F20, Qt::NoModifier);
+    Board()->clearFocus();
+    EXPECT_EQ(Button(1)->text(), "1");
+}
+
+TEST_F(ToolbarOnView, SignThatThePlayerHasSetOutlastsTheFocus)
+{
+    Press(11);
+    Board()->clearFocus();
+    Board()->setFocus();
+    EXPECT_EQ(Button(1)->text(), "+ 1");
 }
 
 TEST_F(ToolbarOnView, PointerSlidesARowThatSticksOut)

@@ -1,0 +1,40 @@
+#!/usr/bin/python3
+"""What is written on standard error: the one way to start for a word that looks like an option, and
+nothing where there is no sound."""
+
+import subprocess
+import sys
+
+from desktop import Configure, Desktop, Game, expect
+
+
+def refused(desktop, program):
+    for words in ["--help"], ["-platform", "offscreen"], ["game.sdk", "-x"], ["-"]:
+        done = subprocess.run([program, *words], env=desktop.environment, stderr=subprocess.PIPE,
+                              check=False)
+        expect(done.returncode == 2, f"{words} are refused")
+        expect(b"kelvarine [file]" in done.stderr, "the one way to start is told")
+    expect(not desktop.files(), "nothing has started")
+
+
+def silent(desktop, program):
+    desktop.environment["PULSE_SERVER"] = str(desktop.home / "no-sound")
+    game = Game(desktop, program)
+    game.menu("alt+g", "c")
+    Configure(desktop).press("s")
+    desktop.key("Escape")
+    expect(game.end() == 0, "the program ends well")
+    told = [log.read_text() for log in desktop.evidence.glob("program-*.log")]
+    expect(not any("pa_context" in words for words in told), "no word of the sound service")
+
+
+def main():
+    program = sys.argv[1]
+    with Desktop() as desktop:
+        refused(desktop, program)
+        silent(desktop, program)
+    print("no options: all as it should be")
+
+
+if __name__ == "__main__":
+    main()
