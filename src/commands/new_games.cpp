@@ -111,6 +111,16 @@ bool SettingsAreAccepted()
     return MaxGivens >= FewestGivensFound || AskYesNo(FewGivensQuestion());
 }
 
+// Applies the player's logic to a game that has just been made. It is still the search for a game,
+// and stopped like it: games that the logic solves outright could follow each other without an end.
+std::int32_t ApplyToNewGame()
+{
+    SearchKind = SearchingGame;
+    const std::int32_t result = ApplyLogic(SolveAsPlayer);
+    SearchKind = NotStoppable;
+    return result;
+}
+
 // Makes games until one is left unsolved by the logic that is applied to it, and starts it.
 void SearchAndStart(const GameInHand &before)
 {
@@ -120,9 +130,19 @@ void SearchAndStart(const GameInHand &before)
             return;
         }
         FillIfWished();
-        if (SolveOnStart == False || ApplyLogic(SolveAsPlayer) == NotSolved) {
+        if (SolveOnStart == False) {
             StartGame(NewGame);
             return;
+        }
+        switch (ApplyToNewGame()) {
+        case NotSolved:
+            StartGame(NewGame);
+            return;
+        case Stopped:
+            BringBack(before);
+            return;
+        default:
+            break;
         }
     }
 }
@@ -164,11 +184,12 @@ void UserSelectedGame()
     if (!SelectGameNumber(UserSelected)) {
         return;
     }
-    if (GenerateGame()) {
+    bool made = GenerateGame();
+    if (made) {
         FillIfWished();
-        if (SolveOnStart != False) {
-            ApplyLogic(SolveAsPlayer);
-        }
+        made = SolveOnStart == False || ApplyToNewGame() != Stopped;
+    }
+    if (made) {
         StartGame(NewGame);
     } else {
         BringBack(*before);

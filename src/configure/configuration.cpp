@@ -5,6 +5,7 @@
 #include "configure/setting_table.h"
 #include "grid/grid.h"
 #include "grid/little_endian.h"
+#include "logic/kept_settings.h"
 #include "logic/technique_masks.h"
 #include "outside/file_lock.h"
 #include "outside/folders.h"
@@ -83,6 +84,7 @@ void TakeConfiguration(std::string_view bytes)
 
 std::string ConfigurationBytes()
 {
+    const PlayersSettings own; // not those of a run of the logic that is under way
     std::string bytes(ConfigurationSize, '\0');
     for (const SettingRow &row : SettingTable) {
         PutNumber(bytes, OffsetOf(row), WordOfSetting(row.Target));

@@ -160,7 +160,7 @@ std::string FindPlace()
 
 void RemoveOwnFile()
 {
-    if (!kept.empty()) {
+    if (IsHeld(own)) { // so that what stands there is one's own, also when its bytes are not known
         std::error_code unseen;
         std::filesystem::remove(own.Path, unseen);
         kept.clear();

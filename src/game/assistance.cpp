@@ -1,6 +1,7 @@
 #include "game/assistance.h"
 
 #include "game/alert_scan.h"
+#include "game/game_in_hand.h"
 #include "game/lifecycle.h"
 #include "game/solutions.h"
 #include "grid/grid.h"
@@ -15,6 +16,8 @@
 #include "outside/messages.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <memory>
 
 namespace kelvarine {
 
@@ -47,11 +50,22 @@ void Expose(CellWord &word)
     ++GivenCount;
 }
 
-// True when the player has stopped a run that took too long, and the game goes back to what it was.
-// Any other stop counts as a result, and the grid stays as far as the run had come; intended.
-bool GaveUpLongRun(std::int32_t result)
+enum class End : std::uint8_t { NoResult, Result, GivenUp };
+
+// Runs the logic on the game in hand. When the player stops a run that takes too long the game goes
+// back to what it was; any other stop counts as a result, and the grid stays as far as the run had
+// come; intended.
+template <typename Run>
+End RunOnGame(const Run &run)
 {
-    return result == Stopped && RunIsLong != False;
+    // The history is too large for the stack.
+    const auto before = std::make_unique<GameInHand>();
+    const std::int32_t result = run();
+    if (result == Stopped && RunIsLong != False) {
+        GiveBack(*before);
+        return End::GivenUp;
+    }
+    return result == NotSolved ? End::NoResult : End::Result;
 }
 
 } // namespace
@@ -119,14 +133,15 @@ void mnuApplyLogic()
     if (IsGridSolved() != False) {
         return;
     }
-    const GridTable before = Grid;
-    const std::int32_t result = ApplyLogic(SolveAsPlayer);
-    if (GaveUpLongRun(result)) {
-        Grid = before;
-    } else if (result != NotSolved) {
+    switch (RunOnGame([] { return ApplyLogic(SolveAsPlayer); })) {
+    case End::GivenUp:
+        break;
+    case End::Result:
         UpdateStatistics();
-    } else {
+        break;
+    case End::NoResult:
         ScanAlerts(ModeAlert);
+        break;
     }
     DrawBoard();
 }
@@ -141,13 +156,12 @@ void mnuSolveGame()
         return;
     }
     const KeptSettings kept;
-    const GridTable before = Grid;
     SolveMask = CountingMask;
-    FillPencilmarks();
-    const std::int32_t result = RunByFillings(SolveForPlayer);
-    if (GaveUpLongRun(result)) {
-        Grid = before;
-    } else if (result != NotSolved) {
+    const End end = RunOnGame([] {
+        FillPencilmarks();
+        return RunByFillings(SolveForPlayer);
+    });
+    if (end == End::Result) {
         StatsCounted = True;
         UpdateStatistics();
     }

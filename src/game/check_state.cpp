@@ -71,7 +71,7 @@ bool MasksHoldNothingElse()
 // A run of the driver ends before the command that asked for it.
 bool NothingRuns()
 {
-    return SearchActive == False || SearchKind != NotStoppable || RunIsLong != False;
+    return SearchActive == False || SearchKind != NotStoppable || RunUnderWay != False;
 }
 
 bool ClockIsTold()

@@ -20,13 +20,20 @@ GameInHand::~GameInHand()
     GameAside = nullptr;
 }
 
-void BringBack(const GameInHand &game)
+void GiveBack(const GameInHand &game)
 {
     Grid = game.Cells;
     History = game.Levels;
     HistoryCount = game.Count;
     HistoryPosition = game.Position;
     GameModified = game.Modified;
+    ChainColumns = game.Columns;
+    ChainRows = game.Rows;
+}
+
+void BringBack(const GameInHand &game)
+{
+    GiveBack(game);
     CountGivens();
     RateGame();
     // The rating runs techniques, too.

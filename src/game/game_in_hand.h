@@ -31,7 +31,8 @@ struct GameInHand {
 // The copy that stands at the moment; null while the game in hand is on the board.
 extern const GameInHand *GameAside;
 
-// Puts a copy in the place of what stands there now, and counts and rates it.
+// Puts a copy in the place of what stands there now; BringBack counts and rates it, too.
+void GiveBack(const GameInHand &game);
 void BringBack(const GameInHand &game);
 
 } // namespace kelvarine

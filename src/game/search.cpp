@@ -17,10 +17,15 @@ void QueryStopSearch()
     }
 }
 
+bool IsBusy()
+{
+    return SearchActive != False || RunUnderWay != False;
+}
+
 bool ReadyForCommand()
 {
-    if (SearchActive != False) {
-        if (SearchKind == SearchingGame || RunIsLong != False) {
+    if (IsBusy()) {
+        if (SearchActive != False && (SearchKind == SearchingGame || RunIsLong != False)) {
             QueryStopSearch();
         }
         return false;

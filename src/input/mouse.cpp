@@ -156,7 +156,7 @@ void BoardPressed(std::int32_t button, std::int32_t shift, int x, int y)
 
 void BoardDoubleClicked()
 {
-    if (SearchActive != False) {
+    if (IsBusy()) {
         return;
     }
     const std::optional<Cell> cell = CellAt(ClickX, ClickY);
@@ -205,7 +205,7 @@ std::int32_t NumberAtPoint(std::int32_t column, std::int32_t row, int x, int y)
 
 void BoardMoved(std::int32_t button, std::int32_t shift, int x, int y)
 {
-    if (button != LeftButton || SearchActive != False) {
+    if (button != LeftButton || IsBusy()) {
         return;
     }
     if (const std::optional<Cell> cell = CellAt(x, y)) {

@@ -147,7 +147,7 @@ struct Search {
     std::int32_t Limit;
     std::int64_t Bound;      // on the boards looked at
     Blame *Blamed = nullptr; // guides the decisions, if there is one
-    std::int32_t Found = 0;  // stands when IsOver
+    std::int32_t Found = 0;  // all there are up to the limit, unless it gave up
     std::int64_t Boards = 0;
 
     // Whether the bound came before the end.

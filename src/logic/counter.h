@@ -1,5 +1,5 @@
 // Counts the ways to fill a field of candidates by the rules, up to a limit. This is a search of
-// its own, apart from the techniques and the driver: no table is read or written and nothing is
+// its own, apart from the techniques and the driver: no state is read or written and nothing is
 // allocated. A call takes a few microseconds on games, and about a millisecond where all goes
 // wrong.
 #pragma once

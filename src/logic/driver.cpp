@@ -8,7 +8,6 @@
 #include "outside/events.h"
 #include "outside/messages.h"
 #include "outside/screens.h"
-#include "outside/sound.h"
 
 #include <algorithm>
 #include <array>
@@ -181,6 +180,15 @@ Step OnSolvedGrid(Run &run)
     }
 }
 
+bool bannerStands = false;
+
+void DoAfterRun()
+{
+    if (AfterRun) {
+        CallFromEventLoop(std::exchange(AfterRun, nullptr));
+    }
+}
+
 // Lets the player stop the run, and tells one that waits for long what it waits for.
 bool MayGoOn(Run &run)
 {
@@ -189,7 +197,9 @@ bool MayGoOn(Run &run)
         RunIsLong = True;
         if (SearchKind == NotStoppable) {
             DrawBanner(" Standby ");
+            bannerStands = true;
         }
+        DoAfterRun(); // what waits may ask now
     }
     YieldToEvents();
     if (SearchActive == False) {
@@ -365,7 +375,7 @@ void SetDriverDefaults()
 
 void TakeBannerAway()
 {
-    if (RunIsLong != False && SearchKind == NotStoppable) {
+    if (std::exchange(bannerStands, false)) {
         DrawBoard();
     }
 }
@@ -383,9 +393,7 @@ void StartRun()
 void EndRun()
 {
     RunUnderWay = False;
-    if (AfterRun) {
-        CallFromEventLoop(std::exchange(AfterRun, nullptr));
-    }
+    DoAfterRun();
 }
 
 void RestoreSafeCopy()

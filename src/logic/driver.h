@@ -32,13 +32,14 @@ extern std::int32_t SearchKind;
 inline constexpr double LongRunSeconds = 2;
 extern Flag RunIsLong;
 
-// True from the start of a run to its end, also after it was told to stop. What is due when it has
-// ended is then done by the event loop, and forgotten.
+// True from the start of a run to its end, also after it was told to stop. What is to be done when
+// it has ended is handed to the event loop then, or when the run becomes long and can be asked
+// about.
 extern Flag RunUnderWay;
 extern std::function<void()> AfterRun;
 
-// Set when the player has agreed to stop a search; cleared by whoever starts one. It outlasts
-// SearchActive, which every run of the driver sets anew.
+// Set when the player has agreed to stop a search; cleared by the search for a game, which asks for
+// it. It outlasts SearchActive, which every run of the driver sets anew.
 extern Flag StopRequested;
 
 // Puts the state above to its defaults.
@@ -55,7 +56,7 @@ std::int32_t ApplyLogic(std::int32_t mode);
 // The same, but after mostPasses passes it ends as a search that has tried everything.
 std::int32_t ApplyLogicWithin(std::int64_t mostPasses, std::int32_t mode);
 
-// Paints the board anew when the last run was so long that it has left a banner there.
+// Paints the board anew when a long run has left a banner there.
 void TakeBannerAway();
 
 // Parts of a run, for those that are not walked: the state that a run starts with and ends with,

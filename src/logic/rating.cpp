@@ -27,15 +27,14 @@ void CountForRating()
     RunByFillings(CountSolutions);
 }
 
-// Solves the grid with everything and returns the highest level used. A game that needed nothing
-// counts as extreme.
+// Solves the grid with everything and returns the highest level used, or up to where it was
+// stopped. A game that needed nothing counts as extreme.
 std::int32_t HighestLevelUsed()
 {
     SolveMask = RatingMask;
     if (ApplyLogic(SolveForRating) == Stopped) {
-        // The solution is known all the same.
         FillPencilmarks();
-        FillGrid();
+        FillGrid(); // the solution can be had all the same
     }
     std::int32_t rating = RatedExtreme;
     for (std::int32_t level = RatedEasy; level <= Levels; ++level) {
@@ -92,6 +91,7 @@ void FindLogicOfCount()
     ApplyLogicWithin(mostPasses, CountSolutions);
     SolutionCount = count;
     Grid = words;
+    TakeBannerAway();
 }
 
 } // namespace kelvarine

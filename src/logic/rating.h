@@ -10,8 +10,8 @@ namespace kelvarine {
 void RateGame();
 
 // Leaves in UsedMask what counting uses that goes by logic and trial and error on Grid; for games
-// with several solutions, of which no logic tells more. A count is broken off after a while: by
-// then it has used what it uses. Everything else is as before.
+// with several solutions, of which no logic tells more. A count that goes on for long is broken
+// off, and tells what it has used by then. Everything else is as before.
 void FindLogicOfCount();
 
 } // namespace kelvarine

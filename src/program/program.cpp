@@ -36,16 +36,15 @@ void OpenFormerScreens()
     }
 }
 
-// Lets a run of the logic end, stopped if the player wants, and closes then.
-void CloseAfterRun()
+// Asks whether to stop the run of the logic under way, where it can be stopped. False when the
+// player wants it to go on.
+bool MayEndRun()
 {
     if (SearchActive != False && (SearchKind != NotStoppable || RunIsLong != False)) {
         QueryStopSearch();
-        if (SearchActive != False) {
-            return;
-        }
+        return SearchActive == False;
     }
-    AfterRun = CloseMainWindow;
+    return true;
 }
 
 // A game that was not closed goes before the file that the program was started with.
@@ -95,8 +94,8 @@ void KeepBeforeAsking()
 bool AskBeforeTheEnd()
 {
     if (RunUnderWay != False) {
-        CloseAfterRun();
-        return false;
+        MayEndRun();
+        return false; // the board is the run's, and whether to save cannot be asked yet
     }
     QuerySaveGame();
     return LastAnswer != AnsweredCancel;
@@ -113,17 +112,26 @@ void EndProgramUnasked()
 {
     SetRecoveryTimer(false, RecoveryInterval);
     StopSound();
-    KeepSettings();
+    KeepMainPlace();
+    std::string untold; // nobody may be there to be told
+    KeepConfiguration(untold);
 }
 
 void EndProgramAnswered()
 {
+    SetRecoveryTimer(false, RecoveryInterval);
     RemoveRecovery();
-    EndProgramUnasked();
+    StopSound();
+    KeepSettings();
 }
 
 bool EndProgram()
 {
+    if (RunUnderWay != False) {
+        // The closing goes on when the run has ended.
+        AfterRun = MayEndRun() ? CloseMainWindow : nullptr;
+        return false;
+    }
     if (!AskBeforeTheEnd()) {
         return false;
     }

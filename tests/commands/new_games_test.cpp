@@ -10,7 +10,9 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
+#include "logic/technique_masks.h"
 #include "support/outside_double.h"
+#include "support/play.h"
 #include "support/positions.h"
 
 #include <gtest/gtest.h>
@@ -242,6 +244,40 @@ TEST_F(NewGames, ManualPatternMakesNoChecksAndShowsNoBanner)
         EXPECT_EQ(CandidatesIn((WordAt(cell) & SolutionMask) >> SolutionShift), 1);
     }
     EXPECT_EQ(GameRating, 6);
+}
+
+// The empty grid of the manual pattern, to which logic without an end is applied, or such as solves
+// it and so has it thrown away, again and again.
+TEST_F(NewGames, AppliedLogicIsStoppedLikeTheSearchAndBringsTheGameBack)
+{
+    for (const std::uint32_t mask : {MaskOf({XWing}) | TrialBit, SinglesMask | TrialBit}) {
+        for (void (*make)() : {mnuGameRandom, UserSelectedGame}) {
+            Restart();
+            StartSavedGame(EasyGame);
+            const GridTable before = Grid;
+            RevealPattern = ExposeManually;
+            SolveOnStart = True;
+            SolveMask = mask;
+            ForgetRecord();
+            Seen.Yields = 0;
+            Seen.TextAnswers = {"7"};
+            bool stopped = false;
+            Seen.OnYield = [&] {
+                if (Seen.Yields > 3 && !stopped) {
+                    stopped = true;
+                    Seen.YesNoAnswers = {true};
+                    EXPECT_FALSE(ReadyForCommand());
+                }
+            };
+            make();
+            if (stopped) {
+                EXPECT_TRUE(SameCells(Grid, before, LastingFields));
+                EXPECT_EQ(SearchKind, NotStoppable);
+            } else {
+                EXPECT_EQ(make, UserSelectedGame) << "which does not ask for another game";
+            }
+        }
+    }
 }
 
 TEST_F(NewGames, NumberedGameIsTheSameEveryTime)

@@ -3,6 +3,7 @@
 #include "files/game_file.h"
 #include "files/recovered_folder.h"
 #include "files/recovery.h"
+#include "game/assistance.h"
 #include "game/clock.h"
 #include "game/game_in_hand.h"
 #include "game/lifecycle.h"
@@ -11,6 +12,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
+#include "logic/technique_masks.h"
 #include "outside/folders.h"
 #include "outside/later_write.h"
 #include "outside/system_calls.h"
@@ -287,6 +289,36 @@ TEST_F(Recovery, WhatTheLogicTriesOnTheBoardIsNotWritten)
     EXPECT_TRUE(Kept() == game);
     EXPECT_FALSE(WriteRecovery());
     EXPECT_TRUE(Kept() == game);
+}
+
+TEST_F(Recovery, GameToWhichLogicIsAppliedIsWrittenAsItWas)
+{
+    Play();
+    const std::string game = GameFileBytes();
+    SolveMask = MaskOf({XWing}) | TrialBit;
+    Seen.OnYield = [&] {
+        Grid = {};
+        TickAndWrite();
+        EXPECT_EQ(Kept().substr(0, game.size()), game);
+        SearchActive = False;
+    };
+    mnuApplyLogic();
+    EXPECT_GT(Seen.Yields, 0);
+}
+
+TEST_F(Recovery, FileBeforeAFailureGoesAtAnOrderlyEndToo)
+{
+    Play();
+    TickAndWrite();
+    const std::string folder = DataFolder();
+    std::filesystem::rename(folder, folder.substr(0, folder.size() - 1) + ".away");
+    std::ofstream(folder.substr(0, folder.size() - 1)) << "no folder";
+    Play();
+    EXPECT_FALSE(WriteRecovery());
+    std::filesystem::remove(folder.substr(0, folder.size() - 1));
+    std::filesystem::rename(folder.substr(0, folder.size() - 1) + ".away", folder);
+    RemoveRecovery();
+    EXPECT_FALSE(FileExists(folder + "recovery-1.sdk"));
 }
 
 // ---- The next start --------------------------------------------------------------------------

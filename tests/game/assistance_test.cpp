@@ -291,6 +291,26 @@ TEST_F(Assistance, LongRunShowsTheBannerAndLeavesTheGameWhenStopped)
     EXPECT_EQ(WinDisplayRunning, False);
 }
 
+TEST_F(Assistance, NothingIsLetInBetweenTheYesAndTheEndOfTheRun)
+{
+    StartLongRun();
+    const auto levels = History;
+    Seen.OnYield = [] {
+        Seen.Steady += 3;
+        Seen.YesNoAnswers = {true};
+        if (Seen.Yields == 2) {
+            EXPECT_FALSE(ReadyForCommand());
+            EXPECT_FALSE(ReadyForCommand()) << "the board is still the run's";
+            EXPECT_EQ(Seen.Questions.size(), 1U);
+        }
+    };
+    mnuApplyLogic();
+    EXPECT_EQ(Seen.Yields, 2);
+    EXPECT_EQ(std::mismatch(levels.begin(), levels.begin() + SafeCopySlot, History.begin()).first,
+              levels.begin() + SafeCopySlot);
+    EXPECT_TRUE(ReadyForCommand());
+}
+
 TEST_F(Assistance, RunOfLessThanTwoSecondsCannotBeStopped)
 {
     StartLongRun();

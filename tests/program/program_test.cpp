@@ -4,6 +4,8 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
+#include "logic/kept_settings.h"
+#include "logic/technique_masks.h"
 #include "outside/folders.h"
 #include "outside/whole_file.h"
 #include "program/program.h"
@@ -174,6 +176,78 @@ TEST_F(WholeProgram, EndDuringASearchThatGoesOnIsTakenBack)
     EXPECT_NE(SearchActive, False);
     EndRun();
     EXPECT_TRUE(Seen.LaterDeeds.empty());
+}
+
+TEST_F(WholeProgram, NoTakesAnEarlierClosingBackToo)
+{
+    StartProgram("");
+    StartRun();
+    Seen.LaterDeeds.clear();
+    EXPECT_FALSE(EndProgram()) << "it waits";
+    RunIsLong = True;
+    Seen.YesNoAnswers = {false};
+    EXPECT_FALSE(EndProgram());
+    EndRun();
+    EXPECT_TRUE(Seen.LaterDeeds.empty());
+}
+
+TEST_F(WholeProgram, ClosingThatWaitsIsAskedAboutWhenTheRunBecomesLong)
+{
+    StartProgram("");
+    SetGame(Dots(79) + "11");
+    SolveMask = MaskOf({XWing}) | TrialBit;
+    Seen.LaterDeeds.clear();
+    Seen.OnYield = [] {
+        Seen.Steady += 1;
+        if (Seen.Yields == 1) {
+            EXPECT_FALSE(EndProgram());
+        }
+        if (!Seen.LaterDeeds.empty()) {
+            EXPECT_NE(RunIsLong, False);
+            SearchActive = False;
+        }
+    };
+    Seen.Yields = 0;
+    ApplyLogic(SolveAsPlayer);
+    ASSERT_EQ(Seen.LaterDeeds.size(), 1U);
+    ForgetRecord();
+    Seen.LaterDeeds.front()();
+    EXPECT_EQ(Acts().back(), "window closed: ");
+}
+
+TEST_F(WholeProgram, QuestionsOfASessionDuringARunCloseNothingLater)
+{
+    StartProgram("");
+    StartRun();
+    SearchKind = SearchingGame;
+    Seen.LaterDeeds.clear();
+    Seen.YesNoAnswers = {true};
+    EXPECT_FALSE(AskBeforeTheEnd());
+    EXPECT_EQ(SearchActive, False);
+    EndRun();
+    EXPECT_TRUE(Seen.LaterDeeds.empty());
+}
+
+TEST_F(WholeProgram, SettingsKeptDuringARunAreThePlayers)
+{
+    StartProgram("");
+    SolveMask = SinglesMask;
+    MaxXYLinks = 7;
+    const std::string own = ConfigurationBytes();
+    {
+        const KeptSettings kept;
+        SolveMask = RatingMask;
+        MaxXYLinks = 81;
+        {
+            const KeptSettings inner;
+            SolveMask = CountingMask;
+            EXPECT_EQ(ConfigurationBytes(), own);
+            EXPECT_EQ(SolveMask, CountingMask);
+        }
+        EXPECT_EQ(MaxXYLinks, 81);
+        KeepBeforeAsking();
+    }
+    EXPECT_EQ(Folders.ReadSetting("config.sdu"), own);
 }
 
 TEST_F(WholeProgram, EndDuringAShortRunWaitsForIt)

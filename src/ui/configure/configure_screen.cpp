@@ -1,6 +1,7 @@
 #include "ui/configure/configure_screen.h"
 
 #include "game/screens.h"
+#include "game/search.h"
 #include "grid/grid.h"
 #include "outside/screens.h"
 #include "paint/text.h"
@@ -260,7 +261,7 @@ bool ConfigureScreen::focusNextPrevChild(bool next)
 // While a search runs the settings stand still: nothing that the player does here is taken.
 bool ConfigureScreen::eventFilter(QObject *watched, QEvent *event)
 {
-    if (SearchActive == False || !IsInput(event->type())) {
+    if (!IsBusy() || !IsInput(event->type())) {
         return false;
     }
     const auto *widget = qobject_cast<const QWidget *>(watched);

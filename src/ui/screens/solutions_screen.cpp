@@ -44,7 +44,7 @@ QPointer<SolutionsScreen> solutionsScreen;
 // While a search runs the screen does nothing but ask whether to stop a listing.
 void AskToStop()
 {
-    if (SearchKind == ListingSolutions) {
+    if (SearchKind == ListingSolutions && SearchActive != False) {
         QueryStopSearch();
     }
 }

@@ -3,6 +3,7 @@
 #include "files/game_file.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
+#include "logic/driver.h"
 #include "program/program.h"
 #include "ui/window/main_window.h"
 
@@ -140,7 +141,12 @@ void WatchForTheEnd()
 
 bool EndAsAgreed()
 {
-    if (!toldToGo || answeredGame != Grid) {
+    if (!toldToGo || !answeredGame) {
+        return false;
+    }
+    if (RunUnderWay != False && !wasAsked) {
+        SearchActive = False; // it ends with the program
+    } else if (RunUnderWay != False || answeredGame != Grid) {
         return false;
     }
     if (wasAsked) {
