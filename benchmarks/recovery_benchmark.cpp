@@ -43,7 +43,7 @@ void KeyPress(benchmark::State &state, const char *folder)
     std::ranges::sort(times);
     state.counters["median_us"] = times[times.size() / 2];
     state.counters["worst_us"] = times.back();
-    RemoveRecovery();
+    EndRecovery(true);
 }
 
 BENCHMARK_CAPTURE(KeyPress, disk, "/var/tmp")->UseManualTime();

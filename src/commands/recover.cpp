@@ -35,7 +35,8 @@ void OfferLostGames()
             ShowGameThatCameBack();
             return;
         }
-        if (!PutLostGameAside()) {
+        // A question that went with the program has decided nothing.
+        if (RecoveryHasEnded() || !PutLostGameAside()) {
             return; // else it would be offered for ever
         }
     }

@@ -127,6 +127,9 @@ Place lost;
 // What stands in the own file, or is on its way there; empty when nothing does.
 std::string kept;
 
+// Set at the end of the program.
+bool hasEnded = false;
+
 // Set when the player knows that the game is not safe, until it is again.
 bool failureTold = false;
 
@@ -165,6 +168,13 @@ void RemoveOwnFile()
         std::filesystem::remove(own.Path, unseen);
         kept.clear();
     }
+}
+
+void GiveUpPlace()
+{
+    EndWrite();
+    RemoveOwnFile();
+    own = {};
 }
 
 // ---- Writing ---------------------------------------------------------------------------------
@@ -215,6 +225,7 @@ bool LastWriteIsDone()
 void SetRecoveryDefaults()
 {
     EndWrite();
+    hasEnded = false;
     own = {};
     lost = {};
     kept.clear();
@@ -235,6 +246,9 @@ void RecoveryTick()
 
 bool WriteRecovery()
 {
+    if (hasEnded) {
+        return true;
+    }
     if (!EndWrite().empty()) {
         kept.clear();
     }
@@ -257,10 +271,17 @@ void DropRecovery()
     RemoveOwnFile();
 }
 
-void RemoveRecovery()
+void EndRecovery(bool answered)
 {
-    DropRecovery();
-    own = {};
+    hasEnded = true;
+    if (answered) {
+        GiveUpPlace();
+    }
+}
+
+bool RecoveryHasEnded()
+{
+    return hasEnded;
 }
 
 // ---- Games of programs that have gone --------------------------------------------------------
@@ -285,7 +306,7 @@ bool TakeLostGame()
         !IsWholeGame(bytes) || !ReadGame(bytes)) {
         return false;
     }
-    RemoveRecovery();
+    GiveUpPlace();
     own = std::move(lost);
     kept = bytes;
     TakeItsFile(bytes);

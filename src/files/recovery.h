@@ -26,8 +26,10 @@ bool WriteRecovery();
 // The game in hand stands in a file of the player's: its recovery file goes until the next change.
 void DropRecovery();
 
-// The program ends in good order: its recovery file goes, and the lock on it.
-void RemoveRecovery();
+// The program ends: nothing is written any more, and no lost game is taken or put aside. Once the
+// player has answered for the game, its recovery file goes, too.
+void EndRecovery(bool answered);
+bool RecoveryHasEnded();
 
 // ---- Games of programs that have gone ------------------------------------------------------
 

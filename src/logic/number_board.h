@@ -45,7 +45,7 @@ inline constexpr CellLanes ColumnGuards = InAllStacks(InThreeColumns(0x200));
 // The cell of a lane and bit.
 constexpr std::size_t ScanIndex(std::size_t stack, unsigned bit)
 {
-    return stack * 27 + bit / 10 * 9 + bit % 10;
+    return stack * 27 + std::size_t{bit / 10} * 9 + bit % 10;
 }
 
 inline bool IsAny(CellLanes cells)

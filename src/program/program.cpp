@@ -51,7 +51,7 @@ bool MayEndRun()
 void BeginGame(const std::string &gameFile)
 {
     OfferLostGames();
-    if (gameFile.empty()) {
+    if (gameFile.empty() || RecoveryHasEnded()) {
         return;
     }
     QuerySaveGame();
@@ -111,6 +111,7 @@ void KeepSettings()
 void EndProgramUnasked()
 {
     SetRecoveryTimer(false, RecoveryInterval);
+    EndRecovery(false);
     StopSound();
     KeepMainPlace();
     std::string untold; // nobody may be there to be told
@@ -120,7 +121,7 @@ void EndProgramUnasked()
 void EndProgramAnswered()
 {
     SetRecoveryTimer(false, RecoveryInterval);
-    RemoveRecovery();
+    EndRecovery(true);
     StopSound();
     KeepSettings();
 }

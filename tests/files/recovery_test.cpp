@@ -177,7 +177,7 @@ TEST_F(Recovery, SavedGameNeedsNoFile)
     GameModified = False;
     TickAndWrite();
     EXPECT_EQ(Files(), Texts{"recovery-1.lock"});
-    RemoveRecovery();
+    EndRecovery(true);
     EXPECT_EQ(Files(), Texts{});
 }
 
@@ -201,7 +201,7 @@ TEST_F(Recovery, OrderlyEndLeavesNothingEvenInTheMiddleOfAWrite)
 {
     Play();
     RecoveryTick();
-    RemoveRecovery();
+    EndRecovery(true);
     EXPECT_EQ(Files(), Texts{});
 }
 
@@ -317,7 +317,7 @@ TEST_F(Recovery, FileBeforeAFailureGoesAtAnOrderlyEndToo)
     EXPECT_FALSE(WriteRecovery());
     std::filesystem::remove(folder.substr(0, folder.size() - 1));
     std::filesystem::rename(folder.substr(0, folder.size() - 1) + ".away", folder);
-    RemoveRecovery();
+    EndRecovery(true);
     EXPECT_FALSE(FileExists(folder + "recovery-1.sdk"));
 }
 
@@ -360,7 +360,7 @@ TEST_F(Recovery, GameThatCameBackStaysSafeAndGoesWithAnOrderlyEnd)
     Play();
     TickAndWrite();
     EXPECT_TRUE(Kept() == GameFileBytes() + "GR");
-    RemoveRecovery();
+    EndRecovery(true);
     EXPECT_EQ(Files(), Texts{});
 }
 
@@ -411,6 +411,25 @@ TEST_F(Recovery, NoKeepsTheGameUnderItsDate)
     EXPECT_TRUE(ReadGameFile(RecoveredFolder() + "2026-11-22 10.00.00.sdk"));
     OfferLostGames();
     EXPECT_EQ(Seen.Questions.size(), 1U) << "it is not offered again";
+}
+
+TEST_F(Recovery, QuestionThatGoesWithTheProgramDecidesNothing)
+{
+    Killed([] {
+        Play();
+        TickAndWrite();
+    });
+    const std::string game = Kept();
+    StartAnew();
+    Seen.OnBox = [] {
+        EndRecovery(true);
+    };
+    OfferLostGames();
+    EXPECT_EQ(Seen.Questions.size(), 1U);
+    EXPECT_TRUE(Kept() == game);
+    EXPECT_FALSE(std::filesystem::exists(RecoveredFolder()));
+    EXPECT_TRUE(WriteRecovery()) << "and nothing is written after the end";
+    EXPECT_TRUE(Kept() == game);
 }
 
 TEST_F(Recovery, NewestTenAreKeptAndOtherFilesStay)

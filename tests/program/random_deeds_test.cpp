@@ -210,7 +210,7 @@ TEST_F(HoursOfPlay, LeaveMemoryAndDescriptorsAsTheyWere)
     constexpr std::size_t texts = 100'000; // of the game, of solutions, of what was recorded last
     EXPECT_LT(HeapInUse(), memory + texts);
     EXPECT_LE(OpenDescriptors(), descriptors);
-    RemoveRecovery();
+    EndRecovery(true);
     EXPECT_LE(Folder.Entries(), 2) << "the two games and nothing else";
 }
 

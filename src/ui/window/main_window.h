@@ -74,7 +74,7 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
-    bool asking = false; // the same
+    bool asking = false; // what a closing asks
 };
 
 // The one main window, or null before it stands and after it has gone.

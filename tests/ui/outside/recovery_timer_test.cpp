@@ -16,7 +16,7 @@ class RecoveryTimer : public ::testing::Test {
 protected:
     ~RecoveryTimer() override
     {
-        RemoveRecovery();
+        EndRecovery(true);
     }
 
     [[nodiscard]] QTimer *Timer() const
