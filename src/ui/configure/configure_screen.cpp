@@ -121,7 +121,10 @@ ConfigureScreen::ConfigureScreen(QWidget *parent)
         panels[tab]->hide();
         size = size.expandedTo(panels[tab]->minimumSizeHint());
     }
-    setMinimumSize(std::max({SmallestWidth, size.width(), strip->WidthForTexts()}),
+    // A panel that is wider than the narrowest screen needs its width beside the scroll bar as
+    // well.
+    const int beside = size.width() > SmallestWidth ? scrollBar->sizeHint().width() : 0;
+    setMinimumSize(std::max({SmallestWidth, size.width() + beside, strip->WidthForTexts()}),
                    strip->Height() + LowestContainer);
     resize(minimumWidth(), strip->Height() + size.height());
     AddAccessKeys();
@@ -201,7 +204,8 @@ void ConfigureScreen::ArrangePanels()
     scrollBar->setGeometry(width() - barWidth, stripHeight, barWidth, room);
     scrollBar->setVisible(!fits);
     if (panel != nullptr) {
-        panel->resize(std::max(needed.width() - barWidth, container->width()),
+        panel->resize(std::max({panel->minimumSizeHint().width(), needed.width() - barWidth,
+                                container->width()}),
                       std::max(needed.height(), room));
         if (fits) {
             panel->move(0, 0);

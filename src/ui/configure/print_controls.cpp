@@ -136,6 +136,7 @@ QPushButton *MakePrintButton(QWidget *panel)
 void Arrange(const PrintControls &on, QWidget *panel)
 {
     auto *settings = new QVBoxLayout;
+    settings->setSpacing(4); // with which the panel needs no scroll bar in wide letters either
     settings->addWidget(on.Modes[PrintCurrent]);
     settings->addWidget(on.PlaceFrame);
     settings->addWidget(on.Modes[PrintNewGames]);
