@@ -40,8 +40,7 @@ def plays(desktop, game, told_as=None):
 
 def ends_with_a_word(desktop, game, name):
     """Closes a window whose settings cannot be written."""
-    game.focus()
-    desktop.key("alt+F4")
+    desktop.close(game.window)
     desktop.answer("alt+n", other_than=[game.window])  # save first?
     words = told(desktop, game, f"{name}_settings")
     wait_for(lambda: game.process.poll() is not None, "the program to end")

@@ -204,11 +204,29 @@ class Desktop:
         except (error.BadWindow, error.BadDrawable):
             return False
 
+    def is_box(self, window):
+        try:
+            return self.server.create_resource_object("window", int(window)).get_wm_transient_for()
+        except (error.BadWindow, error.BadDrawable):
+            return True
+
     def key(self, *keys):
         self.xdotool("key", "--delay", "15", *keys)
 
     def type(self, text):
         self.xdotool("type", "--delay", "15", text)
+
+    def close(self, window):
+        """Closes a window as a click on the cross of its frame does. Alt+F4 would be the manager's
+        key: it takes its keys anew when a keyboard is used for the first time, and what is pressed
+        in between goes to the program, which has no use for it."""
+        target = self.server.create_resource_object("window", int(window))
+        request = ClientMessage(window=target,
+                                client_type=self.server.get_atom("_NET_CLOSE_WINDOW"),
+                                data=(32, [X.CurrentTime, 0, 0, 0, 0]))
+        self.root.send_event(request, event_mask=X.SubstructureRedirectMask)
+        self.server.sync()
+        self.settle()
 
     def focus(self, window):
         """Brings a window to the front and waits until it has the keyboard. What the manager does not
@@ -318,7 +336,9 @@ class Game:
 
     def main_window(self):
         expect_alive(self.process)
-        return next(iter(self.desktop.windows("^Kelvarine")), None)
+        # A box may be there as soon as it, under the same title; but that belongs to it.
+        return next((window for window in self.desktop.windows("^Kelvarine")
+                     if not self.desktop.is_box(window)), None)
 
     def focus(self):
         """Brings the window to the front; not while a box is about to stand above it, for then the
@@ -361,8 +381,7 @@ class Game:
 
     def end(self, save_first=None):
         """Closes the window as a player does, and gives the program's result."""
-        self.focus()
-        self.desktop.key("alt+F4")
+        self.desktop.close(self.window)
         if save_first:
             self.desktop.answer(save_first, other_than=[self.window])
         wait_for(lambda: self.process.poll() is not None, "the program to end")

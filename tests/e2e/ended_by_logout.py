@@ -43,7 +43,7 @@ def over_the_closing_question(desktop, program, session):
     story = Story(desktop, program, session.before)
     story.modify()
     files = contents(desktop)
-    desktop.key("alt+F4")
+    desktop.close(story.game.window)
     story.box()
     known = session.heard().count("refuses")
     session.log_out()

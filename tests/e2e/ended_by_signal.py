@@ -18,7 +18,7 @@ def over_the_closing_question(desktop, program):
     story = Story(desktop, program)
     story.modify()
     files = contents(desktop)
-    desktop.key("alt+F4")
+    desktop.close(story.game.window)
     story.box()
     end(story)  # what it asks is asked already
     desktop.key("alt+y")

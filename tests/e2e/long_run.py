@@ -50,7 +50,7 @@ def main():
         stops(desktop, game, "a key", lambda: desktop.key("5"))
         stops(desktop, game, "a click", lambda: game.click(5, 1))
         stops(desktop, game, "a menu", lambda: desktop.key("alt+a"))
-        stops_and_closes(desktop, game, "closing", lambda: desktop.key("alt+F4"))
+        stops_and_closes(desktop, game, "closing", lambda: desktop.close(game.window))
         stops_and_closes(desktop, game, "a signal",
                          lambda: game.process.send_signal(signal.SIGTERM))
         expect(game.end(save_first="alt+n") == 0, "the program ends")

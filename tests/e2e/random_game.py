@@ -52,7 +52,7 @@ def stops_a_search(desktop, program):
         "a key": lambda: desktop.key("5"),
         "a click": lambda: game.click(5, 1),
         "a menu": lambda: desktop.key("alt+a"),
-        "closing the window": lambda: desktop.key("alt+F4"),
+        "closing the window": lambda: desktop.close(game.window),
     }
     for way, act in ways.items():
         desktop.key("ctrl+n")
