@@ -95,4 +95,11 @@ CellFill FillOf(Cell cell)
     return colour == 0 ? Plain(word) : Coloured(colour);
 }
 
+CellFills FillsOfCells()
+{
+    CellFills fills;
+    std::transform(Cells.begin(), Cells.end(), fills.begin(), FillOf);
+    return fills;
+}
+
 } // namespace kelvarine

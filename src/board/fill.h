@@ -6,6 +6,7 @@
 #include "grid/colour.h"
 #include "grid/houses.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 
@@ -20,5 +21,9 @@ struct CellFill {
 
 // Fill of a cell of Grid. Where the win display asks for random colours each call draws one.
 CellFill FillOf(Cell cell);
+
+// Fills of all cells of Grid, in scan order, each asked for once.
+using CellFills = std::array<CellFill, Cells.size()>;
+CellFills FillsOfCells();
 
 } // namespace kelvarine

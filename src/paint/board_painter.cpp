@@ -1,9 +1,11 @@
 #include "paint/board_painter.h"
 
+#include "board/fill.h"
 #include "board/look.h"
 #include "game/clock.h"
 #include "grid/colour.h"
 #include "grid/grid.h"
+#include "grid/houses.h"
 #include "outside/board.h"
 #include "paint/cell_painter.h"
 #include "paint/grid_painter.h"
@@ -11,6 +13,7 @@
 #include "paint/number_painter.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace kelvarine {
@@ -28,6 +31,59 @@ QImage BlackPicture(QSize size, double ratio)
     picture.fill(Qt::black);
     picture.setDevicePixelRatio(ratio);
     return picture;
+}
+
+// Pixels of a strip of the picture that stay in the processor's cache while all that lies on it is
+// painted.
+constexpr int StripPixels = 192 * 1024;
+
+// Hands a canvas to paint strip by strip, from the top down.
+template <typename Paint>
+void InStrips(const Canvas &canvas, int lines, const Paint &paint)
+{
+    for (int top = 0; top < canvas.DeviceHeight; top += lines) {
+        const int bottom = std::min(canvas.DeviceHeight - top, lines) + top;
+        paint(Within(canvas, {0, top, canvas.DeviceWidth, bottom}));
+    }
+}
+
+// Does what draw does for each cell, in scan order, that touches a canvas with what it may paint so
+// many logical pixels above and below it.
+template <typename Draw>
+void ForCellsNear(const Canvas &canvas, int reach, const Draw &draw)
+{
+    std::array<bool, 10> near{};
+    for (int row = 1; row <= 9; ++row) {
+        const int y = CellY(row);
+        near[static_cast<std::size_t>(row)] =
+            TouchesLines(canvas, y - reach, y + CellHeight + reach);
+    }
+    for (const Cell cell : Cells) {
+        if (near[cell.Row]) {
+            draw(cell);
+        }
+    }
+}
+
+void PaintNumbers(const Canvas &canvas, int reach)
+{
+    ForCellsNear(canvas, reach, [&](Cell cell) { DrawNumbers(canvas, cell); });
+}
+
+void PaintCells(const Canvas &canvas, const CellFills &fills)
+{
+    DrawPrimaryGrid(canvas);
+    CloseGrid(canvas);
+    DrawSecondaryGrid(canvas);
+    if (canvas.Paper != nullptr) {
+        TextureBackground(canvas);
+    } else {
+        TextureUncovered(canvas, fills);
+    }
+    DrawExteriorBorder(canvas);
+    ForCellsNear(canvas, FrameThickness, [&](Cell cell) {
+        DrawCell(canvas, cell, fills[static_cast<std::size_t>(CellIndex(cell.Column, cell.Row))]);
+    });
 }
 
 } // namespace
@@ -56,21 +112,12 @@ QImage &VisibleBoardPicture()
 
 void PaintCells(const Canvas &canvas)
 {
-    DrawPrimaryGrid(canvas);
-    CloseGrid(canvas);
-    DrawSecondaryGrid(canvas);
-    TextureBackground(canvas);
-    DrawExteriorBorder(canvas);
-    for (const Cell cell : Cells) {
-        DrawCell(canvas, cell);
-    }
+    PaintCells(canvas, FillsOfCells());
 }
 
 void PaintNumbers(const Canvas &canvas)
 {
-    for (const Cell cell : Cells) {
-        DrawNumbers(canvas, cell);
-    }
+    PaintNumbers(canvas, NumberReach(canvas.Ratio));
 }
 
 namespace {
@@ -96,20 +143,32 @@ void PaintLeftOver(const Canvas &canvas)
 
 void PaintBoard(QImage &picture)
 {
+    PaintBoardInStrips(picture, std::max(1, StripPixels / std::max(1, picture.width())));
+}
+
+void PaintBoardInStrips(QImage &picture, int lines)
+{
     const Canvas canvas = BoardCanvasOf(picture);
     if (canvas.Pixels == nullptr) {
         return;
     }
     PaintLeftOver(canvas);
-    // 1. Lines, what grains and frames them, and cells.
-    PaintCells(canvas);
-
-    // 2. Links and chains, under the numbers.
-    DrawLinks(picture);
-
-    // 3. Numbers, hidden while the game is paused.
-    if (!IsPaused()) {
-        PaintNumbers(canvas);
+    const CellFills fills = FillsOfCells();
+    const int reach = NumberReach(canvas.Ratio);
+    const bool numbers = !IsPaused(); // hidden while the game is paused
+    // Links and smoothed lines are not drawn in strips, and links lie under all numbers.
+    const bool divided = ShowsLinks() || HasSmoothLines(canvas);
+    InStrips(canvas, lines, [&](const Canvas &strip) {
+        PaintCells(strip, fills);
+        if (numbers && !divided) {
+            PaintNumbers(strip, reach);
+        }
+    });
+    if (divided) {
+        DrawLinks(picture);
+        if (numbers) {
+            PaintNumbers(canvas, reach);
+        }
     }
 }
 

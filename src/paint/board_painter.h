@@ -29,6 +29,10 @@ extern std::int64_t BoardsPainted;
 // is.
 void PaintBoard(QImage &picture);
 
+// The same, strip by strip of so many device lines, at least 1. The pixels are the same for any
+// number; one whose strip fits the processor's cache is fastest.
+void PaintBoardInStrips(QImage &picture, int lines);
+
 // Two steps of the painting, for pictures and for paper: the grid with the fills and frames of the
 // cells of Grid, and the numbers in view.
 void PaintCells(const Canvas &canvas);

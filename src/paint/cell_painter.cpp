@@ -1,6 +1,5 @@
 #include "paint/cell_painter.h"
 
-#include "board/fill.h"
 #include "board/look.h"
 #include "grid/grid.h"
 #include "paint/frame_painter.h"
@@ -14,7 +13,6 @@ namespace kelvarine {
 
 namespace {
 
-constexpr int FrameThickness = 2; // also the inset, so the frame ends at the edge of the cell
 constexpr int RingPen = 2;
 
 // The alert ring in a cell of a size, kept because all cells of a board share it.
@@ -60,13 +58,13 @@ const Mask &RingFor(QSize device)
     return ring.Shape;
 }
 
-void FillCell(const Canvas &canvas, Cell cell, int x, int y)
+void FillCell(const Canvas &canvas, const CellFill &fill, const Rectangle &place)
 {
-    const CellFill fill = FillOf(cell);
     if (fill.Paint.has_value()) {
-        FillCorners(canvas, {x, y}, {x + CellWidth - 1, y + CellHeight - 1}, *fill.Paint);
+        FillTextured(canvas, place, *fill.Paint, fill.Texture);
+    } else {
+        TextureRectangle(canvas, place, fill.Texture);
     }
-    TextureRectangle(canvas, {x, y, CellWidth, CellHeight}, fill.Texture);
 }
 
 void FrameCell(const Canvas &canvas, CellWord word, int x, int y)
@@ -82,12 +80,12 @@ void FrameCell(const Canvas &canvas, CellWord word, int x, int y)
 
 } // namespace
 
-void DrawCell(const Canvas &canvas, Cell cell)
+void DrawCell(const Canvas &canvas, Cell cell, const CellFill &fill)
 {
     const CellWord word = WordAt(cell);
     const int x = CellX(cell.Column);
     const int y = CellY(cell.Row);
-    FillCell(canvas, cell, x, y);
+    FillCell(canvas, fill, {x, y, CellWidth, CellHeight});
     FrameCell(canvas, word, x, y);
     if ((word & AlertBit) != 0) {
         BlendMask(canvas, RingFor(DeviceSizeOf(canvas, x, y)), {x, y}, ColourTable[AlertColour]);

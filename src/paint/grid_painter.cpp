@@ -7,6 +7,7 @@
 #include "paint/frame_painter.h"
 #include "paint/texture_painter.h"
 
+#include <algorithm>
 #include <array>
 
 namespace kelvarine {
@@ -69,6 +70,32 @@ void DrawSecondaryLines(const Canvas &canvas, Cell cell)
     }
 }
 
+bool IsCovered(const CellFills &fills, int column, int row)
+{
+    return fills[static_cast<std::size_t>(CellIndex(column, row))].Paint.has_value();
+}
+
+// Textures the lines of a canvas that a row of cells lies on, but for the cells that are covered.
+// A texture laid twice is the same as once, so it does no harm if cells overlap.
+void TextureBetweenCells(const Canvas &canvas, const CellFills &fills, int row)
+{
+    int open = canvas.Clip.Left; // the pixels before are done
+    for (int column = 1; column <= 9; ++column) {
+        if (!IsCovered(fills, column, row)) {
+            continue;
+        }
+        const DeviceArea cell =
+            DevicePart(canvas, {CellX(column), CellY(row), CellWidth, CellHeight});
+        if (open < cell.Left) {
+            TextureBackground(
+                Within(canvas, {open, canvas.Clip.Top, cell.Left, canvas.Clip.Bottom}));
+        }
+        open = std::max(open, cell.Right);
+    }
+    TextureBackground(
+        Within(canvas, {open, canvas.Clip.Top, canvas.Clip.Right, canvas.Clip.Bottom}));
+}
+
 } // namespace
 
 void DrawPrimaryGrid(const Canvas &canvas)
@@ -117,6 +144,27 @@ void TextureBackground(const Canvas &canvas)
 {
     TextureRectangle(canvas, {BorderThickness, BorderThickness, canvas.Width, canvas.Height},
                      GridTexture);
+}
+
+void TextureUncovered(const Canvas &canvas, const CellFills &fills)
+{
+    if (GridTexture == NoTexture) {
+        return;
+    }
+    const DeviceArea &clip = canvas.Clip;
+    int open = clip.Top;
+    for (int row = 1; row <= 9; ++row) {
+        const DeviceArea cell = DevicePart(canvas, {CellX(1), CellY(row), CellWidth, CellHeight});
+        if (open < cell.Top) {
+            TextureBackground(Within(canvas, {clip.Left, open, clip.Right, cell.Top}));
+        }
+        if (cell.Top < cell.Bottom) {
+            TextureBetweenCells(Within(canvas, {clip.Left, cell.Top, clip.Right, cell.Bottom}),
+                                fills, row);
+        }
+        open = std::max(open, cell.Bottom);
+    }
+    TextureBackground(Within(canvas, {clip.Left, open, clip.Right, clip.Bottom}));
 }
 
 void DrawExteriorBorder(const Canvas &canvas)

@@ -2,6 +2,7 @@
 // border round it all.
 #pragma once
 
+#include "board/fill.h"
 #include "paint/pixel_painter.h"
 
 namespace kelvarine {
@@ -17,6 +18,9 @@ void DrawSecondaryGrid(const Canvas &canvas);
 
 // Texture over everything inside the border.
 void TextureBackground(const Canvas &canvas);
+
+// The same where the fills of the cells will leave it to be seen.
+void TextureUncovered(const Canvas &canvas, const CellFills &fills);
 
 // The raised border round the board.
 void DrawExteriorBorder(const Canvas &canvas);

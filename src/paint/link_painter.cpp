@@ -41,22 +41,30 @@ void DrawDiscs(QPainter &painter, const std::vector<Disc> &discs)
     }
 }
 
+bool ShowsChain()
+{
+    return ChainColumns[0] > 0;
+}
+
 } // namespace
+
+bool ShowsLinks()
+{
+    return WinDisplayRunning == False && (ShowsStrongLinks() || ShowsChain());
+}
 
 void DrawLinks(QImage &picture)
 {
-    const bool links = ShowsStrongLinks();
-    const bool chain = ChainColumns[0] > 0;
-    if (WinDisplayRunning != False || (!links && !chain)) {
+    if (!ShowsLinks()) {
         return;
     }
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(ToolkitColour(ColourTable[AlertColour]), LinkPen));
-    if (links) {
+    if (ShowsStrongLinks()) {
         DrawLines(painter, StrongLinks());
     }
-    if (chain) {
+    if (ShowsChain()) {
         const ChainDrawing drawing = ChainOnBoard();
         DrawLines(painter, drawing.Lines);
         DrawDiscs(painter, drawing.Discs);

@@ -5,6 +5,9 @@ class QImage;
 
 namespace kelvarine {
 
+// True when DrawLinks paints anything.
+bool ShowsLinks();
+
 // Paints what the settings, the numbers in view and the chain ask for; nothing while the win
 // display runs.
 void DrawLinks(QImage &picture);

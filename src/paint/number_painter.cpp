@@ -157,6 +157,16 @@ void DrawDigit(const Canvas &canvas, const PlacedNumber &placed, Colour colour)
     }
 }
 
+NumberLayout LayoutOf(CellWord word)
+{
+    return (word & GivenBit) != 0 ? NumberLayout::One : LayoutFor(CandidatesIn(word));
+}
+
+bool ShowsRuledLines()
+{
+    return PencilmarkLines != False && NumberFilter == CandidateMask;
+}
+
 void DrawGiven(const Canvas &canvas, CellWord word, Cell cell)
 {
     if (const int number = LowestCandidate(word); number != 0) {
@@ -166,6 +176,24 @@ void DrawGiven(const Canvas &canvas, CellWord word, Cell cell)
 
 } // namespace
 
+int NumberReach(double ratio)
+{
+    double points = 0;
+    for (const Cell cell : Cells) {
+        if (const NumberLayout layout = LayoutOf(WordAt(cell)); layout != NumberLayout::None) {
+            points = std::max(points, FontSizeOf(layout));
+        }
+    }
+    return points > 0 ? DigitAt(points, ratio, 0).Height + 1 : 0;
+}
+
+bool HasSmoothLines(const Canvas &canvas)
+{
+    return HasFinerPixels(canvas) && ShowsRuledLines() &&
+           std::any_of(Cells.begin(), Cells.end(),
+                       [](Cell cell) { return LayoutOf(WordAt(cell)) == NumberLayout::Pair; });
+}
+
 void DrawNumbers(const Canvas &canvas, Cell cell)
 {
     const CellWord word = WordAt(cell);
@@ -173,8 +201,8 @@ void DrawNumbers(const Canvas &canvas, Cell cell)
         DrawGiven(canvas, word, cell);
         return;
     }
-    const NumberLayout layout = LayoutFor(CandidatesIn(word));
-    if (PencilmarkLines != False && NumberFilter == CandidateMask) {
+    const NumberLayout layout = LayoutOf(word);
+    if (ShowsRuledLines()) {
         DrawRuledLines(canvas, layout, cell);
     }
     int place = 0; // counts the candidates out of view, too

@@ -17,6 +17,16 @@
 
 namespace kelvarine {
 
+inline constexpr std::uint32_t Opaque = 0xFF000000; // of every pixel of a picture
+
+// Part of a picture in device pixels, the ends not included.
+struct DeviceArea {
+    int Left = 0;
+    int Top = 0;
+    int Right = 0;
+    int Bottom = 0;
+};
+
 // The pixels of a picture, open for painting. Good as long as the picture is neither resized nor
 // copied.
 struct Canvas {
@@ -29,22 +39,26 @@ struct Canvas {
     double Ratio = 1;
     DeviceAxis Across; // where logical pixels lie among those of the device
     DeviceAxis Down;
+    DeviceArea Clip;   // what strokes may touch
+    int FirstLine = 0; // logical lines; strokes wholly above the first or below the last miss Clip
+    int LastLine = 0;
     QPainter *Paper = nullptr; // draws the strokes on paper besides, in logical pixels
 };
 
-// How far each pixel of a small picture is covered, 0..255, line by line.
+// Neighbours on a line of a mask that are covered, all of them wholly or each as far as it is.
+struct MaskRun {
+    int Begin = 0; // device pixels from the left, the end not included
+    int End = 0;
+    bool Whole = false;
+};
+
+// How far each pixel of a small picture is covered, 0..255, line by line, and where it is at all.
 struct Mask {
     int Width = 0; // device pixels
     int Height = 0;
     std::vector<std::uint8_t> Coverage;
-};
-
-// Part of a picture in device pixels, the ends not included.
-struct DeviceArea {
-    int Left = 0;
-    int Top = 0;
-    int Right = 0;
-    int Bottom = 0;
+    std::vector<MaskRun> Runs;         // line by line, from left to right
+    std::vector<std::size_t> RunsUpTo; // entry k counts those above line k; Height + 1 entries
 };
 
 // Opens a picture of format RGB32; any other gives a canvas without pixels.
@@ -62,11 +76,17 @@ Canvas BoardCanvasOf(QImage &picture);
 // gained by looking at them; paper is none of these.
 bool HasFinerPixels(const Canvas &canvas);
 
+// The same canvas with its strokes kept within a part of what they could touch before.
+Canvas Within(const Canvas &canvas, const DeviceArea &part);
+
+// False when nothing that is painted between two logical lines, both included, can touch the clip.
+bool TouchesLines(const Canvas &canvas, int first, int last);
+
 // Device pixel at which a logical pixel begins, not clipped.
 int DeviceX(const Canvas &canvas, int x);
 int DeviceY(const Canvas &canvas, int y);
 
-// Device pixels of a rectangle that lie in the picture.
+// Device pixels of a rectangle that strokes may touch.
 DeviceArea DevicePart(const Canvas &canvas, const Rectangle &rectangle);
 
 // Fills the rectangle between two of its corners, both included, given in any order.

@@ -50,17 +50,37 @@ const QImage &TileFor(std::int32_t texture, double ratio)
     return tileSet.Tiles[static_cast<std::size_t>(texture)];
 }
 
-// ANDs a line of a tile, repeated, onto the pixels from left to right; the tile began at origin.
-void TextureLine(std::uint32_t *pixels, int left, int right, const std::uint32_t *tile, int side,
-                 int origin)
+bool IsTile(std::int32_t texture)
 {
-    while (left < right) {
-        const int begin = (left - origin) % side;
-        const int length = std::min(side - begin, right - left);
-        for (int k = 0; k < length; ++k) {
-            pixels[left + k] &= tile[begin + k];
+    return texture > NoTexture && texture < TileCount;
+}
+
+// Walks over an area of a rectangle line by line, tile by tile, and hands every stretch to lay:
+// its pixels, those of the tile that come upon them, and how many there are.
+template <typename Lay>
+void LayTiles(const Canvas &canvas, const Rectangle &rectangle, std::int32_t texture,
+              const Lay &lay)
+{
+    const DeviceArea area = DevicePart(canvas, rectangle);
+    if (area.Left == area.Right || area.Top == area.Bottom) {
+        return;
+    }
+    const QImage &tile = TileFor(texture, canvas.Ratio);
+    const int side = tile.width();
+    const int originX = DeviceX(canvas, rectangle.X);
+    const int originY = DeviceY(canvas, rectangle.Y);
+    const int firstBegin = (area.Left - originX) % side;
+    for (int y = area.Top; y < area.Bottom; ++y) {
+        const auto *tileLine =
+            reinterpret_cast<const std::uint32_t *>(tile.constScanLine((y - originY) % side));
+        std::uint32_t *pixels = canvas.Pixels + y * canvas.Stride;
+        int begin = firstBegin;
+        for (int left = area.Left; left < area.Right;) {
+            const int length = std::min(side - begin, area.Right - left);
+            lay(pixels + left, tileLine + begin, length);
+            left += length;
+            begin = 0;
         }
-        left += length;
     }
 }
 
@@ -85,6 +105,9 @@ const QImage &KeptPicture(const QImage &picture)
 // Shows a part of the pixels on paper, each a sharp square.
 void ShowOnPaper(const Canvas &canvas, const DeviceArea &area)
 {
+    if (area.Left == area.Right || area.Top == area.Bottom) {
+        return;
+    }
     const auto *begin =
         reinterpret_cast<const uchar *>(canvas.Pixels + area.Top * canvas.Stride + area.Left);
     const QImage part(begin, area.Right - area.Left, area.Bottom - area.Top,
@@ -98,23 +121,37 @@ void ShowOnPaper(const Canvas &canvas, const DeviceArea &area)
 
 void TextureRectangle(const Canvas &canvas, const Rectangle &rectangle, std::int32_t texture)
 {
-    const DeviceArea area = DevicePart(canvas, rectangle);
-    if (texture <= NoTexture || texture >= TileCount || area.Left == area.Right ||
-        area.Top == area.Bottom) {
+    if (!IsTile(texture)) {
         return;
     }
-    const QImage &tile = TileFor(texture, canvas.Ratio);
-    const int originX = DeviceX(canvas, rectangle.X);
-    const int originY = DeviceY(canvas, rectangle.Y);
-    for (int y = area.Top; y < area.Bottom; ++y) {
-        const int tileLine = (y - originY) % tile.height();
-        TextureLine(canvas.Pixels + y * canvas.Stride, area.Left, area.Right,
-                    reinterpret_cast<const std::uint32_t *>(tile.constScanLine(tileLine)),
-                    tile.width(), originX);
-    }
+    LayTiles(canvas, rectangle, texture,
+             [](std::uint32_t *pixels, const std::uint32_t *tile, int length) {
+                 for (int k = 0; k < length; ++k) {
+                     pixels[k] &= tile[k];
+                 }
+             });
     if (canvas.Paper != nullptr) {
-        ShowOnPaper(canvas, area);
+        ShowOnPaper(canvas, DevicePart(canvas, rectangle));
     }
+}
+
+void FillTextured(const Canvas &canvas, const Rectangle &rectangle, Colour colour,
+                  std::int32_t texture)
+{
+    if (canvas.Paper != nullptr || !IsTile(texture)) {
+        FillCorners(canvas, {rectangle.X, rectangle.Y},
+                    {rectangle.X + rectangle.Width - 1, rectangle.Y + rectangle.Height - 1},
+                    colour);
+        TextureRectangle(canvas, rectangle, texture);
+        return;
+    }
+    LayTiles(
+        canvas, rectangle, texture,
+        [paint = Opaque | colour](std::uint32_t *pixels, const std::uint32_t *tile, int length) {
+            for (int k = 0; k < length; ++k) {
+                pixels[k] = paint & tile[k];
+            }
+        });
 }
 
 } // namespace kelvarine

@@ -13,4 +13,8 @@ inline constexpr int TileCount = TextureRange.Most + 1; // of the strip, with th
 // beneath by a bitwise AND. Nothing for the white tile 0 and for a number that is no tile.
 void TextureRectangle(const Canvas &canvas, const Rectangle &rectangle, std::int32_t texture);
 
+// Fills a rectangle with a colour that is textured as above, in one pass.
+void FillTextured(const Canvas &canvas, const Rectangle &rectangle, Colour colour,
+                  std::int32_t texture);
+
 } // namespace kelvarine

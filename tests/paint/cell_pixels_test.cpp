@@ -17,7 +17,7 @@ QImage CellPainted(CellWord word)
 {
     WordAt(Place) = word;
     QImage picture = EmptyPicture();
-    DrawCell(CanvasOf(picture), Place);
+    DrawCell(CanvasOf(picture), Place, FillOf(Place));
     return picture;
 }
 
