@@ -3,6 +3,7 @@
 #include "logic/counter.h"
 #include "logic/ordered_fillings.h"
 #include "support/positions.h"
+#include "support/quick_fields.h"
 #include "support/random_fields.h"
 #include "support/solution_counter.h"
 
@@ -11,6 +12,7 @@
 #include <algorithm>
 #include <map>
 #include <random>
+#include <string>
 
 namespace kelvarine::testing {
 namespace {
@@ -90,6 +92,39 @@ TEST(Counter, AgreesWithPlainBacktracking)
         const auto &[none, one, more] = counts[family];
         EXPECT_GT(none + one + more, fields / 9) << "plain backtracking ends, " << NameOf(family);
     }
+}
+
+// How the comparison of many fields went: the fields with no, one and more fillings, and those on
+// which plain backtracking did not end.
+struct Compared {
+    std::array<std::int64_t, 3> Of{};
+    std::int64_t Open = 0;
+};
+
+TEST(Counter, AgreesWithPlainBacktrackingOnFieldsOfEveryDensity)
+{
+    constexpr std::int64_t plainSteps = 1'000;
+    QuickFields fields(17);
+    Compared compared;
+    const std::int64_t count = FieldsToCompare(100'000);
+    for (std::int64_t round = 0; round < count; ++round) {
+        const CandidateField &field = fields.Next();
+        const std::size_t limit = round % 64 == 0 ? 20 : 2;
+        const auto plain = CountWithin(plainSteps, field, limit);
+        if (!plain.has_value()) {
+            ++compared.Open;
+            continue;
+        }
+        ++compared.Of[std::min<std::size_t>(*plain, 2)];
+        ASSERT_EQ(CountFillings(InScanOrder(field), static_cast<std::int32_t>(limit)),
+                  static_cast<std::int32_t>(*plain))
+            << "round " << round;
+    }
+    EXPECT_LT(compared.Open, count / 20);
+    for (const std::int64_t some : compared.Of) {
+        EXPECT_GT(some, count / 10) << "no, one and more fillings";
+    }
+    RecordProperty("compared", std::to_string(count - compared.Open));
 }
 
 // The fillings of a field as texts in scan order, in the order in which they come.

@@ -30,4 +30,8 @@ std::vector<Solution> SolutionsOf(const CandidateField &field, std::size_t limit
 std::optional<std::vector<Solution>>
 SolutionsWithin(std::int64_t steps, const CandidateField &field, std::size_t limit);
 
+// The number of them, at most limit, or nothing as above.
+std::optional<std::size_t> CountWithin(std::int64_t steps, const CandidateField &field,
+                                       std::size_t limit);
+
 } // namespace kelvarine::testing
