@@ -107,7 +107,12 @@ Canvas CanvasOf(QImage &picture)
 Canvas Within(const Canvas &canvas, const DeviceArea &part)
 {
     Canvas clipped = canvas;
-    SetClip(clipped, Cut(canvas, part));
+    const DeviceArea clip = Cut(canvas, part);
+    if (clip.Top == canvas.Clip.Top && clip.Bottom == canvas.Clip.Bottom) {
+        clipped.Clip = clip; // the lines are the same, and asked for oftenest
+    } else {
+        SetClip(clipped, clip);
+    }
     return clipped;
 }
 
@@ -149,16 +154,7 @@ int DeviceY(const Canvas &canvas, int y)
 
 void FillDeviceArea(const Canvas &canvas, const DeviceArea &area, Colour colour)
 {
-    constexpr int narrow = 4; // the lines of frames, which are many
     const DeviceArea seen = Cut(canvas, area);
-    if (seen.Right - seen.Left <= narrow) {
-        for (int x = seen.Left; x < seen.Right; ++x) {
-            for (int y = seen.Top; y < seen.Bottom; ++y) {
-                LineOf(canvas, y)[x] = Opaque | colour;
-            }
-        }
-        return;
-    }
     for (int y = seen.Top; y < seen.Bottom; ++y) {
         std::fill(LineOf(canvas, y) + seen.Left, LineOf(canvas, y) + seen.Right, Opaque | colour);
     }
