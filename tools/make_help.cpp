@@ -1,30 +1,25 @@
 // Makes what the pages of the help cannot hold as words: the table of keys, from the table that the
-// menus are built from, and the examples of the techniques, as the game itself paints and explains
-// them. Run by the build.
+// menus are built from, and the examples of the techniques, drawn by what
+// the game's own hint marks and says. Run by the build.
 //
 //   make_help keyboard PAGE OUTPUT            PAGE with the table of keys in place of @KEYS@
 //   make_help technique PAGE FRAME OUTPUT PICTURE
 //                                             PAGE with FRAME in place of @EXAMPLE@, and the
-//                                             picture of its position with the marks of the first
-//                                             hint
-#include "board/geometry.h"
-#include "board/look.h"
-#include "board/margin.h"
+//                                             picture of its position with the first hint on it, in
+//                                             a light form and, beside it, a dark one
 #include "files/text_format.h"
 #include "game/alert_scan.h"
 #include "grid/grid.h"
+#include "help_picture.h"
 #include "input/menu_table.h"
 #include "logic/rating.h"
+#include "logic/technique_table.h"
 #include "outside/whole_file.h"
-#include "paint/board_painter.h"
-#include "paint/margin_painter.h"
 #include "program/defaults.h"
 #include "ui/screens/help_page.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QImage>
-#include <QPainter>
 
 #include <cstdlib>
 #include <iostream>
@@ -36,8 +31,6 @@ namespace kelvarine {
 
 namespace {
 
-constexpr int PictureSide = 460; // logical pixels
-constexpr int PictureRatio = 2;
 constexpr std::int32_t FullHint = 5;
 
 [[noreturn]] void Fail(const std::string &words)
@@ -163,25 +156,22 @@ void ShowHintOn(const std::string &page)
     }
 }
 
-void PaintPicture(const std::string &path)
+// The technique that a page is named after.
+std::int32_t TechniqueOf(const std::string &page)
 {
-    MarginThickness = LeastTextMargin;
-    LayoutBoard(PictureSide, PictureSide, 0);
-    SetMarginDefaults();
+    const std::string name = QFileInfo(QString::fromStdString(page)).baseName().toStdString();
+    for (const TechniqueRow &row : Techniques) {
+        if (row.HelpPage == name) {
+            return row.Number;
+        }
+    }
+    Fail("no technique has the page " + page);
+}
 
-    QImage board(PictureRatio * BoardPlace.Width, PictureRatio * BoardPlace.Height,
-                 QImage::Format_RGB32);
-    board.setDevicePixelRatio(PictureRatio);
-    PaintBoard(board);
-
-    QImage picture(PictureRatio * PictureSide, PictureRatio * PictureSide, QImage::Format_RGB32);
-    picture.setDevicePixelRatio(PictureRatio);
-    QPainter painter(&picture);
-    PaintWindowTexts(painter, PictureSide, PictureSide);
-    painter.drawImage(QPoint(BoardPlace.X, BoardPlace.Y), board);
-    painter.end();
-    if (!picture.save(QString::fromStdString(path), "PNG")) {
-        Fail("cannot write " + path);
+void WritePicture(const PictureLook &look, std::int32_t technique, const QString &path)
+{
+    if (!HelpPicture(look, technique).save(path, "PNG", 0)) {
+        Fail("cannot write " + path.toStdString());
     }
 }
 
@@ -202,10 +192,11 @@ void MakeTechniquePage(const std::string &page, const std::string &frame, const 
 {
     std::string text = ReadText(page);
     ShowHintOn(text);
-    PaintPicture(picture);
+    const QFileInfo file(QString::fromStdString(picture));
+    WritePicture(LightPicture, TechniqueOf(page), file.filePath());
+    WritePicture(DarkPicture, TechniqueOf(page), DarkFormOf(file.filePath()));
 
     std::string example = ReadText(frame);
-    const QFileInfo file(QString::fromStdString(picture));
     Fill(example, "@PICTURE@", file.fileName().toStdString());
     Fill(example, "@TITLE@", Escaped(HintTitle));
     Fill(example, "@WORDS@", HintWords());

@@ -31,12 +31,18 @@ public:
 
 protected:
     QVariant loadResource(int type, const QUrl &name) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
-    [[nodiscard]] QVariant Picture(const QByteArray &bytes) const;
+    [[nodiscard]] QVariant Picture(const QUrl &name) const;
+    [[nodiscard]] bool IsDark() const;
+    void LoadAgain();
 
     const QHelpEngineCore &engine;
     int zoom = 0;
+    // What the pictures on view were made for.
+    double pictureRatio = 0;
+    bool pictureDark = false;
 };
 
 class HelpWindow : public QMainWindow {
@@ -55,8 +61,12 @@ public:
     QLineEdit *const SearchText;
     QListWidget *const SearchResults;
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void BuildToolBar();
+    void FocusPane();
     QWidget *BuildContents();
     QWidget *BuildIndex();
     QWidget *BuildSearch();
