@@ -180,8 +180,9 @@ QRectF Square(Cell cell)
 QRectF MarkSquare(Cell cell, int number)
 {
     const double side = PictureCellSide / 3.0;
-    const QPointF corner((number - 1) % 3 * side, static_cast<double>((number - 1) / 3) * side);
-    return {Square(cell).topLeft() + corner, QSizeF(side, side)};
+    const int column = (number - 1) % 3;
+    const int row = (number - 1) / 3;
+    return {Square(cell).topLeft() + QPointF(column * side, row * side), QSizeF(side, side)};
 }
 
 int LowestOf(CellWord numbers)

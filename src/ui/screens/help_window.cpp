@@ -312,15 +312,17 @@ QWidget *HelpWindow::BuildSearch()
 void HelpWindow::OpenLink(const QUrl &link)
 {
     if (link.scheme() == "copy") {
-        CopyPosition();
+        const std::string text = link.path().toStdString();
+        CopyPosition(text == "position" ? Browser->Position() : text);
     } else {
         Browser->setSource(Browser->source().resolved(link));
     }
 }
 
-void HelpWindow::CopyPosition()
+// Of a link, what stands behind "copy:" is a game as one line, or the word for the page's position.
+void HelpWindow::CopyPosition(const std::string &position)
 {
-    SetClipboardText(Browser->Position());
+    SetClipboardText(position);
     statusBar()->showMessage("The position is copied. Press Ctrl+V on the board.", MessageTime);
 }
 

@@ -71,7 +71,7 @@ private:
     QWidget *BuildIndex();
     QWidget *BuildSearch();
     void OpenLink(const QUrl &link);
-    void CopyPosition();
+    void CopyPosition(const std::string &position);
     void PageChanged(const QUrl &page);
     void Search();
     void ShowSearchResults();
