@@ -3,6 +3,7 @@
 // the game's own hint marks and says. Run by the build.
 //
 //   make_help keyboard PAGE OUTPUT            PAGE with the table of keys in place of @KEYS@
+//   make_help reference PAGE OUTPUT           PAGE with tables of menus and of the pages beside it
 //   make_help technique PAGE FRAME OUTPUT PICTURE
 //                                             PAGE with FRAME in place of @EXAMPLE@, and the
 //                                             picture of its position with the first hint on it, in
@@ -106,19 +107,22 @@ std::string Range(std::string_view text, const MenuRow &row)
     return first == last ? first : first + " to " + last;
 }
 
-std::string KeyTableHtml()
+// The keys of one menu, by its name in the table, or of all when only is empty.
+std::string KeyTableHtml(std::string_view only)
 {
     std::string html;
     std::string menu;
     std::string submenu;
+    bool wanted = false;
     for (const MenuRow &row : MenuTable) {
         if (row.Level == 1) {
             menu = Words(row.Caption);
+            wanted = only.empty() || only == row.Name;
         }
         if (row.Level < 3) {
             submenu = row.Run == nullptr ? Words(row.Caption) + ": " : "";
         }
-        if (row.Shortcut.empty()) {
+        if (row.Shortcut.empty() || !wanted) {
             continue;
         }
         if (!menu.empty()) {
@@ -135,7 +139,50 @@ std::string KeyTableHtml()
 void MakeKeyboardPage(const std::string &page, const std::string &output)
 {
     std::string text = ReadText(page);
-    Fill(text, "@KEYS@", KeyTableHtml());
+    Fill(text, "@KEYS@", KeyTableHtml({}));
+    WriteText(output, text);
+}
+
+// ---- The reference ---------------------------------------------------------------------------
+
+// A table of another page beside the reference, the first being 1.
+std::string TableOf(const std::string &page, int which)
+{
+    const std::string text = ReadText(page);
+    std::size_t start = 0;
+    for (int k = 0; k < which && start != std::string::npos; ++k) {
+        start = text.find("<table", start + 1);
+    }
+    const std::string_view closing = "</table>";
+    const std::size_t end = text.find(closing, start);
+    if (start == std::string::npos || end == std::string::npos) {
+        Fail("no table " + std::to_string(which) + " in " + page);
+    }
+    return text.substr(start, end - start + closing.size());
+}
+
+// "@menu mnuGame@" becomes the keys of that menu, "@toolbar 1@" the first table of that page.
+std::string Inset(const std::string &folder, const std::string &mark)
+{
+    const std::size_t blank = mark.find(' ');
+    const std::string name = mark.substr(0, blank);
+    const std::string argument = mark.substr(blank + 1);
+    return name == "menu" ? KeyTableHtml(argument)
+                          : TableOf(folder + '/' + name + ".html", std::stoi(argument));
+}
+
+void MakeReference(const std::string &page, const std::string &output)
+{
+    const std::string folder = QFileInfo(QString::fromStdString(page)).path().toStdString();
+    std::string text = ReadText(page);
+    for (std::size_t start = text.find('@'); start != std::string::npos; start = text.find('@')) {
+        const std::size_t end = text.find('@', start + 1);
+        if (end == std::string::npos) {
+            Fail("a mark without an end in " + page);
+        }
+        text.replace(start, end - start + 1,
+                     Inset(folder, text.substr(start + 1, end - start - 1)));
+    }
     WriteText(output, text);
 }
 
@@ -212,11 +259,15 @@ int Run(std::span<char *> arguments)
         MakeKeyboardPage(arguments[2], arguments[3]);
         return EXIT_SUCCESS;
     }
+    if (kind == "reference" && arguments.size() == 4) {
+        MakeReference(arguments[2], arguments[3]);
+        return EXIT_SUCCESS;
+    }
     if (kind == "technique" && arguments.size() == 6) {
         MakeTechniquePage(arguments[2], arguments[3], arguments[4], arguments[5]);
         return EXIT_SUCCESS;
     }
-    Fail("keyboard PAGE OUTPUT, or technique PAGE FRAME OUTPUT PICTURE");
+    Fail("keyboard PAGE OUTPUT, reference PAGE OUTPUT, or technique PAGE FRAME OUTPUT PICTURE");
 }
 
 } // namespace

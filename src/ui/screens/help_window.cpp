@@ -4,7 +4,9 @@
 #include "outside/events.h"
 #include "outside/help.h"
 #include "outside/messages.h"
+#include "outside/printer.h"
 #include "paint/text.h"
+#include "ui/outside/printer_qt.h"
 #include "ui/screens/help_page.h"
 #include "ui/window/front.h"
 #include "ui/window/placing.h"
@@ -152,6 +154,12 @@ void HelpBrowser::ResetZoom()
     Zoom(-zoom);
 }
 
+bool HelpBrowser::PrintOn(QPrinter &printer) const
+{
+    print(&printer);
+    return printer.printerState() != QPrinter::Error;
+}
+
 std::string HelpBrowser::Position() const
 {
     return PositionOf(engine.fileData(source()).toStdString());
@@ -215,6 +223,9 @@ void HelpWindow::BuildToolBar()
         [this] { Browser->Zoom(1); });
     add("Smaller", QKeySequence::keyBindings(QKeySequence::ZoomOut), [this] { Browser->Zoom(-1); });
     add("Usual size", {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { Browser->ResetZoom(); });
+
+    bar->addSeparator();
+    add("Print", QKeySequence::keyBindings(QKeySequence::Print), [this] { Print(); });
 
     back->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
     forward->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
@@ -316,6 +327,13 @@ void HelpWindow::OpenLink(const QUrl &link)
         CopyPosition(text == "position" ? Browser->Position() : text);
     } else {
         Browser->setSource(Browser->source().resolved(link));
+    }
+}
+
+void HelpWindow::Print()
+{
+    if (ChoosePrinter() && !Browser->PrintOn(ChosenPrinter())) {
+        ShowMessage("The page can't be printed.");
     }
 }
 

@@ -10,6 +10,7 @@
 
 class QLineEdit;
 class QListWidget;
+class QPrinter;
 class QSplitter;
 class QTabWidget;
 
@@ -25,6 +26,9 @@ public:
     // Makes text and pictures larger or smaller by a step, or puts them back to where they were.
     void Zoom(int steps);
     void ResetZoom();
+
+    // Prints the page on view, black on white. False when the device takes nothing.
+    bool PrintOn(QPrinter &printer) const;
 
     // The position that the page on view offers; empty when it offers none.
     [[nodiscard]] std::string Position() const;
@@ -72,6 +76,7 @@ private:
     QWidget *BuildSearch();
     void OpenLink(const QUrl &link);
     void CopyPosition(const std::string &position);
+    void Print();
     void PageChanged(const QUrl &page);
     void Search();
     void ShowSearchResults();

@@ -11,6 +11,7 @@
 #include <QHeaderView>
 #include <QHelpContentWidget>
 #include <QLineEdit>
+#include <QPrinter>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTextBlock>
@@ -277,6 +278,39 @@ TEST_F(HelpView, NoTitleOfTheContentsIsCut)
             << at.data().toString().toStdString();
     }
     EXPECT_GT(titles, 40);
+}
+
+// Number of pages of a printed page of the help; 0 when it could not be printed.
+int PagesOf(const HelpBrowser &browser, QPageSize::PageSizeId paper, const QString &path)
+{
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path);
+    printer.setPageSize(QPageSize(paper));
+    if (!browser.PrintOn(printer)) {
+        return 0;
+    }
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return static_cast<int>(file.readAll().count("/Type /Page\n"));
+}
+
+TEST_F(HelpView, ReferencePrintsOnOnePageOfEitherPaper)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("page.pdf"));
+    HelpWindow *window = Show(QStringLiteral("reference.html"));
+    EXPECT_EQ(PagesOf(*window->Browser, QPageSize::A4, path), 1);
+    EXPECT_EQ(PagesOf(*window->Browser, QPageSize::Letter, path), 1);
+    window->Browser->setSource(
+        window->Browser->source().resolved(QUrl(QStringLiteral("xy-chain.html"))));
+    EXPECT_GE(PagesOf(*window->Browser, QPageSize::A6, path), 2) << "the count is a count";
+}
+
+TEST_F(HelpView, PageThatCannotBePrintedIsTold)
+{
+    const HelpWindow *window = Show(QStringLiteral("reference.html"));
+    EXPECT_EQ(PagesOf(*window->Browser, QPageSize::A4, QStringLiteral("/nowhere/page.pdf")), 0);
 }
 
 } // namespace kelvarine::testing
