@@ -102,7 +102,7 @@ CellWord NumbersOfHint(std::int32_t technique)
         return NumbersBetween("containing the numbers ", "\r");
     }
     if (technique == NakedSingle) {
-        return NumbersBetween("must contain a ", " because");
+        return NumbersBetween("must contain a ", " because") | NumbersBetween("which is a ", ".");
     }
     return technique == HiddenSingle ? NumbersBetween("can hold the number ", ".")
                                      : NumbersBetween("contains a ", " which");

@@ -4,7 +4,7 @@
 //
 //   make_help keyboard PAGE OUTPUT            PAGE with the table of keys in place of @KEYS@
 //   make_help reference PAGE OUTPUT           PAGE with tables of menus and of the pages beside it
-//   make_help technique PAGE FRAME OUTPUT PICTURE
+//   make_help example PAGE FRAME OUTPUT PICTURE
 //                                             PAGE with FRAME in place of @EXAMPLE@, and the
 //                                             picture of its position with the first hint on it, in
 //                                             a light form and, beside it, a dark one
@@ -13,7 +13,9 @@
 #include "grid/grid.h"
 #include "help_picture.h"
 #include "input/menu_table.h"
+#include "logic/driver.h"
 #include "logic/rating.h"
+#include "logic/technique_masks.h"
 #include "logic/technique_table.h"
 #include "outside/whole_file.h"
 #include "program/defaults.h"
@@ -32,6 +34,7 @@ namespace kelvarine {
 
 namespace {
 
+constexpr std::int32_t FirstStage = 3; // of a hint
 constexpr std::int32_t FullHint = 5;
 
 [[noreturn]] void Fail(const std::string &words)
@@ -188,43 +191,42 @@ void MakeReference(const std::string &page, const std::string &output)
 
 // ---- Examples --------------------------------------------------------------------------------
 
-// Puts the position of a page on the board and takes the game's first hint on it.
-void ShowHintOn(const std::string &page)
+// What a page's head says under a name; empty when it says nothing.
+std::string HeadWord(const std::string &page, const std::string &name)
 {
-    const std::string position = PositionOf(page);
-    if (ReadPosition(position) != 81) {
+    const std::string lead = "<meta name=\"" + name + "\" content=\"";
+    const std::size_t start = page.find(lead);
+    return start == std::string::npos
+               ? std::string()
+               : page.substr(start + lead.size(),
+                             page.find('"', start + lead.size()) - start - lead.size());
+}
+
+// Puts the position of a page on the board. Where the page wants it thinned, all pencilmarks are
+// filled in and those go that see their number.
+void ShowPosition(const std::string &page)
+{
+    if (ReadPosition(PositionOf(page)) != 81) {
         Fail("the position of the page is not whole");
+    }
+    if (HeadWord(page, "board") == "thinned") {
+        FillPencilmarks();
+        SolveMask = MaskOf({NakedSingle});
+        ApplyLogic(0);
+        ClearCellBits(PassMarks);
     }
     CountGivens();
     RateGame();
-    ScanAlerts(FullHint);
+}
+
+// The words of a stage of the game's first hint on the board, as the game shows them; its marks
+// stay there.
+std::string HintOf(std::int32_t stage)
+{
+    ScanAlerts(stage);
     if (HintText.empty()) {
         Fail("the game has no hint on the position of the page");
     }
-}
-
-// The technique that a page is named after.
-std::int32_t TechniqueOf(const std::string &page)
-{
-    const std::string name = QFileInfo(QString::fromStdString(page)).baseName().toStdString();
-    for (const TechniqueRow &row : Techniques) {
-        if (row.HelpPage == name) {
-            return row.Number;
-        }
-    }
-    Fail("no technique has the page " + page);
-}
-
-void WritePicture(const PictureLook &look, std::int32_t technique, const QString &path)
-{
-    if (!HelpPicture(look, technique).save(path, "PNG", 0)) {
-        Fail("cannot write " + path.toStdString());
-    }
-}
-
-// The words of the hint as the game shows them.
-std::string HintWords()
-{
     std::string words = Escaped(HintText);
     ReplaceAll(words, "a 8", "an 8");
     while (!words.empty() && words.back() == '\r') {
@@ -234,19 +236,43 @@ std::string HintWords()
     return words;
 }
 
-void MakeTechniquePage(const std::string &page, const std::string &frame, const std::string &output,
-                       const std::string &picture)
+// The technique of a number among the pages: that which its head names, or that of its own name.
+std::int32_t TechniqueOf(const std::string &path, const std::string &page)
+{
+    const std::string own = QFileInfo(QString::fromStdString(path)).baseName().toStdString();
+    const std::string named = HeadWord(page, "technique");
+    for (const TechniqueRow &row : Techniques) {
+        if (row.HelpPage == (named.empty() ? own : named)) {
+            return row.Number;
+        }
+    }
+    Fail("no technique has the page " + path);
+}
+
+void WritePicture(const PictureLook &look, std::int32_t technique, const QString &path)
+{
+    if (!HelpPicture(look, technique).save(path, "PNG", 0)) {
+        Fail("cannot write " + path.toStdString());
+    }
+}
+
+void MakeExamplePage(const std::string &page, const std::string &frame, const std::string &output,
+                     const std::string &picture)
 {
     std::string text = ReadText(page);
-    ShowHintOn(text);
-    const QFileInfo file(QString::fromStdString(picture));
-    WritePicture(LightPicture, TechniqueOf(page), file.filePath());
-    WritePicture(DarkPicture, TechniqueOf(page), DarkFormOf(file.filePath()));
-
+    ShowPosition(text);
     std::string example = ReadText(frame);
-    Fill(example, "@PICTURE@", file.fileName().toStdString());
+    const QFileInfo file(QString::fromStdString(picture));
+    ReplaceAll(example, "@FIRST@", HintOf(FirstStage));
+    ReplaceAll(example, "@SECOND@", HintOf(FirstStage + 1));
+    ClearCellBits(PassMarks);
+    Fill(example, "@WORDS@", HintOf(FullHint));
     Fill(example, "@TITLE@", Escaped(HintTitle));
-    Fill(example, "@WORDS@", HintWords());
+    Fill(example, "@PICTURE@", file.fileName().toStdString());
+
+    const std::int32_t technique = TechniqueOf(page, text);
+    WritePicture(LightPicture, technique, file.filePath());
+    WritePicture(DarkPicture, technique, DarkFormOf(file.filePath()));
     Fill(text, "@EXAMPLE@", example);
     WriteText(output, text);
 }
@@ -263,11 +289,11 @@ int Run(std::span<char *> arguments)
         MakeReference(arguments[2], arguments[3]);
         return EXIT_SUCCESS;
     }
-    if (kind == "technique" && arguments.size() == 6) {
-        MakeTechniquePage(arguments[2], arguments[3], arguments[4], arguments[5]);
+    if (kind == "example" && arguments.size() == 6) {
+        MakeExamplePage(arguments[2], arguments[3], arguments[4], arguments[5]);
         return EXIT_SUCCESS;
     }
-    Fail("keyboard PAGE OUTPUT, reference PAGE OUTPUT, or technique PAGE FRAME OUTPUT PICTURE");
+    Fail("keyboard PAGE OUTPUT, reference PAGE OUTPUT, or example PAGE FRAME OUTPUT PICTURE");
 }
 
 } // namespace

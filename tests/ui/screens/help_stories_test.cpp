@@ -1,10 +1,9 @@
 // What the pages of the help let a reader try, done as they say, in the program's own window.
-#include "commands/text_commands.h"
 #include "game/alert_scan.h"
-#include "game/assistance.h"
 #include "game/solutions.h"
 #include "grid/grid.h"
-#include "grid/rating_words.h"
+#include "grid/history.h"
+#include "input/toolbar.h"
 #include "outside/help.h"
 #include "support/positions.h"
 #include "support/widget_events.h"
@@ -12,6 +11,7 @@
 #include "ui/screens/help_window.h"
 #include "ui/window/board_widget.h"
 
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QtTest>
 #include <gtest/gtest.h>
@@ -43,7 +43,10 @@ struct HelpStory : ::testing::Test {
         }
         ASSERT_FALSE(link.isEmpty());
         emit browser->anchorClicked(QUrl(link));
-        Press(Qt::Key_V, Qt::ControlModifier);
+        // A game in hand is asked about first.
+        using Answers = std::vector<QMessageBox::StandardButton>;
+        Press(Qt::Key_V, Qt::ControlModifier,
+              GameModified != False ? Answers{QMessageBox::No} : Answers{});
     }
 
     // A key on the board, and what the boxes say that come up, answered with these buttons.
@@ -71,6 +74,18 @@ std::string NumberIn(int column, int row)
 
 const std::vector<QMessageBox::StandardButton> WholeHint{QMessageBox::Yes, QMessageBox::Yes,
                                                          QMessageBox::Ok};
+// A page as its reader sees it, with single blanks.
+QString WordsOnView()
+{
+    return OpenHelpWindow()->Browser->toPlainText().simplified();
+}
+
+// What a box of a hint says before its question.
+QString Statement(const std::string &box)
+{
+    return QString::fromStdString(box.substr(0, box.find("\n\n"))).simplified();
+}
+
 const QString WrongTurns = QStringLiteral("wrong-turns.html");
 
 } // namespace
@@ -133,6 +148,45 @@ TEST_F(HelpStory, GameOfTwoSolutionsListsBothAndKnowsNoCellThatDiffers)
               std::vector<std::string>{"This cell is unknown."});
     mnuShowSolution();
     EXPECT_EQ(SolutionCount, 2);
+}
+
+TEST_F(HelpStory, LessonsOfSinglesTellTheHintThatTheGameGives)
+{
+    for (const char *lesson :
+         {"lesson-houses.html", "lesson-last-number.html", "lesson-last-place.html"}) {
+        CopyAndPaste(QString::fromLatin1(lesson), 0);
+        EXPECT_EQ(GameRating, 1) << lesson;
+        const std::vector<std::string> hint = Press(Qt::Key_H, {}, WholeHint);
+        ASSERT_EQ(hint.size(), 3U) << lesson;
+        for (const std::string &box : hint) {
+            EXPECT_TRUE(WordsOnView().contains(Statement(box))) << lesson << ": " << box;
+        }
+    }
+}
+
+TEST_F(HelpStory, LessonOnPencilmarksLeadsFromNoHintToTheHintItTells)
+{
+    CopyAndPaste(QStringLiteral("lesson-pencilmarks.html"), 0);
+    EXPECT_EQ(Press(Qt::Key_H, {}, {QMessageBox::Ok}),
+              std::vector<std::string>{"There are no hints available now."});
+    QPushButton *select = ToolButtonOf(*Game.Main, SelectButton);
+    for (int press = 0; press < 4 && select->text() != QStringLiteral("Select # of digits");
+         ++press) {
+        select->click();
+    }
+    EXPECT_EQ(select->text().toStdString(), "Select # of digits");
+    EXPECT_EQ(ToolButtonOf(*Game.Main, AllButton)->text().toStdString(), "0");
+    ToolButtonOf(*Game.Main, AllButton)->click();
+    Press(Qt::Key_0);
+    EXPECT_EQ(CountCandidates(2, 2), 1) << "the numbers that stand are left alone";
+    EXPECT_EQ(CountCandidates(3, 1), 9);
+    SolveMask = BitOf(1); // as the tick at Naked singles sets it
+    Press(Qt::Key_L, Qt::ControlModifier);
+    const std::vector<std::string> hint = Press(Qt::Key_H, {}, WholeHint);
+    ASSERT_EQ(hint.size(), 3U);
+    for (const std::string &box : hint) {
+        EXPECT_TRUE(WordsOnView().contains(Statement(box))) << box;
+    }
 }
 
 } // namespace kelvarine::testing
