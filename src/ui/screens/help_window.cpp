@@ -4,7 +4,6 @@
 #include "outside/events.h"
 #include "outside/help.h"
 #include "outside/messages.h"
-#include "outside/printer.h"
 #include "paint/text.h"
 #include "ui/outside/printer_qt.h"
 #include "ui/screens/help_page.h"
@@ -332,8 +331,10 @@ void HelpWindow::OpenLink(const QUrl &link)
 
 void HelpWindow::Print()
 {
-    if (ChoosePrinter() && !Browser->PrintOn(ChosenPrinter())) {
-        ShowMessage("The page can't be printed.");
+    const bool chosen = ChoosePrinterOver(this);
+    activateWindow(); // where no window manager gives the front back
+    if (chosen && !Browser->PrintOn(ChosenPrinter())) {
+        statusBar()->showMessage("The page can't be printed.", MessageTime);
     }
 }
 
