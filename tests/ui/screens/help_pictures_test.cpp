@@ -74,7 +74,7 @@ QColor GroundOf(const QImage &picture, QRect area)
     const auto most = std::max_element(counts.begin(), counts.end(), [](auto one, auto other) {
         return one.second < other.second;
     });
-    return QColor(most->first);
+    return QColor::fromRgb(most->first);
 }
 
 // The rows of an area in which a pixel stands well apart from the ground; nothing where none does.
