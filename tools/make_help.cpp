@@ -1,30 +1,28 @@
 // Makes what the pages of the help cannot hold as words: the table of keys, from the table that the
-// menus are built from, and the examples of the techniques, as the game itself paints and explains
-// them. Run by the build.
+// menus are built from, and the examples of the techniques, drawn by what
+// the game's own hint marks and says. Run by the build.
 //
 //   make_help keyboard PAGE OUTPUT            PAGE with the table of keys in place of @KEYS@
-//   make_help technique PAGE FRAME OUTPUT PICTURE
+//   make_help reference PAGE OUTPUT           PAGE with tables of menus and of the pages beside it
+//   make_help example PAGE FRAME OUTPUT PICTURE
 //                                             PAGE with FRAME in place of @EXAMPLE@, and the
-//                                             picture of its position with the marks of the first
-//                                             hint
-#include "board/geometry.h"
-#include "board/look.h"
-#include "board/margin.h"
+//                                             picture of its position with the first hint on it, in
+//                                             a light form and, beside it, a dark one
 #include "files/text_format.h"
 #include "game/alert_scan.h"
 #include "grid/grid.h"
+#include "help_picture.h"
 #include "input/menu_table.h"
+#include "logic/driver.h"
 #include "logic/rating.h"
+#include "logic/technique_masks.h"
+#include "logic/technique_table.h"
 #include "outside/whole_file.h"
-#include "paint/board_painter.h"
-#include "paint/margin_painter.h"
 #include "program/defaults.h"
 #include "ui/screens/help_page.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QImage>
-#include <QPainter>
 
 #include <cstdlib>
 #include <iostream>
@@ -36,8 +34,7 @@ namespace kelvarine {
 
 namespace {
 
-constexpr int PictureSide = 460; // logical pixels
-constexpr int PictureRatio = 2;
+constexpr std::int32_t FirstStage = 3; // of a hint
 constexpr std::int32_t FullHint = 5;
 
 [[noreturn]] void Fail(const std::string &words)
@@ -113,19 +110,22 @@ std::string Range(std::string_view text, const MenuRow &row)
     return first == last ? first : first + " to " + last;
 }
 
-std::string KeyTableHtml()
+// The keys of one menu, by its name in the table, or of all when only is empty.
+std::string KeyTableHtml(std::string_view only)
 {
     std::string html;
     std::string menu;
     std::string submenu;
+    bool wanted = false;
     for (const MenuRow &row : MenuTable) {
         if (row.Level == 1) {
             menu = Words(row.Caption);
+            wanted = only.empty() || only == row.Name;
         }
         if (row.Level < 3) {
             submenu = row.Run == nullptr ? Words(row.Caption) + ": " : "";
         }
-        if (row.Shortcut.empty()) {
+        if (row.Shortcut.empty() || !wanted) {
             continue;
         }
         if (!menu.empty()) {
@@ -142,52 +142,91 @@ std::string KeyTableHtml()
 void MakeKeyboardPage(const std::string &page, const std::string &output)
 {
     std::string text = ReadText(page);
-    Fill(text, "@KEYS@", KeyTableHtml());
+    Fill(text, "@KEYS@", KeyTableHtml({}));
+    WriteText(output, text);
+}
+
+// ---- The reference ---------------------------------------------------------------------------
+
+// A table of another page beside the reference, the first being 1.
+std::string TableOf(const std::string &page, int which)
+{
+    const std::string text = ReadText(page);
+    std::size_t start = 0;
+    for (int k = 0; k < which && start != std::string::npos; ++k) {
+        start = text.find("<table", start + 1);
+    }
+    const std::string_view closing = "</table>";
+    const std::size_t end = text.find(closing, start);
+    if (start == std::string::npos || end == std::string::npos) {
+        Fail("no table " + std::to_string(which) + " in " + page);
+    }
+    return text.substr(start, end - start + closing.size());
+}
+
+// "@menu mnuGame@" becomes the keys of that menu, "@toolbar 1@" the first table of that page.
+std::string Inset(const std::string &folder, const std::string &mark)
+{
+    const std::size_t blank = mark.find(' ');
+    const std::string name = mark.substr(0, blank);
+    const std::string argument = mark.substr(blank + 1);
+    return name == "menu" ? KeyTableHtml(argument)
+                          : TableOf(folder + '/' + name + ".html", std::stoi(argument));
+}
+
+void MakeReference(const std::string &page, const std::string &output)
+{
+    const std::string folder = QFileInfo(QString::fromStdString(page)).path().toStdString();
+    std::string text = ReadText(page);
+    for (std::size_t start = text.find('@'); start != std::string::npos; start = text.find('@')) {
+        const std::size_t end = text.find('@', start + 1);
+        if (end == std::string::npos) {
+            Fail("a mark without an end in " + page);
+        }
+        text.replace(start, end - start + 1,
+                     Inset(folder, text.substr(start + 1, end - start - 1)));
+    }
     WriteText(output, text);
 }
 
 // ---- Examples --------------------------------------------------------------------------------
 
-// Puts the position of a page on the board and takes the game's first hint on it.
-void ShowHintOn(const std::string &page)
+// What a page's head says under a name; empty when it says nothing.
+std::string HeadWord(const std::string &page, const std::string &name)
 {
-    const std::string position = PositionOf(page);
-    if (ReadPosition(position) != 81) {
+    const std::string lead = "<meta name=\"" + name + "\" content=\"";
+    const std::size_t start = page.find(lead);
+    return start == std::string::npos
+               ? std::string()
+               : page.substr(start + lead.size(),
+                             page.find('"', start + lead.size()) - start - lead.size());
+}
+
+// Puts the position of a page on the board. Where the page wants it thinned, all pencilmarks are
+// filled in and those go that see their number.
+void ShowPosition(const std::string &page)
+{
+    if (ReadPosition(PositionOf(page)) != 81) {
         Fail("the position of the page is not whole");
+    }
+    if (HeadWord(page, "board") == "thinned") {
+        FillPencilmarks();
+        SolveMask = MaskOf({NakedSingle});
+        ApplyLogic(0);
+        ClearCellBits(PassMarks);
     }
     CountGivens();
     RateGame();
-    ScanAlerts(FullHint);
+}
+
+// The words of a stage of the game's first hint on the board, as the game shows them; its marks
+// stay there.
+std::string HintOf(std::int32_t stage)
+{
+    ScanAlerts(stage);
     if (HintText.empty()) {
         Fail("the game has no hint on the position of the page");
     }
-}
-
-void PaintPicture(const std::string &path)
-{
-    MarginThickness = LeastTextMargin;
-    LayoutBoard(PictureSide, PictureSide, 0);
-    SetMarginDefaults();
-
-    QImage board(PictureRatio * BoardPlace.Width, PictureRatio * BoardPlace.Height,
-                 QImage::Format_RGB32);
-    board.setDevicePixelRatio(PictureRatio);
-    PaintBoard(board);
-
-    QImage picture(PictureRatio * PictureSide, PictureRatio * PictureSide, QImage::Format_RGB32);
-    picture.setDevicePixelRatio(PictureRatio);
-    QPainter painter(&picture);
-    PaintWindowTexts(painter, PictureSide, PictureSide);
-    painter.drawImage(QPoint(BoardPlace.X, BoardPlace.Y), board);
-    painter.end();
-    if (!picture.save(QString::fromStdString(path), "PNG")) {
-        Fail("cannot write " + path);
-    }
-}
-
-// The words of the hint as the game shows them.
-std::string HintWords()
-{
     std::string words = Escaped(HintText);
     ReplaceAll(words, "a 8", "an 8");
     while (!words.empty() && words.back() == '\r') {
@@ -197,18 +236,43 @@ std::string HintWords()
     return words;
 }
 
-void MakeTechniquePage(const std::string &page, const std::string &frame, const std::string &output,
-                       const std::string &picture)
+// The technique of a number among the pages: that which its head names, or that of its own name.
+std::int32_t TechniqueOf(const std::string &path, const std::string &page)
+{
+    const std::string own = QFileInfo(QString::fromStdString(path)).baseName().toStdString();
+    const std::string named = HeadWord(page, "technique");
+    for (const TechniqueRow &row : Techniques) {
+        if (row.HelpPage == (named.empty() ? own : named)) {
+            return row.Number;
+        }
+    }
+    Fail("no technique has the page " + path);
+}
+
+void WritePicture(const PictureLook &look, std::int32_t technique, const QString &path)
+{
+    if (!HelpPicture(look, technique).save(path, "PNG", 0)) {
+        Fail("cannot write " + path.toStdString());
+    }
+}
+
+void MakeExamplePage(const std::string &page, const std::string &frame, const std::string &output,
+                     const std::string &picture)
 {
     std::string text = ReadText(page);
-    ShowHintOn(text);
-    PaintPicture(picture);
-
+    ShowPosition(text);
     std::string example = ReadText(frame);
     const QFileInfo file(QString::fromStdString(picture));
-    Fill(example, "@PICTURE@", file.fileName().toStdString());
+    ReplaceAll(example, "@FIRST@", HintOf(FirstStage));
+    ReplaceAll(example, "@SECOND@", HintOf(FirstStage + 1));
+    ClearCellBits(PassMarks);
+    Fill(example, "@WORDS@", HintOf(FullHint));
     Fill(example, "@TITLE@", Escaped(HintTitle));
-    Fill(example, "@WORDS@", HintWords());
+    Fill(example, "@PICTURE@", file.fileName().toStdString());
+
+    const std::int32_t technique = TechniqueOf(page, text);
+    WritePicture(LightPicture, technique, file.filePath());
+    WritePicture(DarkPicture, technique, DarkFormOf(file.filePath()));
     Fill(text, "@EXAMPLE@", example);
     WriteText(output, text);
 }
@@ -221,11 +285,15 @@ int Run(std::span<char *> arguments)
         MakeKeyboardPage(arguments[2], arguments[3]);
         return EXIT_SUCCESS;
     }
-    if (kind == "technique" && arguments.size() == 6) {
-        MakeTechniquePage(arguments[2], arguments[3], arguments[4], arguments[5]);
+    if (kind == "reference" && arguments.size() == 4) {
+        MakeReference(arguments[2], arguments[3]);
         return EXIT_SUCCESS;
     }
-    Fail("keyboard PAGE OUTPUT, or technique PAGE FRAME OUTPUT PICTURE");
+    if (kind == "example" && arguments.size() == 6) {
+        MakeExamplePage(arguments[2], arguments[3], arguments[4], arguments[5]);
+        return EXIT_SUCCESS;
+    }
+    Fail("keyboard PAGE OUTPUT, reference PAGE OUTPUT, or example PAGE FRAME OUTPUT PICTURE");
 }
 
 } // namespace

@@ -156,8 +156,13 @@ PrinterPage CurrentPrinterPage()
 
 bool ChoosePrinter()
 {
+    return ChoosePrinterOver(AskingWindow());
+}
+
+bool ChoosePrinterOver(QWidget *asker)
+{
     const QString name = ChosenPrinter().printerName();
-    QPrintDialog dialog(&ChosenPrinter(), AskingWindow());
+    QPrintDialog dialog(&ChosenPrinter(), asker);
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
     if (RunDialog(dialog) != QDialog::Accepted) {
         return false;

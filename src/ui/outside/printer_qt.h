@@ -10,6 +10,9 @@ namespace kelvarine {
 // The printer chosen latest, or the system's usual one. Without any printer it writes PDF files.
 QPrinter &ChosenPrinter();
 
+// ChoosePrinter for a window that stands beside the game.
+bool ChoosePrinterOver(QWidget *asker);
+
 // Paper size that is usual where a locale is.
 QPageSize UsualPaper(const QLocale &locale);
 

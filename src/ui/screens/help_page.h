@@ -1,5 +1,8 @@
-// What a page of the help holds beside its words: the position that a player can copy.
+// What a page of the help holds beside its words: the position that a player can copy, and the two
+// forms of its pictures.
 #pragma once
+
+#include <QString>
 
 #include <string>
 #include <string_view>
@@ -16,6 +19,14 @@ inline std::string PositionOf(std::string_view page)
         return {};
     }
     return std::string(page.substr(start + opening.size(), end - start - opening.size()));
+}
+
+inline constexpr int HelpPictureRatio = 2; // pictures hold so many pixels for each logical one
+
+// Name of a picture's form for dark windows, by the name of the one for light windows.
+inline QString DarkFormOf(QString picture)
+{
+    return picture.replace(QStringLiteral(".png"), QStringLiteral("-dark.png"));
 }
 
 } // namespace kelvarine

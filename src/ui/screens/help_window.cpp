@@ -1,15 +1,18 @@
 #include "ui/screens/help_window.h"
 
 #include "outside/clipboard.h"
+#include "outside/events.h"
 #include "outside/help.h"
 #include "outside/messages.h"
 #include "paint/text.h"
+#include "ui/outside/printer_qt.h"
 #include "ui/screens/help_page.h"
 #include "ui/window/front.h"
 #include "ui/window/placing.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QHeaderView>
 #include <QHelpContentWidget>
 #include <QHelpIndexWidget>
 #include <QHelpLink>
@@ -20,10 +23,12 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QStyle>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -35,9 +40,8 @@ namespace kelvarine {
 
 namespace {
 
-constexpr QSize StartSize{900, 700};
-constexpr int SideWidth = 270;
-constexpr int PictureRatio = 2; // pictures hold so many pixels for each logical one
+constexpr QSize StartSize{930, 760};
+constexpr int SideWidth = 280;
 constexpr int SmallestZoom = -4;
 constexpr int LargestZoom = 12;
 constexpr double PictureStep = 0.1; // by which a step of zoom changes a picture
@@ -60,6 +64,17 @@ QWidget *UnderText(QLineEdit *text, const QString &label, QWidget *list)
     return pane;
 }
 
+// Calls a window's procedure when what goes on now is over, if the window is still there.
+template <typename Widget>
+void Later(Widget *widget, void (Widget::*run)())
+{
+    CallFromEventLoop([widget = QPointer(widget), run] {
+        if (widget != nullptr) {
+            (widget->*run)();
+        }
+    });
+}
+
 } // namespace
 
 // ---- The page --------------------------------------------------------------------------------
@@ -70,29 +85,59 @@ HelpBrowser::HelpBrowser(const QHelpEngineCore &helpEngine, QWidget *parent)
     setOpenLinks(false);
     setAccessibleName("Help page");
     document()->setDocumentMargin(PageMargin);
+    pictureRatio = devicePixelRatioF();
+    pictureDark = IsDark();
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &name)
 {
     // All pages lie in one folder, and nothing but the help is ever read.
-    const QByteArray bytes = engine.fileData(PageOfContext(engine, 0).resolved(name));
+    const QUrl place = PageOfContext(engine, 0).resolved(name);
     if (type == QTextDocument::ImageResource) {
-        return Picture(bytes);
+        return Picture(place);
     }
+    const QByteArray bytes = engine.fileData(place);
     return type == QTextDocument::HtmlResource ? QVariant(QString::fromUtf8(bytes))
                                                : QVariant(bytes);
 }
 
-// The picture at the size that the zoom asks for, in the pixels of the screen.
-QVariant HelpBrowser::Picture(const QByteArray &bytes) const
+bool HelpBrowser::IsDark() const
 {
-    QImage picture = QImage::fromData(bytes);
+    return palette().color(QPalette::Base).lightness() <
+           palette().color(QPalette::Text).lightness();
+}
+
+// The picture in the form for the window's colours, at the size that the zoom asks for, in the
+// pixels of the screen.
+QVariant HelpBrowser::Picture(const QUrl &name) const
+{
+    const QUrl form = IsDark() ? QUrl(DarkFormOf(name.toString())) : name;
+    QImage picture = QImage::fromData(engine.fileData(form));
     const double ratio = devicePixelRatioF();
-    const double scale = ratio * (1 + zoom * PictureStep) / PictureRatio;
+    const double scale = ratio * (1 + zoom * PictureStep) / HelpPictureRatio;
     picture = picture.scaledToWidth(static_cast<int>(std::lround(picture.width() * scale)),
                                     Qt::SmoothTransformation);
     picture.setDevicePixelRatio(ratio);
     return picture;
+}
+
+// Makes the pictures anew and keeps the place in the page.
+void HelpBrowser::LoadAgain()
+{
+    const int place = verticalScrollBar()->value();
+    reload();
+    verticalScrollBar()->setValue(place);
+}
+
+// Another screen or other colours of the desktop want other pictures.
+void HelpBrowser::paintEvent(QPaintEvent *event)
+{
+    QTextBrowser::paintEvent(event);
+    if (pictureRatio != devicePixelRatioF() || pictureDark != IsDark()) {
+        pictureRatio = devicePixelRatioF();
+        pictureDark = IsDark();
+        Later(this, &HelpBrowser::LoadAgain);
+    }
 }
 
 void HelpBrowser::Zoom(int steps)
@@ -106,6 +151,12 @@ void HelpBrowser::Zoom(int steps)
 void HelpBrowser::ResetZoom()
 {
     Zoom(-zoom);
+}
+
+bool HelpBrowser::PrintOn(QPrinter &printer) const
+{
+    print(&printer);
+    return printer.printerState() != QPrinter::Error;
 }
 
 std::string HelpBrowser::Position() const
@@ -127,6 +178,7 @@ HelpWindow::HelpWindow(std::unique_ptr<HelpCollection> opened)
     Tabs->addTab(BuildIndex(), "&Index");
     Tabs->addTab(BuildSearch(), "&Search");
     Tabs->setAccessibleName("Ways into the help");
+    Tabs->tabBar()->installEventFilter(this);
 
     auto *splitter = new QSplitter(this);
     splitter->addWidget(Tabs);
@@ -171,6 +223,9 @@ void HelpWindow::BuildToolBar()
     add("Smaller", QKeySequence::keyBindings(QKeySequence::ZoomOut), [this] { Browser->Zoom(-1); });
     add("Usual size", {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { Browser->ResetZoom(); });
 
+    bar->addSeparator();
+    add("Print", QKeySequence::keyBindings(QKeySequence::Print), [this] { Print(); });
+
     back->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
     forward->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
     home->setIcon(style()->standardIcon(QStyle::SP_DirHomeIcon));
@@ -180,10 +235,34 @@ void HelpWindow::BuildToolBar()
     connect(Browser, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
 }
 
+// The letter of a tab leads into its pane, also when the pane is on view already.
+bool HelpWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Shortcut) {
+        Later(this, &HelpWindow::FocusPane);
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+// Puts the cursor into what steers the pane on view.
+void HelpWindow::FocusPane()
+{
+    if (Tabs->currentIndex() == 0) {
+        help->Engine->contentWidget()->setFocus(Qt::ShortcutFocusReason);
+        return;
+    }
+    QLineEdit *text = Tabs->currentIndex() == 1 ? IndexText : SearchText;
+    text->setFocus(Qt::ShortcutFocusReason);
+    text->selectAll();
+}
+
 QWidget *HelpWindow::BuildContents()
 {
     QHelpContentWidget *contents = help->Engine->contentWidget();
     contents->setAccessibleName("Contents of the help");
+    // No title is cut: those that are wider than the pane can be scrolled to.
+    contents->header()->setStretchLastSection(false);
+    contents->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(contents, &QHelpContentWidget::linkActivated, Browser,
             [this](const QUrl &page) { Browser->setSource(page); });
     connect(contents, &QAbstractItemView::clicked, contents,
@@ -230,8 +309,7 @@ QWidget *HelpWindow::BuildSearch()
     connect(SearchResults, &QListWidget::itemActivated, Browser, open);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
         Tabs->setCurrentIndex(2);
-        SearchText->setFocus(Qt::ShortcutFocusReason);
-        SearchText->selectAll();
+        FocusPane();
     });
     if (help->Searchable) {
         searcher.reindexDocumentation();
@@ -244,15 +322,26 @@ QWidget *HelpWindow::BuildSearch()
 void HelpWindow::OpenLink(const QUrl &link)
 {
     if (link.scheme() == "copy") {
-        CopyPosition();
+        const std::string text = link.path().toStdString();
+        CopyPosition(text == "position" ? Browser->Position() : text);
     } else {
         Browser->setSource(Browser->source().resolved(link));
     }
 }
 
-void HelpWindow::CopyPosition()
+void HelpWindow::Print()
 {
-    SetClipboardText(Browser->Position());
+    const bool chosen = ChoosePrinterOver(this);
+    activateWindow(); // where no window manager gives the front back
+    if (chosen && !Browser->PrintOn(ChosenPrinter())) {
+        statusBar()->showMessage("The page can't be printed.", MessageTime);
+    }
+}
+
+// Of a link, what stands behind "copy:" is a game as one line, or the word for the page's position.
+void HelpWindow::CopyPosition(const std::string &position)
+{
+    SetClipboardText(position);
     statusBar()->showMessage("The position is copied. Press Ctrl+V on the board.", MessageTime);
 }
 

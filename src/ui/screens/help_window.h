@@ -10,6 +10,7 @@
 
 class QLineEdit;
 class QListWidget;
+class QPrinter;
 class QSplitter;
 class QTabWidget;
 
@@ -26,17 +27,26 @@ public:
     void Zoom(int steps);
     void ResetZoom();
 
+    // Prints the page on view, black on white. False when the device takes nothing.
+    bool PrintOn(QPrinter &printer) const;
+
     // The position that the page on view offers; empty when it offers none.
     [[nodiscard]] std::string Position() const;
 
 protected:
     QVariant loadResource(int type, const QUrl &name) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
-    [[nodiscard]] QVariant Picture(const QByteArray &bytes) const;
+    [[nodiscard]] QVariant Picture(const QUrl &name) const;
+    [[nodiscard]] bool IsDark() const;
+    void LoadAgain();
 
     const QHelpEngineCore &engine;
     int zoom = 0;
+    // What the pictures on view were made for.
+    double pictureRatio = 0;
+    bool pictureDark = false;
 };
 
 class HelpWindow : public QMainWindow {
@@ -55,13 +65,18 @@ public:
     QLineEdit *const SearchText;
     QListWidget *const SearchResults;
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void BuildToolBar();
+    void FocusPane();
     QWidget *BuildContents();
     QWidget *BuildIndex();
     QWidget *BuildSearch();
     void OpenLink(const QUrl &link);
-    void CopyPosition();
+    void CopyPosition(const std::string &position);
+    void Print();
     void PageChanged(const QUrl &page);
     void Search();
     void ShowSearchResults();

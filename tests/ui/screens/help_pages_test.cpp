@@ -5,6 +5,7 @@
 #include "grid/grid.h"
 #include "input/keys.h"
 #include "input/menu_table.h"
+#include "input/toolbar.h"
 #include "logic/technique_table.h"
 #include "outside/clipboard.h"
 #include "support/positions.h"
@@ -112,7 +113,10 @@ TEST_F(HelpPages, EveryLinkAndPictureLeadsSomewhere)
     for (const QString &file : Files()) {
         for (const QString &link : Captures(Page(file), "(?:href|src)=\"([^\"]*)\"")) {
             ++links;
-            if (link != QStringLiteral("copy:position")) {
+            if (link.startsWith(QStringLiteral("copy:"))) {
+                EXPECT_TRUE(Captures(link, "^copy:([.1-9]{81}|position)$").size() == 1)
+                    << file.toStdString() << " copies " << link.toStdString();
+            } else {
                 EXPECT_FALSE(Help->Engine->fileData(UrlOf(link)).isEmpty())
                     << file.toStdString() << " leads to " << link.toStdString();
             }
@@ -216,10 +220,11 @@ TEST_F(HelpPages, PastedPositionOfATechniquePageShowsThatTechnique)
     }
 }
 
-TEST_F(HelpPages, KeyboardPageHoldsEveryShortcutOfTheMenus)
+TEST_F(HelpPages, KeyboardPageAndReferenceHoldEveryShortcutOfTheMenus)
 {
     ASSERT_NE(Help, nullptr);
-    const QString page = Page(QStringLiteral("keyboard.html"));
+    const QString keyboard = Page(QStringLiteral("keyboard.html"));
+    const QString reference = Page(QStringLiteral("reference.html"));
     int shortcuts = 0;
     for (const MenuRow &row : MenuTable) {
         if (row.Shortcut.empty()) {
@@ -234,25 +239,50 @@ TEST_F(HelpPages, KeyboardPageHoldsEveryShortcutOfTheMenus)
         const QRegularExpression line(
             QStringLiteral("<tr><td>%1(?: to %2)?</td><td>[^<]*%3[^<]*</td>")
                 .arg(keys, filled(row.Shortcut, row.Last), words));
-        EXPECT_TRUE(page.contains(line)) << row.Name << ": " << row.Shortcut;
+        EXPECT_TRUE(keyboard.contains(line)) << row.Name << ": " << row.Shortcut;
+        EXPECT_TRUE(reference.contains(line)) << row.Name << ": " << row.Shortcut;
     }
     EXPECT_GT(shortcuts, 20);
 }
 
-TEST_F(HelpPages, KeyboardPageNamesEveryKeyOfTheBoard)
+TEST_F(HelpPages, KeyboardPageAndReferenceNameEveryKeyOfTheBoard)
 {
     ASSERT_NE(Help, nullptr);
-    const QString cells = Captures(Page(QStringLiteral("keyboard.html")), "<tr><td>([^<]*)</td>")
-                              .join(QStringLiteral(", "));
-    for (const KeyRow &row : KeyTable) {
-        if (row.Run == nullptr) {
-            continue; // a combination that is kept from doing anything
+    for (const char *page : {"keyboard.html", "reference.html"}) {
+        const QString cells = Captures(Page(QString::fromLatin1(page)), "<tr><td>([^<]*)</td>")
+                                  .join(QStringLiteral(", "));
+        for (const KeyRow &row : KeyTable) {
+            if (row.Run == nullptr) {
+                continue; // a combination that is kept from doing anything
+            }
+            const QString key = KeyName(row.Code);
+            ASSERT_FALSE(key.isEmpty()) << "no name for key " << row.Code;
+            const QRegularExpression word(
+                QStringLiteral("(^|[ +,])%1($|[ ,])").arg(QRegularExpression::escape(key)));
+            EXPECT_TRUE(cells.contains(word)) << page << ' ' << key.toStdString();
         }
-        const QString key = KeyName(row.Code);
-        ASSERT_FALSE(key.isEmpty()) << "no name for key " << row.Code;
-        const QRegularExpression word(
-            QStringLiteral("(^|[ +,])%1($|[ ,])").arg(QRegularExpression::escape(key)));
-        EXPECT_TRUE(cells.contains(word)) << key.toStdString();
+    }
+}
+
+TEST_F(HelpPages, ReferenceTellsEveryModeOfTheToolbarAndThePressesOfTheMouse)
+{
+    ASSERT_NE(Help, nullptr);
+    const Program program;
+    const QString page = Page(QStringLiteral("reference.html"));
+    int modes = 0;
+    for (const std::int32_t button : {SelectButton, EditButton, ViewButton}) {
+        for (int press = 0; press < 4; ++press) {
+            ToolPressed(button);
+            const std::string &mode = ToolButtons[static_cast<std::size_t>(button)].Caption;
+            EXPECT_TRUE(page.contains(QString::fromStdString("<tr><td>" + mode + "</td>"))) << mode;
+            ++modes;
+        }
+    }
+    EXPECT_EQ(modes, 12);
+    for (const char *press : {"Click", "Ctrl and click", "Shift and click", "Drag",
+                              "Right click on a pencilmark", "Double click on a pencilmark"}) {
+        EXPECT_TRUE(page.contains(QStringLiteral("<tr><td>%1</td>").arg(QLatin1String(press))))
+            << press;
     }
 }
 

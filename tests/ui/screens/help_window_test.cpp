@@ -3,6 +3,7 @@
 #include "grid/grid.h"
 #include "outside/clipboard.h"
 #include "outside/help.h"
+#include "support/widget_events.h"
 #include "support/widget_program.h"
 #include "ui/screens/file_dialog_qt.h"
 #include "ui/screens/help_window.h"
@@ -239,6 +240,14 @@ TEST_F(HelpWindowTest, PictureGrowsWithTheText)
     }
     browser->ResetZoom();
     EXPECT_DOUBLE_EQ(browser->document()->size().height(), before);
+}
+
+TEST_F(HelpWindowTest, PrintAsksOverTheHelpAndLeavesItInFront)
+{
+    HelpWindow *window = Show(0);
+    EXPECT_EQ(CloseModals([] { ActionOf(QStringLiteral("Print"))->trigger(); }),
+              std::vector<std::string>{"Print"});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == window; }, Patience));
 }
 
 TEST_F(HelpWindowTest, CanBeUsedBesideAModalWindow)

@@ -1,0 +1,320 @@
+// The pictures of the help: whether what they show can be read, in both forms and at every size.
+#include "help_picture.h"
+#include "logic/technique_table.h"
+#include "outside/help.h"
+#include "support/widget_program.h"
+#include "ui/screens/help_page.h"
+#include "ui/screens/help_window.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QHelpContentWidget>
+#include <QLineEdit>
+#include <QPrinter>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QTextBlock>
+#include <QtTest>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
+
+namespace kelvarine::testing {
+
+namespace {
+
+// How bright a colour is, 0 to 1, and how far two stand apart, 1 to 21: after the definitions of
+// relative luminance and contrast ratio in the W3C's guidelines on accessible content.
+double Luminance(QColor colour)
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double Contrast(QColor one, QColor other)
+{
+    const double first = Luminance(one) + 0.05;
+    const double second = Luminance(other) + 0.05;
+    return std::max(first, second) / std::min(first, second);
+}
+
+struct HelpPictures : ::testing::Test {
+    std::unique_ptr<HelpCollection> Help = OpenHelp(HelpFolder());
+
+    [[nodiscard]] QImage Picture(const QString &file) const
+    {
+        return QImage::fromData(
+            Help->Engine->fileData(PageOfContext(*Help->Engine, 0).resolved(QUrl(file))));
+    }
+};
+
+// A cell of a picture, without its edge.
+QRect CellOf(int column, int row)
+{
+    const int side = HelpPictureRatio * PictureCellSide;
+    return QRect(HelpPictureRatio * PicturePlace(column), HelpPictureRatio * PicturePlace(row),
+                 side, side)
+        .adjusted(2, 2, -2, -2);
+}
+
+// The colour that most pixels of an area have.
+QColor GroundOf(const QImage &picture, QRect area)
+{
+    std::map<QRgb, int> counts;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            ++counts[picture.pixel(x, y)];
+        }
+    }
+    const auto most = std::max_element(counts.begin(), counts.end(), [](auto one, auto other) {
+        return one.second < other.second;
+    });
+    return QColor::fromRgb(most->first);
+}
+
+// The rows of an area in which a pixel stands well apart from the ground; nothing where none does.
+QRect InkOf(const QImage &picture, QRect area, QColor ground, double contrast)
+{
+    QRect ink;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            if (Contrast(picture.pixelColor(x, y), ground) >= contrast) {
+                ink |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return ink;
+}
+
+struct HelpView : ::testing::Test {
+    HelpView() = default;
+    HelpView(const HelpView &) = delete;
+    HelpView &operator=(const HelpView &) = delete;
+    ~HelpView() override
+    {
+        QApplication::setPalette(Before);
+        delete OpenHelpWindow();
+    }
+
+    static HelpWindow *Show(const QString &page)
+    {
+        ShowHelpTopic(0);
+        HelpWindow *window = OpenHelpWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window, Patience));
+        window->Browser->setSource(window->Browser->source().resolved(QUrl(page)));
+        return window;
+    }
+
+    // The picture as the page shows it.
+    static QImage PictureOnView(const QString &name)
+    {
+        return qvariant_cast<QImage>(OpenHelpWindow()->Browser->document()->resource(
+            QTextDocument::ImageResource, QUrl(name)));
+    }
+
+    Program Game;
+    QPalette Before = QApplication::palette();
+};
+
+} // namespace
+
+TEST_F(HelpPictures, EveryNumberStandsOutFromItsCell)
+{
+    ASSERT_NE(Help, nullptr);
+    QStringList names{QStringLiteral("lesson-houses.png"), QStringLiteral("lesson-last-number.png"),
+                      QStringLiteral("lesson-last-place.png"),
+                      QStringLiteral("lesson-pencilmarks.png")};
+    for (const TechniqueRow &row : Techniques) {
+        names += QString::fromStdString(std::string(row.HelpPage)) + QStringLiteral(".png");
+    }
+    for (const QString &name : names) {
+        for (const QString &form : {name, DarkFormOf(name)}) {
+            const QImage picture = Picture(form);
+            ASSERT_EQ(picture.width(), HelpPictureRatio * PictureSide) << form.toStdString();
+            int numbers = 0;
+            for (int column = 1; column <= 9; ++column) {
+                for (int line = 1; line <= 9; ++line) {
+                    const QRect cell = CellOf(column, line);
+                    const QColor ground = GroundOf(picture, cell);
+                    const QRect any = InkOf(picture, cell, ground, 1.5);
+                    const QRect ink = InkOf(picture, cell, ground, 3);
+                    EXPECT_TRUE(any.isNull() || ink.height() >= 14 * HelpPictureRatio)
+                        << form.toStdString() << ' ' << column << ' ' << line;
+                    numbers += ink.isNull() ? 0 : 1;
+                }
+            }
+            EXPECT_GT(numbers, 20) << form.toStdString();
+        }
+    }
+}
+
+TEST(HelpPictureLook, NumbersStandOutByFourAndAHalfAndPaleMarksByThree)
+{
+    for (const PictureLook *look : {&LightPicture, &DarkPicture}) {
+        for (const QColor &ground :
+             {look->Paper, look->Given, look->House, look->Pattern, look->Second, look->Target}) {
+            EXPECT_GE(Contrast(look->Ink, ground), 4.5);
+            EXPECT_GE(Contrast(look->PaleInk, ground), 3);
+            EXPECT_GE(Contrast(look->Chain, ground), 3);
+        }
+        EXPECT_GE(Contrast(look->Strike, look->Target), 4.5) << "a number to be placed";
+        EXPECT_GE(Contrast(look->Strike, look->Pattern), 3) << "what strikes through";
+        EXPECT_GE(Contrast(look->JointInk, look->Chain), 4.5);
+        EXPECT_GE(Contrast(look->Lines, look->Paper), 3);
+    }
+}
+
+TEST_F(HelpPictures, WhatFallsIsStruckThroughInTheCellOfTheHint)
+{
+    ASSERT_NE(Help, nullptr);
+    const std::string name = "xy-chain"; // [D8] contains a 4
+    for (const PictureLook *look : {&LightPicture, &DarkPicture}) {
+        const QString file = QString::fromStdString(name) + QStringLiteral(".png");
+        const QImage picture = Picture(look == &DarkPicture ? DarkFormOf(file) : file);
+        const QRect cell = CellOf(4, 8);
+        EXPECT_EQ(GroundOf(picture, cell), look->Target);
+        int struck = 0;
+        for (int y = cell.top(); y <= cell.bottom(); ++y) {
+            for (int x = cell.left(); x <= cell.right(); ++x) {
+                struck += picture.pixelColor(x, y) == look->Strike ? 1 : 0;
+                const bool middleLeft = x < cell.left() + cell.width() / 3 + 3 &&
+                                        std::abs(y - cell.center().y()) < cell.height() / 5 + 3;
+                EXPECT_TRUE(picture.pixelColor(x, y) != look->Strike || middleLeft)
+                    << x << ' ' << y;
+            }
+        }
+        EXPECT_GT(struck, 40);
+        EXPECT_EQ(GroundOf(picture, CellOf(4, 5)), look->Pattern);
+        EXPECT_EQ(GroundOf(picture, CellOf(9, 5)), look->Second);
+        EXPECT_EQ(GroundOf(picture, CellOf(1, 1)), look->Given);
+    }
+}
+
+TEST_F(HelpPictures, TheWholeHelpStaysBelowSixMegabytes)
+{
+    EXPECT_LT(QFileInfo(HelpFolder() + QStringLiteral("kelvarine.qch")).size(), 6'000'000);
+}
+
+TEST_F(HelpView, NothingEmptyStandsBelowAPicture)
+{
+    HelpWindow *window = Show(QStringLiteral("naked-pair.html"));
+    QTextDocument *document = window->Browser->document();
+    int pictures = 0;
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        if (block.text().contains(QChar::ObjectReplacementCharacter)) {
+            ++pictures;
+            const double height = document->documentLayout()->blockBoundingRect(block).height();
+            EXPECT_GE(height, PictureSide);
+            EXPECT_LE(height, PictureSide + 24);
+        }
+    }
+    EXPECT_EQ(pictures, 1);
+}
+
+TEST_F(HelpView, PictureFitsIntoTheFirstWindow)
+{
+    const HelpWindow *window = Show(QStringLiteral("naked-pair.html"));
+    EXPECT_FALSE(window->Browser->horizontalScrollBar()->isVisible());
+}
+
+TEST_F(HelpView, DarkWindowShowsTheDarkForm)
+{
+    const QString name = QStringLiteral("naked-pair.png");
+    const HelpWindow *window = Show(QStringLiteral("naked-pair.html"));
+    const auto corner = [&name] {
+        return PictureOnView(name).pixelColor(0, 0);
+    };
+    EXPECT_EQ(corner(), LightPicture.Paper);
+    QPalette dark = Before;
+    dark.setColor(QPalette::Base, QColor(20, 20, 20));
+    dark.setColor(QPalette::Text, QColor(240, 240, 240));
+    QApplication::setPalette(dark);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return corner() == DarkPicture.Paper; }, Patience));
+    EXPECT_EQ(window->Browser->source().fileName().toStdString(), "naked-pair.html");
+    QApplication::setPalette(Before);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return corner() == LightPicture.Paper; }, Patience));
+}
+
+TEST_F(HelpView, PictureHasThePixelsOfTheScreenAtItsUsualSize)
+{
+    const HelpWindow *window = Show(QStringLiteral("naked-pair.html"));
+    const QImage picture = PictureOnView(QStringLiteral("naked-pair.png"));
+    const double ratio = window->devicePixelRatioF();
+    EXPECT_EQ(picture.width(), std::lround(PictureSide * ratio));
+    EXPECT_DOUBLE_EQ(picture.devicePixelRatio(), ratio);
+}
+
+TEST_F(HelpView, LetterOfATabLeadsIntoItsPane)
+{
+    HelpWindow *window = Show(QStringLiteral("index.html"));
+    for (int round = 0; round < 2; ++round) {
+        window->Browser->setFocus();
+        QTest::keyClick(window->windowHandle(), Qt::Key_I, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window->IndexText->hasFocus(); }, Patience));
+        EXPECT_EQ(window->Tabs->currentIndex(), 1);
+    }
+    QTest::keyClick(window->windowHandle(), Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->SearchText->hasFocus(); }, Patience));
+    QTest::keyClick(window->windowHandle(), Qt::Key_C, Qt::AltModifier);
+    auto *contents = window->findChild<QHelpContentWidget *>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return contents->hasFocus(); }, Patience));
+}
+
+TEST_F(HelpView, NoTitleOfTheContentsIsCut)
+{
+    const HelpWindow *window = Show(QStringLiteral("index.html"));
+    auto *contents = window->findChild<QHelpContentWidget *>();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return contents->model()->rowCount() > 0; }, Patience));
+    contents->expandAll();
+    QCoreApplication::processEvents();
+    int titles = 0;
+    for (QModelIndex at = contents->model()->index(0, 0); at.isValid();
+         at = contents->indexBelow(at)) {
+        ++titles;
+        EXPECT_LE(contents->visualRect(at).left() +
+                      contents->fontMetrics().horizontalAdvance(at.data().toString()),
+                  contents->header()->sectionSize(0))
+            << at.data().toString().toStdString();
+    }
+    EXPECT_GT(titles, 40);
+}
+
+// Number of pages of a printed page of the help; 0 when it could not be printed.
+int PagesOf(const HelpBrowser &browser, QPageSize::PageSizeId paper, const QString &path)
+{
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path);
+    printer.setPageSize(QPageSize(paper));
+    if (!browser.PrintOn(printer)) {
+        return 0;
+    }
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return static_cast<int>(file.readAll().count("/Type /Page\n"));
+}
+
+TEST_F(HelpView, ReferencePrintsOnOnePageOfEitherPaper)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("page.pdf"));
+    HelpWindow *window = Show(QStringLiteral("reference.html"));
+    EXPECT_EQ(PagesOf(*window->Browser, QPageSize::A4, path), 1);
+    EXPECT_EQ(PagesOf(*window->Browser, QPageSize::Letter, path), 1);
+    window->Browser->setSource(
+        window->Browser->source().resolved(QUrl(QStringLiteral("xy-chain.html"))));
+    EXPECT_GE(PagesOf(*window->Browser, QPageSize::A6, path), 2) << "the count is a count";
+}
+
+TEST_F(HelpView, PageThatCannotBePrintedIsTold)
+{
+    const HelpWindow *window = Show(QStringLiteral("reference.html"));
+    EXPECT_EQ(PagesOf(*window->Browser, QPageSize::A4, QStringLiteral("/nowhere/page.pdf")), 0);
+}
+
+} // namespace kelvarine::testing

@@ -1,0 +1,192 @@
+// What the pages of the help let a reader try, done as they say, in the program's own window.
+#include "game/alert_scan.h"
+#include "game/solutions.h"
+#include "grid/grid.h"
+#include "grid/history.h"
+#include "input/toolbar.h"
+#include "outside/help.h"
+#include "support/positions.h"
+#include "support/widget_events.h"
+#include "support/widget_program.h"
+#include "ui/screens/help_window.h"
+#include "ui/window/board_widget.h"
+
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QtTest>
+#include <gtest/gtest.h>
+
+namespace kelvarine::testing {
+
+namespace {
+
+struct HelpStory : ::testing::Test {
+    HelpStory() = default;
+    HelpStory(const HelpStory &) = delete;
+    HelpStory &operator=(const HelpStory &) = delete;
+    ~HelpStory() override
+    {
+        delete OpenHelpWindow();
+    }
+
+    // Opens a page, presses the link that copies a game, the first being 0, and pastes the game.
+    void CopyAndPaste(const QString &page, int which)
+    {
+        ShowHelpTopic(0);
+        HelpBrowser *browser = OpenHelpWindow()->Browser;
+        browser->setSource(browser->source().resolved(QUrl(page)));
+        auto links = QRegularExpression(QStringLiteral("href=\"(copy:[^\"]*)\""))
+                         .globalMatch(browser->document()->toHtml());
+        QString link;
+        for (int k = 0; k <= which && links.hasNext(); ++k) {
+            link = links.next().captured(1);
+        }
+        ASSERT_FALSE(link.isEmpty());
+        emit browser->anchorClicked(QUrl(link));
+        // A game in hand is asked about first.
+        using Answers = std::vector<QMessageBox::StandardButton>;
+        Press(Qt::Key_V, Qt::ControlModifier,
+              GameModified != False ? Answers{QMessageBox::No} : Answers{});
+    }
+
+    // A key on the board, and what the boxes say that come up, answered with these buttons.
+    std::vector<std::string> Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {},
+                                   const std::vector<QMessageBox::StandardButton> &answers = {})
+    {
+        const auto press = [&] {
+            QTest::keyClick(Game.Main->Client->Board, key, modifiers);
+        };
+        return AnswerBoxes(press, answers).Texts;
+    }
+
+    void Select(int column, int row)
+    {
+        Click(Game.Main->Client->Board, CentreOf(column, row));
+    }
+
+    Program Game;
+};
+
+std::string NumberIn(int column, int row)
+{
+    return NumbersOf(Grid).substr(static_cast<std::size_t>((row - 1) * 9 + column - 1), 1);
+}
+
+const std::vector<QMessageBox::StandardButton> WholeHint{QMessageBox::Yes, QMessageBox::Yes,
+                                                         QMessageBox::Ok};
+// A page as its reader sees it, with single blanks.
+QString WordsOnView()
+{
+    return OpenHelpWindow()->Browser->toPlainText().simplified();
+}
+
+// What a box of a hint says before its question.
+QString Statement(const std::string &box)
+{
+    return QString::fromStdString(box.substr(0, box.find("\n\n"))).simplified();
+}
+
+const QString WrongTurns = QStringLiteral("wrong-turns.html");
+
+} // namespace
+
+TEST_F(HelpStory, WrongNumberIsBelievedUntilTheCellIsExposed)
+{
+    CopyAndPaste(WrongTurns, 0);
+    EXPECT_EQ(GameRating, 1);
+    Select(5, 5);
+    Press(Qt::Key_3);
+    ASSERT_EQ(NumberIn(5, 5), "3");
+    AlertMask = ~std::uint32_t{0};
+    ScanAlerts(1);
+    EXPECT_EQ(CellsWith(AlertBit).find("E5"), std::string::npos) << "it clashes with nothing";
+    AlertMask = 0;
+    ScanAlerts(1);
+    const std::vector<std::string> hint = Press(Qt::Key_H, {}, WholeHint);
+    ASSERT_EQ(hint.size(), 3U);
+    EXPECT_EQ(hint[0].find("no hints"), std::string::npos);
+    Select(5, 5);
+    EXPECT_EQ(Press(Qt::Key_X, Qt::ControlModifier, {QMessageBox::Yes}),
+              std::vector<std::string>{"Are you sure you want to expose this cell?"});
+    EXPECT_EQ(NumberIn(5, 5), "8");
+    Press(Qt::Key_PageUp);
+    EXPECT_EQ(NumberIn(5, 5), "3");
+    EXPECT_EQ(GameRating, 1) << "the margin speaks of the givens";
+}
+
+TEST_F(HelpStory, AlertsOfNakedSinglesRingTheSameNumberTwiceInAHouse)
+{
+    CopyAndPaste(WrongTurns, 0);
+    AlertMask = BitOf(1);
+    Select(2, 1);
+    Press(Qt::Key_6); // beside the given 6 in A1
+    EXPECT_NE(CellsWith(AlertBit).find("B1"), std::string::npos);
+    const std::vector<std::string> reason = Press(Qt::Key_A, {}, {QMessageBox::Ok});
+    ASSERT_EQ(reason.size(), 1U);
+    EXPECT_NE(reason[0].find("[B1]"), std::string::npos) << reason[0];
+    Press(Qt::Key_PageUp);
+    EXPECT_EQ(CellsWith(AlertBit).find("B1"), std::string::npos);
+}
+
+TEST_F(HelpStory, ClashingGivensAreToldByTheMarginAndByTheHint)
+{
+    CopyAndPaste(WrongTurns, 1);
+    EXPECT_EQ(GameRating, 7);
+    const std::vector<std::string> hint = Press(Qt::Key_H, {}, WholeHint);
+    ASSERT_EQ(hint.size(), 3U);
+    EXPECT_EQ(hint[0], "There's a conflict with given cells.\n\nWould you like to know more?");
+    EXPECT_EQ(hint[2], "Cell [B3] is a given cell which conflicts directly with the given cell "
+                       "[A1] in the same box.");
+}
+
+TEST_F(HelpStory, GameOfTwoSolutionsListsBothAndKnowsNoCellThatDiffers)
+{
+    CopyAndPaste(WrongTurns, 2);
+    EXPECT_EQ(GameRating, 6);
+    Select(6, 2);
+    EXPECT_EQ(Press(Qt::Key_X, Qt::ControlModifier, {QMessageBox::Ok}),
+              std::vector<std::string>{"This cell is unknown."});
+    mnuShowSolution();
+    EXPECT_EQ(SolutionCount, 2);
+}
+
+TEST_F(HelpStory, LessonsOfSinglesTellTheHintThatTheGameGives)
+{
+    for (const char *lesson :
+         {"lesson-houses.html", "lesson-last-number.html", "lesson-last-place.html"}) {
+        CopyAndPaste(QString::fromLatin1(lesson), 0);
+        EXPECT_EQ(GameRating, 1) << lesson;
+        const std::vector<std::string> hint = Press(Qt::Key_H, {}, WholeHint);
+        ASSERT_EQ(hint.size(), 3U) << lesson;
+        for (const std::string &box : hint) {
+            EXPECT_TRUE(WordsOnView().contains(Statement(box))) << lesson << ": " << box;
+        }
+    }
+}
+
+TEST_F(HelpStory, LessonOnPencilmarksLeadsFromNoHintToTheHintItTells)
+{
+    CopyAndPaste(QStringLiteral("lesson-pencilmarks.html"), 0);
+    EXPECT_EQ(Press(Qt::Key_H, {}, {QMessageBox::Ok}),
+              std::vector<std::string>{"There are no hints available now."});
+    QPushButton *select = ToolButtonOf(*Game.Main, SelectButton);
+    for (int press = 0; press < 4 && select->text() != QStringLiteral("Select # of digits");
+         ++press) {
+        select->click();
+    }
+    EXPECT_EQ(select->text().toStdString(), "Select # of digits");
+    EXPECT_EQ(ToolButtonOf(*Game.Main, AllButton)->text().toStdString(), "0");
+    ToolButtonOf(*Game.Main, AllButton)->click();
+    Press(Qt::Key_0);
+    EXPECT_EQ(CountCandidates(2, 2), 1) << "the numbers that stand are left alone";
+    EXPECT_EQ(CountCandidates(3, 1), 9);
+    SolveMask = BitOf(1); // as the tick at Naked singles sets it
+    Press(Qt::Key_L, Qt::ControlModifier);
+    const std::vector<std::string> hint = Press(Qt::Key_H, {}, WholeHint);
+    ASSERT_EQ(hint.size(), 3U);
+    for (const std::string &box : hint) {
+        EXPECT_TRUE(WordsOnView().contains(Statement(box))) << box;
+    }
+}
+
+} // namespace kelvarine::testing
