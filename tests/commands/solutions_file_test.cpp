@@ -11,6 +11,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 namespace kelvarine::testing {
 namespace {
 
@@ -86,6 +89,24 @@ TEST_F(SolutionsFile, WritesNothingWhenItsDialogGoesWithTheProgram)
     };
     cmdSaveAsTextFile();
     EXPECT_EQ(Read(), "a former file that was longer than the text");
+}
+
+TEST_F(SolutionsFile, FolderThatIsGoneIsToldAndNotMadeAnew)
+{
+    const std::string folder = DataFolder() + "gone";
+    std::filesystem::create_directories(folder);
+    // Somebody deletes it between the dialog and its question whether to replace the file.
+    Seen.YesNoAnswers = {true};
+    std::ofstream(folder + "/solutions.txt") << "old";
+    Seen.FileNames = {folder + "/solutions.txt"};
+    Seen.OnBox = [&] {
+        Seen.OnBox = [&] {
+            std::filesystem::remove_all(folder);
+        };
+    };
+    cmdSaveAsTextFile();
+    EXPECT_EQ(Seen.Messages, Texts{"Unable to save file.\r\rNo such file or directory"});
+    EXPECT_FALSE(FileExists(folder));
 }
 
 TEST_F(SolutionsFile, FailingWriteIsToldInTheSystemsWords)

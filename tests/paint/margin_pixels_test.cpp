@@ -130,6 +130,23 @@ TEST_F(MarginTexts, RowLabelsEndFourPixelsBeforeTheBoard)
     }
 }
 
+// Cells that are three times as wide as high tell which side a place is worked out from.
+TEST_F(MarginTexts, LabelsStandByTheirLinesInAWideWindowAndInAHighOne)
+{
+    for (const auto &[width, height] : {std::pair(1600, 500), std::pair(500, 1600)}) {
+        LayoutBoard(width, height, 0);
+        const QImage picture = WindowPicture(width, height);
+        for (int line = 1; line <= 9; ++line) {
+            const int across = BoardPlace.X + CellX(line) + CellWidth / 2;
+            const int down = BoardPlace.Y + CellY(line) + CellHeight / 2;
+            const Rectangle over{across - CellWidth / 2, 1, CellWidth, BoardPlace.Y - 1};
+            const Rectangle beside{1, down - CellHeight / 2, BoardPlace.X - 1, CellHeight};
+            EXPECT_NEAR(MiddleOf(TextIn(picture, over)).X, across, 2) << line;
+            EXPECT_NEAR(MiddleOf(TextIn(picture, beside)).Y, down, 2) << line;
+        }
+    }
+}
+
 TEST_F(MarginTexts, LabelsAreWrittenInTheMarginTextColour)
 {
     EXPECT_GT(CountOf(WindowPicture(), AboveBoard(), Ink), 20);

@@ -9,8 +9,11 @@
 #include "outside/screens.h"
 #include "paint/board_painter.h"
 #include "support/positions.h"
+#include "ui/controls/colour_swatches.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QStyleOptionSlider>
 
@@ -116,6 +119,24 @@ void ConfigureTest::Drag(const char *name, int value)
     }
     while (bar->value() > value && bar->value() - bar->singleStep() >= value) {
         QTest::keyClick(bar, Qt::Key_Left);
+    }
+}
+
+void Operate(QWidget &control)
+{
+    if (auto *bar = qobject_cast<QScrollBar *>(&control)) {
+        bar->setValue(bar->value() == bar->maximum() ? bar->minimum() : bar->value() + 1);
+    } else if (auto *box = qobject_cast<QLineEdit *>(&control)) {
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, box->text() == "7" ? "3" : "7");
+    } else if (auto *list = qobject_cast<QComboBox *>(&control)) {
+        list->setCurrentIndex(list->currentIndex() == 0 ? list->count() - 1 : 0);
+    } else if (auto *tile = qobject_cast<TextureTile *>(&control)) {
+        QTest::mouseClick(tile, Qt::LeftButton);
+    } else if (qobject_cast<QCheckBox *>(&control) != nullptr ||
+               control.objectName() == "cmdCoordFirst") {
+        qobject_cast<QAbstractButton *>(&control)->click();
     }
 }
 

@@ -47,6 +47,10 @@ protected:
     ConfigureScreen *Screen = nullptr;
 };
 
+// Uses a control as the player would: to a value that it does not show. Options and swatches are
+// left alone.
+void Operate(QWidget &control);
+
 // Colour of the painted board in a cell, between its frame and its numbers.
 Colour PaintedIn(Cell cell);
 

@@ -112,7 +112,7 @@ QWidget *MakeSoundTab(QWidget *parent)
                                  SoundDisabled != False,
                                  [](bool on) { SoundDisabled = FlagOf(on); }));
     rows->addStretch();
-    ShowVolumes(*panel, !SoundDevice().isNull());
+    ShowVolumes(*panel, HasSoundDevice());
     return panel;
 }
 

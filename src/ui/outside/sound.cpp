@@ -9,16 +9,12 @@
 #include "ui/outside/sound_device.h"
 
 #include <QAudioFormat>
-#include <QAudioSink>
-#include <QCoreApplication>
 #include <QIODevice>
-#include <QMediaDevices>
-#include <QPointer>
-#include <QTimer>
 
 #include <algorithm>
-#include <chrono>
+#include <memory>
 #include <string>
+#include <utility>
 
 namespace kelvarine {
 
@@ -27,14 +23,10 @@ namespace {
 // A sound file that is larger is no sound of a game.
 constexpr std::size_t LargestSoundFile = std::size_t{16} << 20U;
 
-// The device still plays what it has taken when there is no more to take.
-constexpr std::chrono::seconds TimeToFinish{2};
-
 // The samples of one sound, as the device reads them.
 class SampleSource : public QIODevice {
 public:
-    SampleSource(WaveSound sound, bool loop, QObject *parent)
-        : QIODevice(parent), wave(std::move(sound)), repeats(loop)
+    SampleSource(WaveSound sound, bool loop) : wave(std::move(sound)), repeats(loop)
     {
         open(QIODevice::ReadOnly | QIODevice::Unbuffered);
     }
@@ -70,13 +62,6 @@ private:
 
 double volumeInForce = 1.0; // 0..1
 
-// What plays, or null. It goes with the application at the latest.
-QPointer<QAudioSink> &Playing()
-{
-    static QPointer<QAudioSink> playing;
-    return playing;
-}
-
 QAudioFormat::SampleFormat ToolkitForm(SampleForm form)
 {
     switch (form) {
@@ -101,11 +86,6 @@ QAudioFormat FormatOf(const WaveSound &sound)
     return format;
 }
 
-// Where there is no sound the toolkit says so on standard error, which is no news for a player.
-void SayNothing(QtMsgType /*kind*/, const QMessageLogContext & /*place*/, const QString & /*words*/)
-{
-}
-
 bool ReadSound(std::string_view file, WaveSound &sound)
 {
     std::string bytes;
@@ -115,29 +95,7 @@ bool ReadSound(std::string_view file, WaveSound &sound)
            ReadWave(bytes, sound);
 }
 
-// Closes the device a while after a sound has come to its end.
-void CloseAtTheEnd(QAudioSink *sink)
-{
-    auto *rest = new QTimer(sink);
-    rest->setSingleShot(true);
-    rest->setInterval(TimeToFinish);
-    QObject::connect(rest, &QTimer::timeout, sink, &QAudioSink::stop);
-    QObject::connect(sink, &QAudioSink::stateChanged, rest, [rest](QAudio::State state) {
-        if (state == QAudio::IdleState) {
-            rest->start();
-        }
-    });
-}
-
 } // namespace
-
-QAudioDevice SoundDevice()
-{
-    const QtMessageHandler usual = qInstallMessageHandler(SayNothing);
-    QAudioDevice device = QMediaDevices::defaultAudioOutput();
-    qInstallMessageHandler(usual);
-    return device;
-}
 
 void SetSoundVolume(std::uint32_t volume)
 {
@@ -154,22 +112,14 @@ void PlaySound(std::string_view file, bool loop)
     if (!ReadSound(file, sound)) {
         return;
     }
-    const QAudioDevice device = SoundDevice();
-    if (device.isNull()) {
-        return;
-    }
-    auto *sink = new QAudioSink(device, FormatOf(sound), QCoreApplication::instance());
-    Playing() = sink;
-    sink->setVolume(volumeInForce);
-    if (!loop) {
-        CloseAtTheEnd(sink);
-    }
-    sink->start(new SampleSource(std::move(sound), loop, sink));
+    const QAudioFormat form = FormatOf(sound);
+    PlayOnDevice(std::make_unique<SampleSource>(std::move(sound), loop), form, volumeInForce,
+                 !loop);
 }
 
 void StopSound()
 {
-    delete Playing();
+    StopDevice();
 }
 
 } // namespace kelvarine

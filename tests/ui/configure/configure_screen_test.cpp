@@ -2,7 +2,9 @@
 #include "game/screens.h"
 #include "grid/grid.h"
 #include "grid/names.h"
+#include "logic/driver.h"
 #include "paint/board_painter.h"
+#include "print/print_settings.h"
 #include "support/widget_configure.h"
 #include "support/widget_paints.h"
 #include "ui/configure/tab_strip.h"
@@ -310,6 +312,18 @@ TEST_F(ConfigureScreenTest, NothingIsTakenWhileASearchRuns)
     EXPECT_EQ(CurrentTab, NewGamesTab);
     Click("chkDifficulty3");
     EXPECT_TRUE(Find<QAbstractButton>("chkDifficulty3")->isChecked());
+}
+
+TEST_F(ConfigureScreenTest, StopButtonOfABatchIsPressedWhileItSearches)
+{
+    PrintMode = PrintNewGames;
+    Open(PrintTab);
+    SearchActive = True;
+    SearchKind = SearchingGame;
+    const BoxRecord boxes = AnswerBoxes([&] { Click("cmdPrint"); }, {QMessageBox::Yes});
+    EXPECT_EQ(boxes.Texts, std::vector<std::string>{"Would you like to stop searching?"});
+    EXPECT_EQ(SearchActive, False);
+    SearchKind = NotStoppable;
 }
 
 TEST_F(ConfigureScreenTest, TextBoxSelectsAllWhenItGetsTheFocus)

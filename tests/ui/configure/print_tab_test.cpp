@@ -300,6 +300,24 @@ TEST_F(PrintTabs, PagesAreTypedAsInEveryNumberBox)
     }
 }
 
+TEST_F(PrintTabs, EmptiedBoxOfPagesStaysEmptyUntilItIsLeft)
+{
+    Find<QRadioButton>("optPrintGame(1)")->click();
+    panel->activateWindow();
+    auto *box = Find<QLineEdit>("txtNumPages");
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_Delete);
+    EXPECT_EQ(TextOf("txtNumPages"), "");
+    EXPECT_EQ(PrintPages, 0);
+    QTest::keyClick(box, Qt::Key_9);
+    EXPECT_EQ(TextOf("txtNumPages"), "9");
+    QTest::keyClick(box, Qt::Key_Backspace);
+    Find<QWidget>("cmbGamesPerPage")->setFocus();
+    Find<QComboBox>("cmbGamesPerPage")->setCurrentIndex(2);
+    EXPECT_EQ(TextOf("txtNumPages"), "0");
+}
+
 TEST_F(PrintTabs, NoPagesBringsTheNotice)
 {
     Find<QRadioButton>("optPrintGame(1)")->click();

@@ -32,25 +32,6 @@
 namespace kelvarine::testing {
 namespace {
 
-// Uses a control as the player would: to a value that it does not show.
-void Operate(QWidget &control)
-{
-    if (auto *bar = qobject_cast<QScrollBar *>(&control)) {
-        bar->setValue(bar->value() == bar->maximum() ? bar->minimum() : bar->value() + 1);
-    } else if (auto *box = qobject_cast<QLineEdit *>(&control)) {
-        box->setFocus();
-        box->selectAll();
-        QTest::keyClicks(box, box->text() == "7" ? "3" : "7");
-    } else if (auto *list = qobject_cast<QComboBox *>(&control)) {
-        list->setCurrentIndex(list->currentIndex() == 0 ? list->count() - 1 : 0);
-    } else if (auto *tile = qobject_cast<TextureTile *>(&control)) {
-        QTest::mouseClick(tile, Qt::LeftButton);
-    } else if (qobject_cast<QCheckBox *>(&control) != nullptr ||
-               control.objectName() == "cmdCoordFirst") {
-        qobject_cast<QAbstractButton *>(&control)->click();
-    }
-}
-
 // Frame and name of a control; empty for one that the player does not see.
 QString NameOf(const QWidget &control)
 {

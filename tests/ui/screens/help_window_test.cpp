@@ -327,6 +327,20 @@ TEST_F(HelpWindowTest, F1ShowsTheTopicOfTheWindowInFront)
     EXPECT_EQ(PageOnView(), "settings-coordinates.html");
 }
 
+TEST_F(HelpWindowTest, SecondF1BringsTheKeyboardBackToThePage)
+{
+    WatchForHelpKey();
+    const HelpWindow *help = Show(0);
+    help->Tabs->setCurrentIndex(2);
+    for (QWidget *asker : {static_cast<QWidget *>(Game.Main->Client->Board),
+                           static_cast<QWidget *>(help->SearchText)}) {
+        help->SearchText->setFocus();
+        ASSERT_TRUE(help->SearchText->hasFocus());
+        QTest::keyClick(asker, Qt::Key_F1);
+        EXPECT_TRUE(help->Browser->hasFocus());
+    }
+}
+
 TEST_F(HelpWindowTest, F1OnTheBoardEndsTheWinDisplayAndThenShowsTheHelp)
 {
     WatchForHelpKey();

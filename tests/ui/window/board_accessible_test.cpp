@@ -1,5 +1,6 @@
 #include "game/lifecycle.h"
 #include "grid/grid.h"
+#include "support/widget_heard.h"
 #include "support/widget_program.h"
 #include "ui/window/board_widget.h"
 
@@ -48,6 +49,39 @@ TEST(BoardAccessible, CellOfTheArrowsHasTheFocus)
     EXPECT_TRUE(board->child(0)->state().focused);
     EXPECT_FALSE(board->child(1)->state().focused);
     EXPECT_EQ(board->child(0)->text(QAccessible::Name), "[A1]: 7");
+}
+
+// What tools are told of the board while something is done: each event with the cell's number.
+using Told = std::vector<std::pair<QAccessible::Event, int>>;
+
+Told ToldWhile(const std::function<void()> &deed)
+{
+    Told told;
+    Hear = [&told](const QAccessibleEvent &event) {
+        if (qobject_cast<BoardWidget *>(event.object()) != nullptr) {
+            told.emplace_back(event.type(), event.child());
+        }
+    };
+    deed();
+    Hear = nullptr;
+    return told;
+}
+
+TEST(BoardAccessible, StepToAnotherCellMovesTheFocusAndADigitChangesTheName)
+{
+    const Program program;
+    program.Main->activateWindow();
+    BoardWidget *board = program.Main->Client->Board;
+    board->setFocus();
+    QTest::keyClick(board, Qt::Key_Down);
+    EXPECT_EQ(ToldWhile([=] { QTest::keyClick(board, Qt::Key_Down); }),
+              (Told{{QAccessible::Focus, 9}}));
+    EXPECT_EQ(ToldWhile([=] { QTest::keyClick(board, Qt::Key_7); }),
+              (Told{{QAccessible::NameChanged, 9}}));
+    EXPECT_EQ(ToldWhile([=] { QTest::keyClick(board, Qt::Key_Right); }),
+              (Told{{QAccessible::Focus, 10}}));
+    EXPECT_EQ(ToldWhile([=] { QTest::keyClick(board, Qt::Key_Shift); }), Told())
+        << "nothing of the cell has changed";
 }
 
 } // namespace

@@ -122,6 +122,8 @@ TEST_F(BoardOnView, PressOnTheMarginDropsTheSelectionAndTakesTheFocus)
     QWidget *client = program.Main->Client;
     Click(client, {5, client->height() - 5}, Qt::LeftButton, Qt::ControlModifier);
     EXPECT_EQ(CellsWith(SelectedBit), "C1");
+    ToolButtonOf(*program.Main, 3)->setFocus();
+    ASSERT_FALSE(Board()->hasFocus());
     Click(client, {5, client->height() - 5}, Qt::RightButton);
     EXPECT_EQ(CellsWith(SelectedBit), "");
     EXPECT_EQ(CellsWith(HintCellBit), "C1");

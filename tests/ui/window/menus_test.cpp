@@ -1,7 +1,10 @@
 #include "board/look.h"
+#include "commands/screen_commands.h"
 #include "files/text_format.h"
 #include "game/clock.h"
 #include "game/lifecycle.h"
+#include "game/solutions.h"
+#include "game/statistics.h"
 #include "game/undo.h"
 #include "game/win_display.h"
 #include "generator/game_number.h"
@@ -560,6 +563,23 @@ TEST_F(MenuBar, PauseKeyWorksFromTheBoardAndFromAButton)
     EXPECT_FALSE(IsPaused());
     EXPECT_EQ(pause->text(), "Pause");
     EXPECT_EQ(ToolMode, 0) << "the button has not seen the key";
+}
+
+TEST_F(MenuBar, PauseKeyWorksFromEveryOtherScreen)
+{
+    ResetSolveTime();
+    mnuStatistics();
+    mnuShowSolution();
+    mnuConfigure();
+    bool paused = false;
+    for (const char *name : {"frmStatistics", "frmSolutions", "frmConfigure"}) {
+        auto *screen = Main().findChild<QWidget *>(name);
+        ASSERT_NE(screen, nullptr) << name;
+        screen->activateWindow();
+        QTest::keyClick(screen, Qt::Key_F12);
+        paused = !paused;
+        EXPECT_EQ(IsPaused(), paused) << name;
+    }
 }
 
 TEST_F(MenuBar, PausedBoardHidesItsNumbers)

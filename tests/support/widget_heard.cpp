@@ -1,0 +1,26 @@
+#include "support/widget_heard.h"
+
+#include <QAccessible>
+
+namespace kelvarine::testing {
+
+std::function<void(const QAccessibleEvent &event)> Hear;
+
+extern "C" {
+
+// The names are the linker's.
+// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
+void __real__ZN11QAccessible19updateAccessibilityEP16QAccessibleEvent(QAccessibleEvent *event);
+
+void __wrap__ZN11QAccessible19updateAccessibilityEP16QAccessibleEvent(QAccessibleEvent *event)
+{
+    if (Hear) {
+        Hear(*event);
+    }
+    __real__ZN11QAccessible19updateAccessibilityEP16QAccessibleEvent(event);
+}
+// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
+
+} // extern "C"
+
+} // namespace kelvarine::testing
