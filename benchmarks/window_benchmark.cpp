@@ -1,7 +1,8 @@
-// What the player waits for in the windows: the opening of the configuration screen on each tab, a
-// step of dragging a colour, all alerts at a click, a page of games on paper, and the start of a
-// sound. Every iteration ends with the event loop at rest.
+// What the player waits for in the windows: the opening of the configuration screen on each tab and
+// of the file dialog, a step of dragging a colour, all alerts at a click, a page of games on paper,
+// and the start of a sound. Every iteration ends with the event loop at rest.
 #include "commands/screen_commands.h"
+#include "files/file_dialog.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "grid/grid.h"
@@ -12,6 +13,7 @@
 #include "program/defaults.h"
 #include "ui/configure/configure_screen.h"
 #include "ui/outside/printer_qt.h"
+#include "ui/screens/file_dialog_qt.h"
 #include "ui/window/main_window.h"
 
 #include <QAbstractButton>
@@ -21,6 +23,7 @@
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
+#include <fstream>
 
 namespace kelvarine {
 namespace {
@@ -58,6 +61,23 @@ void OpenSettings(benchmark::State &state)
         delete OpenConfigureScreen();
         state.ResumeTiming();
         mnuConfigure();
+        QCoreApplication::processEvents();
+    }
+}
+
+// The file dialog on a folder of so many files, from its making to the event loop at rest.
+void OpenFileDialog(benchmark::State &state)
+{
+    const Session session(NewGamesTab);
+    const QTemporaryDir folder;
+    for (std::int64_t number = 0; number < state.range(0); ++number) {
+        std::ofstream(folder.filePath(QString("game %1.sdk").arg(number)).toStdString()) << "game";
+    }
+    DialogFolder = folder.path().toStdString() + "/";
+    DialogCaption = OpenGameCaption;
+    for ([[maybe_unused]] auto _ : state) {
+        FileDialog dialog(Window(), SudokuFiles);
+        dialog.open();
         QCoreApplication::processEvents();
     }
 }
@@ -115,6 +135,7 @@ void StartAndStopSound(benchmark::State &state)
 }
 
 BENCHMARK(OpenSettings)->DenseRange(0, TabCount - 1)->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenFileDialog)->Arg(100)->Arg(10000)->Unit(benchmark::kMillisecond);
 BENCHMARK(DragColour)->Unit(benchmark::kMillisecond);
 BENCHMARK(SelectAndDeselectAllAlerts)->Unit(benchmark::kMillisecond);
 BENCHMARK(PrintTwentyFourGrids)->Unit(benchmark::kMillisecond);

@@ -1,5 +1,6 @@
 #include "files/file_dialog.h"
 
+#include "files/dialog_folders.h"
 #include "files/game_file.h"
 #include "files/text_case.h"
 #include "game/lifecycle.h"
@@ -88,7 +89,7 @@ bool AgreeOnFile(const std::string &path)
 // The full path that a typed name means.
 std::string PathFor(std::string_view typed)
 {
-    std::string path(typed);
+    std::string path = WithHomeWrittenOut(typed);
     if (path.find('/') == std::string::npos) {
         path.insert(0, DialogFolder);
     }
@@ -96,16 +97,6 @@ std::string PathFor(std::string_view typed)
         path += DefaultExtension;
     }
     return path;
-}
-
-// A folder that has gone gives way to the nearest one above it.
-void LeaveMissingFolder()
-{
-    std::error_code failure;
-    while (DialogFolder.size() > 1 && !std::filesystem::is_directory(DialogFolder, failure)) {
-        DialogFolder.pop_back();
-        DialogFolder.resize(DialogFolder.rfind('/') + 1);
-    }
 }
 
 // What belongs to one showing.
@@ -143,13 +134,14 @@ void SetFileDialogDefaults()
     DialogName.clear();
     DialogCaption.clear();
     PresetFileType(SudokuFiles);
+    SetDialogFolderDefaults();
 }
 
 void ShowFileDialog(std::string_view caption, std::size_t fileType)
 {
     const Showing former;
     LastAnswer = AnsweredCancel;
-    LeaveMissingFolder();
+    DialogFolder = NearestFolder(DialogFolder);
     DialogCaption = caption;
     PresetFileType(fileType);
     const bool chosen = RunFileDialog(fileType);
@@ -195,6 +187,7 @@ bool AcceptFileName(std::string_view typed)
         return false;
     }
     ChosenFilePath = path;
+    RememberFolderOf(path);
     if (DialogCaption == SaveGameCaption) {
         GameFilePath = path;
     }

@@ -114,17 +114,28 @@ void BringCountersIntoRange()
     HistoryPosition = std::clamp(HistoryPosition, 0, HistoryCount);
 }
 
-void TakeGame(std::string_view contents)
+// What is missing at the end reads as zeros.
+std::string WithFullLength(std::string_view contents)
 {
-    // What is missing at the end reads as zeros.
     std::string bytes(contents.substr(0, GameFileSize));
     bytes.resize(GameFileSize, '\0');
+    return bytes;
+}
+
+double TimeIn(std::string_view bytes)
+{
+    return std::bit_cast<double>(NumberAt<std::uint64_t>(bytes, PlaceOf(TimeRecord)));
+}
+
+void TakeGame(std::string_view contents)
+{
+    const std::string bytes = WithFullLength(contents);
     for (const WordField &field : WordFields) {
         *field.Value = static_cast<std::int32_t>(
             NumberAt<std::uint32_t>(bytes, PlaceOf(field.Record, field.Element)));
     }
     BringCountersIntoRange();
-    SolveSeconds = std::bit_cast<double>(NumberAt<std::uint64_t>(bytes, PlaceOf(TimeRecord)));
+    SolveSeconds = TimeIn(bytes);
     TakeGrid(bytes, GridRecord, Grid);
     for (std::size_t slot = 0; slot < SavedSlots; ++slot) {
         TakeGrid(bytes, HistoryRecord + slot * RecordWords, History[slot]);
@@ -209,6 +220,18 @@ bool IsWholeGame(std::string_view contents)
     }
     const std::string_view header = WithoutOuterBlanks(contents.substr(HeaderStart, HeaderSize));
     return header == Header || header == OtherHeader;
+}
+
+bool ReadCells(std::string_view contents, double &seconds)
+{
+    if (!IsWholeGame(contents)) {
+        seconds = -1;
+        return TakeText(contents);
+    }
+    const std::string bytes = WithFullLength(contents);
+    seconds = TimeIn(bytes);
+    TakeGrid(bytes, GridRecord, Grid);
+    return true;
 }
 
 bool ReadGame(std::string_view contents)

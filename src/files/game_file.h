@@ -47,4 +47,9 @@ bool IsWholeGame(std::string_view contents);
 // What ReadGameFile does with the contents of a file.
 bool ReadGame(std::string_view contents);
 
+// Reads the cells of the contents of a file into Grid, and the time played; it is below 0 for a
+// text. False, with Grid as it was, when nothing in it is a game. Leaves what else a game is made
+// of.
+bool ReadCells(std::string_view contents, double &seconds);
+
 } // namespace kelvarine

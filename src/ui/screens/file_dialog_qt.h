@@ -1,20 +1,28 @@
-// The window of the file dialog: a tree of folders, a list of files, a name and a type. Its rules
-// stand in files/file_dialog.h.
+// The window of the file dialog: places, a tree of folders, a list of files with a picture of the
+// selected game, a name and a type. Its rules stand in files/file_dialog.h.
 #pragma once
 
 #include <QDialog>
-#include <QFileSystemModel>
+#include <QFileSystemWatcher>
 #include <QTimer>
 
+#include <string>
+
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLayout;
-class QLineEdit;
-class QListWidget;
 class QPushButton;
-class QTreeView;
+class QSplitter;
+class QToolButton;
 
 namespace kelvarine {
+
+class FileList;
+class FolderTree;
+class GamePicture;
+class NameBox;
+class PlaceList;
 
 class FileDialog : public QDialog {
     Q_OBJECT
@@ -28,33 +36,49 @@ public:
     void done(int result) override;
 
 protected:
-    // The Delete key in the list of files.
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void BuildControls(std::size_t fileType);
-    void BuildFolders();
+    void BuildTools();
     QLayout *Arrange();
+    QLayout *ArrangeHead();
+    void ArrangeLists();
+    void SetTabOrder();
     void Connect();
     void ConnectFiles();
-    void ShowFolder();
-    void FollowLoading(const QString &loaded);
-    void FolderChosen(const QModelIndex &index);
+    void ConnectFolders();
+    void GoTo(const std::string &folder);
+    void TakeFolder(const std::string &folder);
+    void PlaceWanted(const std::string &folder);
+    void ParentWanted();
+    void NewFolder();
+    void ShowHidden(bool shown);
+    void FolderChanged();
     void ListFiles();
     void CopyName();
+    void EnterList();
+    void ShowPicture();
     void SearchTyped(const QString &typed);
+    void OfferFor(const QString &typed);
     void DeleteSelected();
     void PressOk();
     void PressHelp();
 
-    QFileSystemModel folders;
-    QTimer nextTurn;                 // of the event loop
-    QMetaObject::Connection loading; // keeps the folder in sight while the tree fills up
+    QFileSystemWatcher watcher; // of the folder in hand
+    QTimer changes;             // until a run of changes in it is over
     QLabel *lblFolder;
-    QTreeView *dirDirectory;
-    QListWidget *filFiles;
-    QLineEdit *txtFileName;
+    QToolButton *cmdParent;
+    QToolButton *cmdNewFolder;
+    QSplitter *lists;
+    QWidget *placesPart;
+    PlaceList *drvDrive;
+    FolderTree *dirDirectory;
+    FileList *filFiles;
+    GamePicture *picGame;
+    NameBox *txtFileName;
     QComboBox *cmbFileTypes;
+    QCheckBox *chkHidden;
     QPushButton *cmdOK;
     QPushButton *cmdCancel;
     QPushButton *cmdHelp;

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <sys/stat.h>
 #include <system_error>
+#include <utility>
 
 namespace kelvarine {
 
@@ -34,11 +36,37 @@ bool IsStray(const QString &text, qsizetype place)
            (place == 0 || !text[place - 1].isHighSurrogate());
 }
 
+// The entries of a folder whose kind is wanted; links count as what they point at.
+template <typename Wanted>
+std::vector<FileEntry> EntriesIn(const std::string &folder, Hidden hidden, const Wanted &wanted)
+{
+    std::vector<FileEntry> entries;
+    std::error_code failure;
+    std::filesystem::directory_iterator entry(folder, failure);
+    while (!failure && entry != std::filesystem::directory_iterator()) {
+        const std::string &path = entry->path().native();
+        std::string name = path.substr(path.rfind('/') + 1);
+        struct stat kind {};
+        if ((hidden == Hidden::Included || !name.starts_with('.')) &&
+            ::stat(path.c_str(), &kind) == 0 && wanted(kind.st_mode)) {
+            QString shown = ShownName(name);
+            entries.push_back({std::move(name), std::move(shown), kind.st_size, kind.st_mtime});
+        }
+        entry.increment(failure);
+    }
+    std::ranges::sort(entries, ShownBefore);
+    return entries;
+}
+
 } // namespace
 
 QString ShownName(std::string_view bytes)
 {
-    QString shown;
+    QString shown = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    if (shown.toUtf8() == QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size()))) {
+        return shown; // as nearly every name is
+    }
+    shown.clear();
     while (!bytes.empty()) {
         const std::size_t length = LetterLength(bytes);
         if (length == 0) {
@@ -65,24 +93,27 @@ std::string NameBytes(const QString &shown)
     return bytes + shown.mid(start).toStdString();
 }
 
-std::vector<std::string> FilesIn(const std::string &folder)
+bool ShownBefore(const FileEntry &a, const FileEntry &b)
 {
-    std::vector<std::string> names;
+    const int order = a.Shown.compare(b.Shown, Qt::CaseInsensitive);
+    return order != 0 ? order < 0 : a.Name < b.Name;
+}
+
+std::vector<FileEntry> FilesIn(const std::string &folder, Hidden hidden)
+{
+    return EntriesIn(folder, hidden, [](mode_t mode) { return S_ISREG(mode); });
+}
+
+std::vector<FileEntry> FoldersIn(const std::string &folder, Hidden hidden)
+{
+    return EntriesIn(folder, hidden, [](mode_t mode) { return S_ISDIR(mode); });
+}
+
+std::string WhyUnreadable(const std::string &folder)
+{
     std::error_code failure;
-    std::filesystem::directory_iterator entry(folder, failure);
-    while (!failure && entry != std::filesystem::directory_iterator()) {
-        std::error_code unseen;
-        const std::string name = entry->path().filename().string();
-        if (!name.starts_with('.') && entry->is_regular_file(unseen)) {
-            names.push_back(name);
-        }
-        entry.increment(failure);
-    }
-    std::ranges::sort(names, [](const std::string &a, const std::string &b) {
-        const int order = ShownName(a).compare(ShownName(b), Qt::CaseInsensitive);
-        return order != 0 ? order < 0 : a < b;
-    });
-    return names;
+    const std::filesystem::directory_iterator entries(folder, failure);
+    return failure ? failure.message() : std::string();
 }
 
 } // namespace kelvarine

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,8 +16,24 @@ namespace kelvarine {
 QString ShownName(std::string_view bytes);
 std::string NameBytes(const QString &shown);
 
-// The names of the files in a folder that are not hidden, in the order in which they are shown:
-// whatever their case.
-std::vector<std::string> FilesIn(const std::string &folder);
+struct FileEntry {
+    std::string Name;
+    QString Shown;
+    std::int64_t Size = 0;    // in bytes
+    std::int64_t Changed = 0; // in seconds of the system's time
+};
+
+// The order in which names are shown: whatever their case.
+bool ShownBefore(const FileEntry &a, const FileEntry &b);
+
+enum class Hidden : std::uint8_t { LeftOut, Included };
+
+// The files in a folder, and its folders, as they are shown. What begins with a point is hidden.
+// Empty when the folder cannot be read.
+std::vector<FileEntry> FilesIn(const std::string &folder, Hidden hidden = Hidden::LeftOut);
+std::vector<FileEntry> FoldersIn(const std::string &folder, Hidden hidden = Hidden::LeftOut);
+
+// Why the entries of a folder cannot be read, in the system's words; empty when they can.
+std::string WhyUnreadable(const std::string &folder);
 
 } // namespace kelvarine

@@ -1,5 +1,6 @@
 #include "commands/file_commands.h"
 #include "commands/restart.h"
+#include "files/dialog_folders.h"
 #include "files/file_dialog.h"
 #include "files/game_file.h"
 #include "game/lifecycle.h"
@@ -7,18 +8,18 @@
 #include "grid/history.h"
 #include "support/positions.h"
 #include "support/temporary_folder.h"
-#include "support/widget_program.h"
+#include "support/widget_file_dialog.h"
 #include "ui/screens/file_dialog_qt.h"
+#include "ui/screens/file_list.h"
 #include "ui/screens/file_names.h"
+#include "ui/screens/folder_tree.h"
 #include "ui/screens/help_window.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
-#include <QTreeView>
 #include <QtTest>
 #include <gtest/gtest.h>
 
@@ -26,102 +27,6 @@
 
 namespace kelvarine::testing {
 namespace {
-
-// A showing of the dialog in a folder of the test's own.
-class FileDialogWindow : public ::testing::Test {
-protected:
-    void SetUp() override
-    {
-        DialogFolder = Folder.Path();
-    }
-
-    // Opens a showing, in place of one before.
-    void Show(std::string_view caption, std::size_t fileType = SudokuFiles)
-    {
-        Dialog.reset();
-        DialogCaption = caption;
-        SelectFileType(fileType);
-        Dialog = std::make_unique<FileDialog>(Running.Main.get(), fileType);
-        Dialog->open();
-        QCoreApplication::processEvents();
-    }
-
-    template <typename Control>
-    Control *Find(const char *name) const
-    {
-        return Dialog->findChild<Control *>(QString::fromLatin1(name));
-    }
-
-    [[nodiscard]] QLineEdit *Name() const
-    {
-        return Find<QLineEdit>("txtFileName");
-    }
-
-    [[nodiscard]] QListWidget *Files() const
-    {
-        return Find<QListWidget>("filFiles");
-    }
-
-    // Types into the name, whatever stands there, and presses Enter.
-    void Type(const char *text) const
-    {
-        Name()->setFocus();
-        Name()->selectAll();
-        QTest::keyClicks(Name(), QString::fromUtf8(text));
-    }
-
-    void TypeAndEnter(const char *text) const
-    {
-        Type(text);
-        QTest::keyClick(Name(), Qt::Key_Return);
-    }
-
-    [[nodiscard]] std::vector<std::string> Listed() const
-    {
-        std::vector<std::string> names;
-        names.reserve(static_cast<std::size_t>(Files()->count()));
-        for (int row = 0; row < Files()->count(); ++row) {
-            names.push_back(Files()->item(row)->text().toStdString());
-        }
-        return names;
-    }
-
-    void ClickEntry(int row, bool twice = false) const
-    {
-        const QPoint place = Files()->visualItemRect(Files()->item(row)).center();
-        QTest::mouseClick(Files()->viewport(), Qt::LeftButton, {}, place);
-        if (twice) {
-            QTest::mouseDClick(Files()->viewport(), Qt::LeftButton, {}, place);
-        }
-    }
-
-    [[nodiscard]] bool InView(int row) const
-    {
-        return Files()->viewport()->rect().contains(
-            Files()->visualItemRect(Files()->item(row)).center());
-    }
-
-    Program Running;
-    TemporaryFolder Folder;
-    std::unique_ptr<FileDialog> Dialog;
-};
-
-// Runs an action that opens one message box, and presses a key in it. Its text.
-std::string PressInBox(const std::function<void()> &action, Qt::Key key)
-{
-    std::string text;
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            box != nullptr && box->isVisible()) {
-            text = box->text().toStdString();
-            QTest::keyClick(box, key);
-        }
-    });
-    watch.start(1);
-    action();
-    return text;
-}
 
 TEST_F(FileDialogWindow, HasItsCaptionItsTypesAndTheFocusInTheName)
 {
@@ -141,19 +46,20 @@ TEST_F(FileDialogWindow, TabGoesThroughTheControlsInTheirOrder)
 {
     Show(OpenGameCaption);
     std::vector<std::string> order;
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 11; ++i) {
         order.push_back(Dialog->focusWidget()->objectName().toStdString());
         QTest::keyClick(Dialog->focusWidget(), Qt::Key_Tab);
     }
-    EXPECT_EQ(order, (std::vector<std::string>{"txtFileName", "cmbFileTypes", "cmdOK", "cmdCancel",
-                                               "cmdHelp", "dirDirectory", "filFiles"}));
+    EXPECT_EQ(order, (std::vector<std::string>{"txtFileName", "cmbFileTypes", "chkHidden", "cmdOK",
+                                               "cmdCancel", "cmdHelp", "cmdParent", "cmdNewFolder",
+                                               "drvDrive", "dirDirectory", "filFiles"}));
     EXPECT_EQ(Dialog->focusWidget(), Name());
 }
 
 TEST_F(FileDialogWindow, ControlsHaveNamesForThoseWhoDoNotSee)
 {
     Show(OpenGameCaption);
-    EXPECT_EQ(Find<QTreeView>("dirDirectory")->accessibleName().toStdString(), "Folders");
+    EXPECT_EQ(Tree()->accessibleName().toStdString(), "Folders");
     EXPECT_EQ(Files()->accessibleName().toStdString(), "Files");
     EXPECT_EQ(Name()->accessibleName().toStdString(), "File name");
     EXPECT_EQ(Find<QComboBox>("cmbFileTypes")->accessibleName().toStdString(), "File types");
@@ -288,7 +194,7 @@ TEST_F(FileDialogWindow, TypingBringsTheFirstEntryThatBeginsSoIntoView)
         Folder.Write("Game " + std::to_string(i) + ".sdk", "");
     }
     Show(OpenGameCaption);
-    ASSERT_EQ(Files()->count(), 200);
+    ASSERT_EQ(Files()->model()->rowCount(), 200);
     ASSERT_FALSE(InView(150));
     Type("game 25");
     EXPECT_TRUE(InView(150));
@@ -340,7 +246,7 @@ TEST_F(FileDialogWindow, DeleteKeyElsewhereDeletesNoFile)
 {
     Folder.Write("a.sdk", "");
     Show(OpenGameCaption);
-    Files()->setFocus();
+    Files()->setFocus(Qt::MouseFocusReason);
     QTest::keyClick(Files(), Qt::Key_Delete); // nothing is selected
     ClickEntry(0);
     Name()->setFocus();
@@ -355,12 +261,9 @@ TEST_F(FileDialogWindow, FolderChosenInTheTreeIsListedAndKept)
     std::filesystem::create_directory(Folder.Path("inner"));
     Folder.Write("inner/deep.sdk", "");
     Show(OpenGameCaption);
-    auto *tree = Find<QTreeView>("dirDirectory");
     EXPECT_EQ(Find<QLabel>("lblFolder")->text().toStdString(), Folder.Path());
-    const auto *folders = qobject_cast<QFileSystemModel *>(tree->model());
-    const QModelIndex inner = folders->index(QString::fromStdString(Folder.Path("inner")));
-    ASSERT_TRUE(inner.isValid());
-    tree->setCurrentIndex(inner);
+    ASSERT_EQ(Tree()->currentItem()->childCount(), 1);
+    Tree()->setCurrentItem(Tree()->currentItem()->child(0));
     EXPECT_EQ(DialogFolder, Folder.Path("inner/"));
     EXPECT_EQ(Find<QLabel>("lblFolder")->text().toStdString(), Folder.Path("inner/"));
     EXPECT_EQ(Listed(), std::vector<std::string>{"deep.sdk"});
@@ -378,14 +281,8 @@ TEST_F(FileDialogWindow, TreeShowsTheFolderInHand)
     }
     DialogFolder = Folder.Path("190/");
     Show(OpenGameCaption);
-    const auto *tree = Find<QTreeView>("dirDirectory");
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] {
-            return tree->viewport()->rect().contains(
-                tree->visualRect(tree->currentIndex()).center());
-        },
-        Patience));
-    EXPECT_EQ(tree->currentIndex().data().toString().toStdString(), "190");
+    EXPECT_EQ(FolderTree::FolderOf(Tree()->currentItem()), DialogFolder);
+    EXPECT_TRUE(FolderInView());
 }
 
 TEST_F(FileDialogWindow, ArrowsWalkTheTree)
@@ -393,13 +290,10 @@ TEST_F(FileDialogWindow, ArrowsWalkTheTree)
     std::filesystem::create_directory(Folder.Path("inner"));
     Folder.Write("inner/deep.sdk", "");
     Show(OpenGameCaption);
-    auto *tree = Find<QTreeView>("dirDirectory");
-    tree->setFocus();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return tree->model()->rowCount(tree->currentIndex()) == 1; },
-                                Patience));
-    QTest::keyClick(tree, Qt::Key_Down);
+    Tree()->setFocus();
+    QTest::keyClick(Tree(), Qt::Key_Down);
     EXPECT_EQ(DialogFolder, Folder.Path("inner/"));
-    QTest::keyClick(tree, Qt::Key_Left);
+    QTest::keyClick(Tree(), Qt::Key_Left);
     EXPECT_EQ(DialogFolder, Folder.Path());
 }
 
@@ -515,8 +409,8 @@ TEST_F(FileDialogWindow, FileWhoseNameIsNoTextIsListedAndOpened)
     const std::string name = "lat\xe4in.sdk";
     Folder.Write(name, GameFileBytes());
     Show(OpenGameCaption);
-    ASSERT_EQ(Files()->count(), 1);
-    Files()->setCurrentRow(0);
+    ASSERT_EQ(Files()->model()->rowCount(), 1);
+    Files()->Select(0);
     QTest::mouseClick(Find<QPushButton>("cmdOK"), Qt::LeftButton);
     EXPECT_EQ(ChosenFilePath, Folder.Path(name));
     EXPECT_EQ(DialogName, name);
