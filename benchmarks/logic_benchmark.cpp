@@ -5,6 +5,7 @@
 #include "game/alert_scan.h"
 #include "generator/random_source.h"
 #include "grid/grid.h"
+#include "logic/counter.h"
 #include "logic/driver.h"
 #include "logic/rating.h"
 #include "logic/technique.h"
@@ -148,11 +149,16 @@ void RegisterAll()
     const Sample stuck = AfterTechniques(hard, upToFish);
 
     const auto count = [] {
+        benchmark::DoNotOptimize(CountFillings(FieldOf(Grid), 2));
+    };
+    const auto walk = [] {
         SolveMask = CountingMask;
         ApplyLogic(CountSolutions);
     };
     Register("count, 18 to 30 givens", sparse, count);
     Register("count, games that need chains or trial", hard, count);
+    Register("count by the walk, 18 to 30 givens", sparse, walk);
+    Register("count by the walk, games that need chains or trial", hard, walk);
     Register("rate, games that need chains or trial", hard, RateGame);
     Register("rate, games of all levels", all, RateGame);
     AlertMask = RatingMask;

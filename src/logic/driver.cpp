@@ -61,6 +61,7 @@ struct Run {
     // are tried with the next number, so that the first of them ends that round; intended.
     Flag Found = False;
     std::int64_t PassesLeft = 0;
+    bool TriedAll = false; // and found no solution
     int TrialsSinceYield = 0;
     double Start = SteadySeconds();
     int TrialDepth = 0;
@@ -332,11 +333,9 @@ Step Backtrack(Run &run)
     return Step::NextNumber;
 }
 
-Step ReportNoSolution(Run &run)
+Step EndWithoutSolution(Run &run)
 {
-    if (run.Mode == SolveAsPlayer) {
-        ShowMessage("This sudoku has no solution.");
-    }
+    run.TriedAll = true;
     RestoreSafeCopy();
     return LeaveWith(run, NotSolved);
 }
@@ -355,7 +354,7 @@ Step Take(Run &run, Step step)
     case Step::Backtrack:
         return Backtrack(run);
     case Step::NoSolution:
-        return ReportNoSolution(run);
+        return EndWithoutSolution(run);
     case Step::Leave:
         break;
     }
@@ -428,6 +427,11 @@ std::int32_t ApplyLogicWithin(std::int64_t mostPasses, std::int32_t mode)
         step = Take(run, step);
     }
     EndRun();
+    if (run.TriedAll && mode == SolveAsPlayer) {
+        // When nothing is under way any more that could be stopped instead.
+        TakeBannerAway();
+        ShowMessage("This sudoku has no solution.");
+    }
     return run.Result;
 }
 

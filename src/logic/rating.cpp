@@ -1,6 +1,7 @@
 #include "logic/rating.h"
 
 #include "logic/alerts.h"
+#include "logic/counter.h"
 #include "logic/driver.h"
 #include "logic/filling_runs.h"
 #include "logic/kept_settings.h"
@@ -24,7 +25,10 @@ void CountForRating()
     }
     SolveMask = CountingMask;
     FillPencilmarks();
-    RunByFillings(CountSolutions);
+    if (RunByFillings(CountSolutions) == Stopped) {
+        FillPencilmarks();
+        SolutionCount = CountFillings(FieldOf(Grid), 2); // no need to walk for it
+    }
 }
 
 // Solves the grid with everything and returns the highest level used, or up to where it was

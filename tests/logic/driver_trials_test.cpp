@@ -179,6 +179,26 @@ TEST_F(DriverTrials, ExhaustedSearchRestoresTheGridAndTellsThePlayerInModeZeroAl
     }
 }
 
+TEST_F(DriverTrials, MessageOfNoSolutionComesWhenTheRunHasEnded)
+{
+    SetGivens(RepeatAmongEight);
+    const GridTable before = Grid;
+    Seen.OnYield = [] {
+        Seen.Steady += LongRunSeconds;
+    };
+    bool told = false;
+    Seen.OnBox = [&] {
+        told = true;
+        EXPECT_EQ(RunUnderWay, False);
+        EXPECT_EQ(SearchActive, False);
+        EXPECT_EQ(Grid, before);
+        EXPECT_EQ(Seen.BoardPaints, 1) << "the banner is gone";
+    };
+    Apply(SolveAsPlayer, SinglesMask | TrialBit);
+    EXPECT_EQ(RunIsLong, True);
+    EXPECT_TRUE(told);
+}
+
 TEST_F(DriverTrials, RepeatAmongEightEndsInModeZero)
 {
     SetGivens(RepeatAmongEight);

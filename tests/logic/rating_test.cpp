@@ -274,6 +274,20 @@ TEST_F(Rating, StoppedSearchRestoresGridAndSettings)
     }
 }
 
+// Without a single in the levels the solutions are counted by a walk, which may be a long one.
+TEST_F(Rating, CountThatIsStoppedIsTheCounters)
+{
+    LevelTable.fill(0);
+    LevelTable[1] = MaskOf({Intersection});
+    Seen.OnYield = [] {
+        SearchActive = False;
+    };
+    EXPECT_EQ(RatingOf(PlainGame), 5);
+    EXPECT_EQ(WrittenSolution(), PlainSolution);
+    EXPECT_EQ(RatingOf(TwoSolutions), 6);
+    EXPECT_EQ(RatingOf(NoSolution), 7);
+}
+
 // ---- The report ----------------------------------------------------------------------------
 
 TEST_F(Rating, ReportListsTheTechniquesInTheirOrder)
