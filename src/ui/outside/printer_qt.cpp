@@ -156,16 +156,10 @@ PrinterPage CurrentPrinterPage()
 
 bool ChoosePrinter()
 {
-    const QString name = ChosenPrinter().printerName();
+    // With another printer the dialog takes that one's own margins, the narrowest.
     QPrintDialog dialog(&ChosenPrinter(), AskingWindow());
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-    if (RunDialog(dialog) != QDialog::Accepted) {
-        return false;
-    }
-    if (ChosenPrinter().printerName() != name && !WritesPdf()) {
-        TakeWidestArea(ChosenPrinter());
-    }
-    return true;
+    return RunDialog(dialog) == QDialog::Accepted;
 }
 
 bool PrintPicture(PrintedPicture picture, const PagePlace &place)
