@@ -8,6 +8,8 @@
 #include "outside/file_lock.h"
 #include "outside/folders.h"
 
+#include <array>
+
 namespace kelvarine::testing {
 namespace {
 
@@ -80,6 +82,26 @@ TEST_F(TwoPrograms, PlacesAndLevelsGoAsAWhole)
     EXPECT_EQ(MainPlace.Width, 300);
     EXPECT_EQ(LevelTable[1], levels[1] | BitTable[4]);
     EXPECT_EQ(LevelTable[2], levels[2]);
+}
+
+// Record, first and last element of each place of a window and of the levels.
+TEST_F(TwoPrograms, WholeGoesFromItsFirstElementToItsLast)
+{
+    const std::string common = ConfigurationBytes();
+    for (const auto &[record, first, last] : {std::array<std::size_t, 3>{5, 0, 4},
+                                              {6, 1, 4},
+                                              {6, 6, 9},
+                                              {7, 1, 4},
+                                              {7, 6, 7},
+                                              {10, 0, 4}}) {
+        const auto changed = [&](std::size_t element) {
+            std::string bytes = common;
+            ++bytes[(record - 1) * BytesInRecord + 4 * element];
+            return bytes;
+        };
+        EXPECT_EQ(MergedSettings(common, changed(first), changed(last)), changed(first)) << record;
+        EXPECT_EQ(MergedSettings(common, changed(last), changed(first)), changed(last)) << record;
+    }
 }
 
 TEST_F(TwoPrograms, WhatWasWrittenAndChangedBackIsChangedBack)

@@ -162,11 +162,24 @@ TEST_F(Statistics, LockThatAnotherProgramHoldsIsWaitedForAndThenTold)
 
 TEST_F(Statistics, TwoProgramsWithFiveHundredWinsEachCountAThousand)
 {
-    const auto play = [] {
-        for (int win = 0; win < 500; ++win) {
+    // On a slow machine the other program may hold the file for longer than a player is to wait:
+    // then the player is told, and the win counts in the session alone, so here it is won again.
+    const auto countsAWin = [] {
+        const Texts busy{"Unable to save statistics.\r\rAnother program is using them."};
+        do {
+            Seen.Messages.clear();
+            SetStatisticsDefaults();
             Solve(1, 60);
+        } while (Seen.Messages == busy);
+        return Seen.Messages.empty();
+    };
+    const auto play = [&] {
+        for (int win = 0; win < 500; ++win) {
+            if (!countsAWin()) {
+                return 1;
+            }
         }
-        return Seen.Messages.empty() ? 0 : 1;
+        return 0;
     };
     const pid_t other = ::fork();
     if (other == 0) {
@@ -177,7 +190,6 @@ TEST_F(Statistics, TwoProgramsWithFiveHundredWinsEachCountAThousand)
     ::waitpid(other, &status, 0);
     EXPECT_EQ(status, 0);
     EXPECT_EQ(InFile()[0].Solved, 1000);
-    EXPECT_EQ(SessionStats[0].Solved, 500);
 }
 
 } // namespace

@@ -39,6 +39,14 @@ TEST_F(PagePlaces, PrintableAreaIsTakenFromThePrinter)
     EXPECT_DOUBLE_EQ(PrintableHeight, 2.5);
 }
 
+TEST_F(PagePlaces, PrintableAreaIsThatOfALetterUntilThePrinterIsAsked)
+{
+    PrintableWidth = PrintableHeight = 1;
+    SetPageDefaults();
+    EXPECT_DOUBLE_EQ(PrintableWidth, 7.5);
+    EXPECT_DOUBLE_EQ(PrintableHeight, 10);
+}
+
 TEST_F(PagePlaces, FiveInchesInTheMiddleByDefault)
 {
     EXPECT_EQ(CurrentGamePlace(1, 1), (PagePlace{1.25, 2.5, 5, 5}));

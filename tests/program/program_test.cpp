@@ -124,7 +124,9 @@ TEST_F(WholeProgram, EndWithoutAQuestionKeepsTheSettingsAndTheGameForTheNextStar
     PushUndoState();
     ForgetRecord();
     KeepBeforeAsking();
+    ForgetRecord();
     EndProgramUnasked();
+    EXPECT_EQ(Acts(), (Texts{"stop sound: ", "place kept: "}));
     EXPECT_TRUE(Seen.Questions.empty());
     EXPECT_EQ(GameModified, True);
     EXPECT_FALSE(Seen.RecoveryTimerOn);

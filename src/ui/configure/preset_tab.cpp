@@ -114,7 +114,6 @@ private:
         if (ChangesCount()) {
             ApplyPreset(number);
             ShowPresetOnGridTab(*window());
-            window()->update();
         }
     }
 

@@ -1,6 +1,5 @@
 #include "ui/controls/focus_bar.h"
 
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -56,18 +55,6 @@ void FocusBar::keyPressEvent(QKeyEvent *event)
     } else {
         triggerAction(action);
     }
-}
-
-void FocusBar::focusInEvent(QFocusEvent *event)
-{
-    QScrollBar::focusInEvent(event);
-    update();
-}
-
-void FocusBar::focusOutEvent(QFocusEvent *event)
-{
-    QScrollBar::focusOutEvent(event);
-    update();
 }
 
 } // namespace kelvarine

@@ -44,18 +44,6 @@ void LevelLabel::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void LevelLabel::focusInEvent(QFocusEvent *event)
-{
-    QLabel::focusInEvent(event);
-    update();
-}
-
-void LevelLabel::focusOutEvent(QFocusEvent *event)
-{
-    QLabel::focusOutEvent(event);
-    update();
-}
-
 void LevelLabel::paintEvent(QPaintEvent *event)
 {
     QLabel::paintEvent(event);

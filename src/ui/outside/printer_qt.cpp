@@ -161,16 +161,10 @@ bool ChoosePrinter()
 
 bool ChoosePrinterOver(QWidget *asker)
 {
-    const QString name = ChosenPrinter().printerName();
+    // With another printer the dialog takes that one's own margins, the narrowest.
     QPrintDialog dialog(&ChosenPrinter(), asker);
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-    if (RunDialog(dialog) != QDialog::Accepted) {
-        return false;
-    }
-    if (ChosenPrinter().printerName() != name && !WritesPdf()) {
-        TakeWidestArea(ChosenPrinter());
-    }
-    return true;
+    return RunDialog(dialog) == QDialog::Accepted;
 }
 
 bool PrintPicture(PrintedPicture picture, const PagePlace &place)

@@ -91,7 +91,6 @@ void ClientArea::resizeEvent(QResizeEvent * /*event*/)
 {
     Layout();
     DrawBoard();
-    update();
 }
 
 void ClientArea::mousePressEvent(QMouseEvent *event)

@@ -4,6 +4,7 @@
 #include "game/screens.h"
 #include "grid/grid.h"
 #include "support/widget_events.h"
+#include "support/widget_paints.h"
 #include "support/widget_program.h"
 #include "ui/window/board_widget.h"
 
@@ -161,6 +162,19 @@ TEST_F(BarOnView, TickLeavesAnOpenMenuAsItIs)
     EXPECT_EQ(QApplication::activePopupWidget(), menu);
     EXPECT_EQ(menu->activeAction(), chosen);
     EXPECT_EQ(menu->geometry(), place);
+    Press(Qt::Key_Escape);
+}
+
+TEST_F(BarOnView, TickIsPaintedWhileTheBarIsWalked)
+{
+    Press(Qt::Key_A, Qt::AltModifier);
+    ASSERT_EQ(Chosen(), "mnuAction");
+    QCoreApplication::processEvents();
+    const PaintCounter painted;
+    SolveSeconds = 754;
+    ClockTick();
+    QCoreApplication::processEvents();
+    EXPECT_GE(painted.PaintsOf(Bar()), 1);
     Press(Qt::Key_Escape);
 }
 

@@ -25,6 +25,7 @@ TEST(Opening, WindowLargerThanTheScreenIsMadeToFit)
         QWidget window(nullptr, Qt::Dialog);
         window.resize(size);
         window.show();
+        EXPECT_TRUE(QRect({}, screen).contains(QRect({}, window.size()))) << "at once";
         EXPECT_TRUE(ComesToFit(window));
     }
     program.Main->hide();

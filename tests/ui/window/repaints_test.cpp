@@ -7,6 +7,7 @@
 #include "input/mouse.h"
 #include "outside/window.h"
 #include "support/widget_configure.h"
+#include "support/widget_events.h"
 #include "support/widget_repaints.h"
 #include "ui/configure/tab_strip.h"
 #include "ui/window/board_widget.h"
@@ -95,7 +96,7 @@ INSTANTIATE_TEST_SUITE_P(EveryTab, RepaintsOfTab, ::testing::Range(0, TabCount))
 TEST_F(Repaints, FollowTheColourThatIsCarriedOver)
 {
     Open(ColoursTab);
-    Click("optTableColors4");
+    ConfigureTest::Click("optTableColors4");
     for (const char *name : {"swatch2", "picColorpal", "tile3"}) {
         ExpectRepaintsAfter(name, [&] {
             QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton, Qt::NoModifier, {20, 10});
@@ -103,11 +104,20 @@ TEST_F(Repaints, FollowTheColourThatIsCarriedOver)
     }
 }
 
+TEST_F(Repaints, FollowTheTextureOfAColour)
+{
+    Open(ColoursTab);
+    ConfigureTest::Click("optTableColors0");
+    for (const char *name : {"tile3", "tile0"}) {
+        ExpectRepaintsAfter(name, [&] { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); });
+    }
+}
+
 TEST_F(Repaints, FollowTheChosenPreset)
 {
     Open(PresetGridsTab);
     for (const char *name : {"picPresetGrid3", "picPresetGrid0"}) {
-        ExpectRepaintsAfter(name, [&] { Click(name); });
+        ExpectRepaintsAfter(name, [&] { ConfigureTest::Click(name); });
     }
 }
 
@@ -125,10 +135,9 @@ TEST_F(Repaints, FollowTheTabs)
 TEST_F(Repaints, FollowTheBoardOnThePreview)
 {
     Open(PrintTab);
-    ExpectRepaintsAfter("digit", [&] {
-        QTest::mouseClick(Running->Main->Client->Board, Qt::LeftButton, Qt::NoModifier, {30, 30});
-        QTest::keyClick(Running->Main->Client->Board, Qt::Key_4);
-    });
+    QWidget *board = Running->Main->Client->Board;
+    QTest::mouseClick(board, Qt::LeftButton, Qt::NoModifier, CentreOf(3, 1));
+    ExpectRepaintsAfter("digit", [board] { QTest::keyClick(board, Qt::Key_4); });
 }
 
 // Each entry that is a switch, once there and once back.
