@@ -1,5 +1,6 @@
 // What a file has beside its bytes outlasts its replacement, and what a killed program leaves does
 // not.
+#include "outside/system_calls.h"
 #include "outside/whole_file.h"
 #include "support/child_process.h"
 #include "support/temporary_folder.h"
@@ -251,6 +252,20 @@ TEST_F(Leftovers, FilesOfOthersAndOfOtherNamesStay)
     }
     std::filesystem::create_directory(Folder.Path(".kelvarine-folder"));
     std::filesystem::create_symlink("game", Folder.Path(".kelvarine-linked"));
+TEST_F(Leftovers, AreKnownOnADiskThatGivesLocksForWritingAlone)
+{
+    SystemCalls calls;
+    calls.LocksNeedWriting = true;
+    Leave(".kelvarine-abcDE1", 0);
+    Leave(".kelvarine-abcDE2", 0);
+    const int written = ::open(Folder.Path(".kelvarine-abcDE2").c_str(), O_WRONLY | O_CLOEXEC);
+    ASSERT_EQ(::flock(written, LOCK_EX | LOCK_NB), 0);
+    Replace();
+    EXPECT_FALSE(IsThere(".kelvarine-abcDE1"));
+    EXPECT_TRUE(IsThere(".kelvarine-abcDE2"));
+    ::close(written);
+}
+
     Replace();
     EXPECT_EQ(Folder.Entries(), 7);
     Leave(".kelvarine-abcDE1", DayAndMore);
