@@ -160,8 +160,24 @@ TEST_F(Statistics, LockThatAnotherProgramHoldsIsWaitedForAndThenTold)
     EXPECT_EQ(InFile()[0].Solved, 1);
 }
 
+TEST_F(Statistics, WhileAFailureIsReadOthersMayCount)
+{
+    Solve(1, 60);
+    const std::filesystem::path file = StatisticsFilePath();
+    std::filesystem::remove(file);
+    std::filesystem::create_directory(file);
+    LockState meanwhile = LockState::Failed;
+    Seen.OnBox = [&] {
+        meanwhile = FileLock(DataFolder() + "stats.lock").State();
+    };
+    Solve(1, 60);
+    EXPECT_EQ(Seen.Messages, Texts{"Unable to save statistics.\r\rIs a directory"});
+    EXPECT_EQ(meanwhile, LockState::Held);
+}
+
 TEST_F(Statistics, TwoProgramsWithFiveHundredWinsEachCountAThousand)
 {
+    StatisticsPatience = 600'000; // a disk may be busy for longer than a player waits
     const auto play = [] {
         for (int win = 0; win < 500; ++win) {
             Solve(1, 60);
