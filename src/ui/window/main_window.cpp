@@ -3,6 +3,7 @@
 #include "board/geometry.h"
 #include "board/look.h"
 #include "commands/file_commands.h"
+#include "files/file_address.h"
 #include "game/clock.h"
 #include "game/screens.h"
 #include "game/win_display.h"
@@ -24,7 +25,6 @@
 
 #include <QCloseEvent>
 #include <QDropEvent>
-#include <QFile>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -32,6 +32,7 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 
+#include <QSysInfo>
 #include <algorithm>
 
 namespace kelvarine {
@@ -43,14 +44,12 @@ constexpr QSize SmallestSize{160, 160};
 
 MainWindow *mainWindow = nullptr;
 
-// Full path of the one file that is dragged; empty for anything else.
+// Full path of the one file that is dragged, in the very bytes of its name; empty for anything
+// else.
 std::string DroppedFile(const QMimeData &dragged)
 {
-    const QList<QUrl> urls = dragged.urls();
-    if (urls.size() != 1 || !urls.front().isLocalFile()) {
-        return {};
-    }
-    return QFile::encodeName(urls.front().toLocalFile()).toStdString();
+    const std::string list = dragged.data(QStringLiteral("text/uri-list")).toStdString();
+    return PathOfAddress(OneAddressIn(list), QSysInfo::machineHostName().toStdString());
 }
 
 } // namespace

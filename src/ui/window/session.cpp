@@ -1,5 +1,6 @@
 #include "ui/window/session.h"
 
+#include "files/file_address.h"
 #include "files/game_file.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
@@ -7,7 +8,6 @@
 #include "program/program.h"
 #include "ui/window/main_window.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QScopedValueRollback>
 #include <QSessionManager>
@@ -99,7 +99,7 @@ void TellHowToStart(QSessionManager &manager)
 {
     QStringList words{QCoreApplication::applicationFilePath()};
     if (!GameFilePath.empty()) {
-        words += QFile::decodeName(QByteArray::fromStdString(GameFilePath));
+        words += WordOf(GameFilePath);
     }
     manager.setRestartCommand(words);
 }
@@ -115,6 +115,13 @@ public:
         if (watched != qApp || event->type() != QEvent::Quit || Window() == nullptr) {
             return false;
         }
+// The session takes words of text. A name that is none is told as an address, byte by byte.
+QString WordOf(const std::string &path)
+{
+    const auto name = QString::fromStdString(path);
+    return name.toStdString() == path ? name : QString::fromStdString(AddressOf(path));
+}
+
         const QScopedValueRollback going(toldToGo, true);
         return !Window()->CloseUnlessAsking();
     }
