@@ -20,6 +20,8 @@
 #include "outside/timers.h"
 #include "outside/window.h"
 
+#include <cassert>
+
 namespace kelvarine {
 
 namespace {
@@ -34,17 +36,6 @@ void OpenFormerScreens()
     if (StatisticsOpen != False) {
         mnuStatistics();
     }
-}
-
-// Asks whether to stop the run of the logic under way, where it can be stopped. False when the
-// player wants it to go on.
-bool MayEndRun()
-{
-    if (SearchActive != False && (SearchKind != NotStoppable || RunIsLong != False)) {
-        QueryStopSearch();
-        return SearchActive == False;
-    }
-    return true;
 }
 
 // A game that was not closed goes before the file that the program was started with.
@@ -91,11 +82,11 @@ void KeepBeforeAsking()
     KeepConfiguration(untold);
 }
 
-bool AskBeforeTheEnd()
+bool MayEndRun()
 {
-    if (RunUnderWay != False) {
-        MayEndRun();
-        return false; // the board is the run's, and whether to save cannot be asked yet
+    if (SearchActive != False && (SearchKind != NotStoppable || RunIsLong != False)) {
+        QueryStopSearch();
+        return SearchActive == False;
     }
     QuerySaveGame();
     return LastAnswer != AnsweredCancel;
@@ -103,6 +94,12 @@ bool AskBeforeTheEnd()
 
 void KeepSettings()
 {
+    return true;
+}
+
+bool AskBeforeTheEnd()
+{
+    assert(RunUnderWay == False); // else the board is the run's, and cannot be asked about
     KeepMainPlace();
     // Before the other screens go, so that those open now count as open.
     WriteConfiguration();

@@ -19,12 +19,14 @@ void KeepBeforeAsking();
 // and keeps the settings. False when the player would rather stay.
 bool EndProgram();
 
-// The two halves of it: the questions, false when the player would rather stay; and what is due
-// when they are answered, or have been before.
+// What it is made of. While a run of the logic is under way: whether it may end, which is asked
+// where it can be stopped. Without a run: the question whether to save, false when the player would
+// rather stay; and what is due when it is answered, or has been before.
+bool MayEndRun();
 bool AskBeforeTheEnd();
 void EndProgramAnswered();
 
-// The second half where nobody could be asked: what is kept for a crash stays for the next start.
+// The last of these where nobody could be asked: what is kept for a crash stays for the next start.
 void EndProgramUnasked();
 
 // Writes the settings as they are, with the windows that are open, while the program goes on.

@@ -221,8 +221,9 @@ TEST_F(WholeProgram, QuestionsOfASessionDuringARunCloseNothingLater)
     StartRun();
     SearchKind = SearchingGame;
     Seen.LaterDeeds.clear();
-    Seen.YesNoAnswers = {true};
-    EXPECT_FALSE(AskBeforeTheEnd());
+    Seen.YesNoAnswers = {false, true};
+    EXPECT_FALSE(MayEndRun());
+    EXPECT_TRUE(MayEndRun());
     EXPECT_EQ(SearchActive, False);
     EndRun();
     EXPECT_TRUE(Seen.LaterDeeds.empty());

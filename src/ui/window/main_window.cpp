@@ -31,9 +31,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
-
 #include <QSysInfo>
 #include <algorithm>
+
 
 namespace kelvarine {
 
@@ -138,10 +138,10 @@ bool MainWindow::CloseUnlessAsking()
     return !isVisible();
 }
 
-bool MainWindow::AskAsClosingDoes()
+bool MainWindow::AskAsClosingDoes(bool (*ask)())
 {
     const QScopedValueRollback nowAsking(asking, true);
-    return AskBeforeTheEnd();
+    return ask();
 }
 
 bool MainWindow::IsClosing() const

@@ -57,8 +57,8 @@ public:
     // decides and nothing happens. True when the window is gone.
     bool CloseUnlessAsking();
 
-    // Asks what a closing would ask, and closes nothing. False when the player would rather stay.
-    bool AskAsClosingDoes();
+    // Asks something that a closing would ask, in its manner, and closes nothing. Gives the answer.
+    bool AskAsClosingDoes(bool (*ask)());
 
     // A closing, or a session's end, waits for the player's answer.
     [[nodiscard]] bool IsClosing() const;
