@@ -41,6 +41,9 @@ void OpenFormerScreens()
 // A game that was not closed goes before the file that the program was started with.
 void BeginGame(const std::string &gameFile)
 {
+    if (RecoveryHasEnded()) {
+        return; // told to go while it started
+    }
     OfferLostGames();
     if (gameFile.empty() || RecoveryHasEnded()) {
         return;
@@ -76,6 +79,9 @@ void StartProgram(const std::string &gameFile)
 
 void KeepBeforeAsking()
 {
+    if (RecoveryHasEnded()) {
+        return; // the answer has come, and the screens that went since count as open
+    }
     WriteRecovery();
     KeepMainPlace();
     std::string untold; // nobody may be there to be told
@@ -88,18 +94,18 @@ bool MayEndRun()
         QueryStopSearch();
         return SearchActive == False;
     }
-    QuerySaveGame();
-    return LastAnswer != AnsweredCancel;
-}
-
-void KeepSettings()
-{
     return true;
 }
 
 bool AskBeforeTheEnd()
 {
     assert(RunUnderWay == False); // else the board is the run's, and cannot be asked about
+    QuerySaveGame();
+    return LastAnswer != AnsweredCancel;
+}
+
+void KeepSettings()
+{
     KeepMainPlace();
     // Before the other screens go, so that those open now count as open.
     WriteConfiguration();

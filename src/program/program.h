@@ -12,7 +12,8 @@ namespace kelvarine {
 void StartProgram(const std::string &gameFile);
 
 // Keeps the game in hand in its recovery file, and the settings, for a program that is asked to go
-// and may be ended before the player has answered. Says nothing.
+// and may be ended before the player has answered. Says nothing, and does nothing once the end has
+// been agreed on.
 void KeepBeforeAsking();
 
 // Does what is due before the main window goes: asks whether to stop a search, or whether to save,

@@ -12,6 +12,7 @@
 #include "input/toolbar.h"
 #include "outside/board.h"
 #include "outside/events.h"
+#include "outside/window.h"
 #include "paint/board_painter.h"
 #include "paint/margin_painter.h"
 #include "program/program.h"
@@ -32,8 +33,9 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QSysInfo>
-#include <algorithm>
 
+#include <algorithm>
+#include <utility>
 
 namespace kelvarine {
 
@@ -131,6 +133,10 @@ void MainWindow::UpdateMenuCaptions()
 
 bool MainWindow::CloseUnlessAsking()
 {
+    if (!wasShown) {
+        closesWhenShown = true;
+        return false;
+    }
     // The toolkit would take a second closing for agreed and close the window under the question.
     if (isVisible() && !asking) {
         close();
@@ -205,6 +211,15 @@ void MainWindow::KeepPlace()
     MainMaximised = FlagOf(isMaximized());
     if (!isMaximized() && !isFullScreen()) {
         kelvarine::KeepPlace(*this, MainPlace);
+    }
+}
+
+void MainWindow::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    wasShown = true;
+    if (std::exchange(closesWhenShown, false)) {
+        CallFromEventLoop(CloseMainWindow);
     }
 }
 
