@@ -43,6 +43,14 @@ protected:
         EXPECT_TRUE(ReplaceWholeFile(Folder.Path(name), "new", Error)) << Error;
     }
 
+    [[nodiscard]] bool NeedsInPlace(const std::string &name) const
+    {
+        std::string error;
+        const bool needed = NeedsWritingInPlace(Folder.Path(name), error);
+        EXPECT_EQ(error, "");
+        return needed;
+    }
+
     void Set(const char *attribute, const std::string &value, const std::string &name = "game")
     {
         Possible = Possible && ::setxattr(Folder.Path(name).c_str(), attribute, value.data(),
@@ -152,10 +160,10 @@ TEST_F(FileMarks, ListThatAFolderGivesToNewFilesIsNotTakenOver)
 
 TEST_F(FileMarks, FileWithASecondNameNeedsWritingInPlace)
 {
-    EXPECT_FALSE(NeedsWritingInPlace(Folder.Path("game")));
-    EXPECT_FALSE(NeedsWritingInPlace(Folder.Path("missing")));
+    EXPECT_FALSE(NeedsInPlace("game"));
+    EXPECT_FALSE(NeedsInPlace("missing"));
     std::filesystem::create_hard_link(Folder.Path("game"), Folder.Path("other"));
-    EXPECT_TRUE(NeedsWritingInPlace(Folder.Path("game")));
+    EXPECT_TRUE(NeedsInPlace("game"));
     for (const std::string bytes : {"longer than before", "short", ""}) {
         ASSERT_TRUE(WriteInPlace(Folder.Path("game"), bytes, Error)) << Error;
         EXPECT_EQ(Folder.Read("other"), bytes);
@@ -170,8 +178,8 @@ TEST_F(FileMarks, FileInAFolderThatTakesNoneNeedsWritingInPlace)
         if (::getuid() == 0 && (::setgid(Nobody) != 0 || ::setuid(Nobody) != 0)) {
             return 1;
         }
-        EXPECT_TRUE(NeedsWritingInPlace(Folder.Path("game")));
-        EXPECT_FALSE(NeedsWritingInPlace(Folder.Path("missing")));
+        EXPECT_TRUE(NeedsInPlace("game"));
+        EXPECT_FALSE(NeedsInPlace("missing"));
         EXPECT_TRUE(WriteInPlace(Folder.Path("game"), "new", Error)) << Error;
         return HasFailure() ? 1 : 0;
     });
@@ -191,11 +199,11 @@ TEST_F(FileMarks, FileOfAnothersInASharedFolderNeedsWritingInPlace)
         if (::setgid(Nobody) != 0 || ::setuid(Nobody) != 0) {
             return 1;
         }
-        EXPECT_TRUE(NeedsWritingInPlace(Folder.Path("game")));
+        EXPECT_TRUE(NeedsInPlace("game"));
         return HasFailure() ? 1 : 0;
     });
     EXPECT_EQ(result, 0);
-    EXPECT_FALSE(NeedsWritingInPlace(Folder.Path("game")));
+    EXPECT_FALSE(NeedsInPlace("game"));
 }
 
 // ---- Leftovers -------------------------------------------------------------------------------
@@ -244,14 +252,6 @@ TEST_F(Leftovers, FileThatSomebodyStillWritesStaysForADay)
     EXPECT_EQ(Folder.Entries(), 1);
 }
 
-TEST_F(Leftovers, FilesOfOthersAndOfOtherNamesStay)
-{
-    for (const std::string name :
-         {".kelvarine-abcDE", ".kelvarine-abcDE12", ".kelvarine-abc.12", "kelvarine-abcDE1"}) {
-        Leave(name, DayAndMore);
-    }
-    std::filesystem::create_directory(Folder.Path(".kelvarine-folder"));
-    std::filesystem::create_symlink("game", Folder.Path(".kelvarine-linked"));
 TEST_F(Leftovers, AreKnownOnADiskThatGivesLocksForWritingAlone)
 {
     SystemCalls calls;
@@ -266,6 +266,14 @@ TEST_F(Leftovers, AreKnownOnADiskThatGivesLocksForWritingAlone)
     ::close(written);
 }
 
+TEST_F(Leftovers, FilesOfOthersAndOfOtherNamesStay)
+{
+    for (const std::string name :
+         {".kelvarine-abcDE", ".kelvarine-abcDE12", ".kelvarine-abc.12", "kelvarine-abcDE1"}) {
+        Leave(name, DayAndMore);
+    }
+    std::filesystem::create_directory(Folder.Path(".kelvarine-folder"));
+    std::filesystem::create_symlink("game", Folder.Path(".kelvarine-linked"));
     Replace();
     EXPECT_EQ(Folder.Entries(), 7);
     Leave(".kelvarine-abcDE1", DayAndMore);
