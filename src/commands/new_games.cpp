@@ -14,6 +14,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace kelvarine {
 
@@ -121,30 +122,32 @@ std::int32_t ApplyToNewGame()
     return result;
 }
 
-// Makes games until one is left unsolved by the logic that is applied to it, and starts it.
-void SearchAndStart(const GameInHand &before)
+// Makes games until one is left unsolved by the logic that is applied to it. False when the player
+// has stopped the search.
+bool SearchForGame()
 {
-    while (true) {
-        if (!GenerateGame()) {
-            BringBack(before);
-            return;
-        }
+    while (GenerateGame()) {
         FillIfWished();
-        if (SolveOnStart == False) {
-            StartGame(NewGame);
-            return;
-        }
-        switch (ApplyToNewGame()) {
-        case NotSolved:
-            StartGame(NewGame);
-            return;
-        case Stopped:
-            BringBack(before);
-            return;
-        default:
-            break;
+        const std::int32_t result = SolveOnStart == False ? NotSolved : ApplyToNewGame();
+        if (result != Solved) {
+            return result == NotSolved;
         }
     }
+    return false;
+}
+
+// What follows a search: the game that it made, or the one before.
+void StartOrBringBack(bool made, std::unique_ptr<GameInHand> before)
+{
+    if (made) {
+        before
+            .reset(); // given up, so that nobody keeps it with the name and the time of the new one
+        StartGame(NewGame);
+    } else {
+        BringBack(*before);
+    }
+    DrawBoard();
+    RefreshWindow();
 }
 
 } // namespace
@@ -166,11 +169,9 @@ void mnuGameRandom()
         return;
     }
     // The history is too large for the stack.
-    const auto before = std::make_unique<GameInHand>();
+    auto before = std::make_unique<GameInHand>();
     GamesScreened = 0;
-    SearchAndStart(*before);
-    DrawBoard();
-    RefreshWindow();
+    StartOrBringBack(SearchForGame(), std::move(before));
 }
 
 void UserSelectedGame()
@@ -179,7 +180,7 @@ void UserSelectedGame()
     if (LastAnswer == AnsweredCancel) {
         return;
     }
-    const auto before = std::make_unique<GameInHand>();
+    auto before = std::make_unique<GameInHand>();
     GamesScreened = 0;
     if (!SelectGameNumber(UserSelected)) {
         return;
@@ -189,13 +190,7 @@ void UserSelectedGame()
         FillIfWished();
         made = SolveOnStart == False || ApplyToNewGame() != Stopped;
     }
-    if (made) {
-        StartGame(NewGame);
-    } else {
-        BringBack(*before);
-    }
-    DrawBoard();
-    RefreshWindow();
+    StartOrBringBack(made, std::move(before));
 }
 
 } // namespace kelvarine

@@ -30,6 +30,8 @@ constexpr std::size_t RecordWords = 10;
 constexpr std::size_t RecordSize = RecordWords * WordSize;
 
 constexpr std::size_t HeaderRecord = 1;
+constexpr std::size_t NumberRecord = 2;
+constexpr std::size_t NumberElement = 0;
 constexpr std::size_t TimeRecord = 3; // a 64-bit float, then the header once more
 constexpr std::size_t GridRecord = 4;
 constexpr std::size_t HistoryWords = 14; // its counters
@@ -49,8 +51,8 @@ struct WordField {
 };
 
 constexpr std::array WordFields{
-    WordField{2, 0, &GameNumber},
-    WordField{2, 1, &StatsCounted},
+    WordField{NumberRecord, NumberElement, &GameNumber},
+    WordField{NumberRecord, 1, &StatsCounted},
     WordField{HistoryWords, HistoryCountElement, &HistoryCount},
     WordField{HistoryWords, HistoryPositionElement, &HistoryPosition},
     WordField{HistoryWords, 3, &SnapshotAvailable},
@@ -171,6 +173,7 @@ std::string GameFileBytes()
 std::string GameFileBytes(const GameInHand &game)
 {
     std::string bytes = GameFileBytes(game.Cells);
+    PutNumber(bytes, PlaceOf(NumberRecord, NumberElement), static_cast<std::uint32_t>(game.Number));
     PutNumber(bytes, PlaceOf(HistoryWords, HistoryCountElement),
               static_cast<std::uint32_t>(game.Count));
     PutNumber(bytes, PlaceOf(HistoryWords, HistoryPositionElement),

@@ -12,11 +12,6 @@ namespace kelvarine {
 
 namespace {
 
-void TellFailure(const std::string &words)
-{
-    ShowMessage("Unable to save file.\r\r" + words);
-}
-
 bool AgreeToWriteInPlace(const std::string &path)
 {
     return AskYesNo(WithDoubledMarks(path) +
@@ -24,16 +19,14 @@ bool AgreeToWriteInPlace(const std::string &path)
                     "Overwrite?");
 }
 
-bool WriteOver(const std::string &path, std::string_view bytes)
+bool WriteOver(const std::string &path, std::string_view bytes, std::string &failure)
 {
-    std::string error;
-    const std::string copy = CopyToRecovered(path, error);
+    const std::string copy = CopyToRecovered(path, failure);
     if (copy.empty()) {
-        TellFailure(error);
         return false;
     }
-    if (!WriteInPlace(path, bytes, error)) {
-        TellFailure(error + "\r\rWhat it held is kept in\r" + copy);
+    if (!WriteInPlace(path, bytes, failure)) {
+        failure += "\r\rWhat it held is kept in\r" + copy;
         return false;
     }
     std::error_code unseen;
@@ -43,17 +36,22 @@ bool WriteOver(const std::string &path, std::string_view bytes)
 
 } // namespace
 
+bool WritePlayerFile(const std::string &path, std::string_view bytes, std::string &failure)
+{
+    if (NeedsWritingInPlace(path, failure)) {
+        return AgreeToWriteInPlace(path) && WriteOver(path, bytes, failure);
+    }
+    return failure.empty() && ReplaceWholeFile(path, bytes, failure, MissingFolders::Refused);
+}
+
 bool SavePlayerFile(const std::string &path, std::string_view bytes)
 {
-    if (NeedsWritingInPlace(path)) {
-        return AgreeToWriteInPlace(path) && WriteOver(path, bytes);
+    std::string failure;
+    const bool saved = WritePlayerFile(path, bytes, failure);
+    if (!failure.empty()) {
+        ShowMessage("Unable to save file.\r\r" + failure);
     }
-    std::string error;
-    if (!ReplaceWholeFile(path, bytes, error, MissingFolders::Refused)) {
-        TellFailure(error);
-        return false;
-    }
-    return true;
+    return saved;
 }
 
 } // namespace kelvarine

@@ -93,7 +93,12 @@ std::string CopyToRecovered(const std::string &path, std::string &error)
         return {};
     }
     std::string copy = FreePath(RecoveredFolder() + "before " + NameIn(path), "");
-    return ReplaceWholeFile(copy, bytes, error) ? copy : std::string();
+    if (!ReplaceWholeFile(copy, bytes, error)) {
+        std::error_code unseen;
+        std::filesystem::remove(copy, unseen); // it may stand there all the same
+        return {};
+    }
+    return copy;
 }
 
 } // namespace kelvarine

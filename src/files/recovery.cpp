@@ -48,6 +48,7 @@ void TakeItsFile(const std::string &bytes)
 {
     FileWasText = bytes[FileSign] == OfAText ? True : False;
     GameFilePath = bytes.substr(FilePath);
+    ShowTimeOfGame();
     if (bytes[ClockSign] == Paused && ClockRunning != False) {
         mnuPauseTime();
     }

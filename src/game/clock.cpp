@@ -23,6 +23,7 @@ namespace {
 constexpr std::string_view PauseWord = "Pause";
 constexpr std::string_view ResumeWord = "Resume";
 constexpr std::string_view PausedPrefix = "Paused";
+constexpr std::string_view SolvedPrefix = "Solved at ";
 
 void RunClock(bool on)
 {
@@ -64,9 +65,18 @@ void StopClockAtWin()
 {
     if (ClockRunning != False) {
         RunClock(false);
-        TimeCaption.insert(0, "Solved at ");
+        TimeCaption.insert(0, SolvedPrefix);
         UpdateCaptions();
     }
+}
+
+void ShowTimeOfGame()
+{
+    TimeCaption = TimeText(SolveSeconds);
+    if (ClockRunning == False) {
+        TimeCaption.insert(0, SolvedPrefix);
+    }
+    UpdateCaptions();
 }
 
 void ClockTick()

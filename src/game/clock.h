@@ -24,6 +24,10 @@ void ResetSolveTime();
 // Stops the clock with "Solved at " in front of the time; a clock that stands keeps its caption.
 void StopClockAtWin();
 
+// Brings the caption in line with the time of a game that has come back: as it stands, or with
+// "Solved at " in front of it where the clock stands.
+void ShowTimeOfGame();
+
 // One second has passed.
 void ClockTick();
 

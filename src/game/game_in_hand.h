@@ -2,6 +2,7 @@
 // new game takes its place.
 #pragma once
 
+#include "generator/game_number.h"
 #include "grid/grid.h"
 #include "grid/history.h"
 
@@ -24,6 +25,7 @@ struct GameInHand {
     std::int32_t Count = HistoryCount;
     std::int32_t Position = HistoryPosition;
     Flag Modified = GameModified;
+    std::int32_t Number = GameNumber;
     decltype(ChainColumns) Columns = ChainColumns;
     decltype(ChainRows) Rows = ChainRows;
 };
@@ -31,7 +33,8 @@ struct GameInHand {
 // The copy that stands at the moment; null while the game in hand is on the board.
 extern const GameInHand *GameAside;
 
-// Puts a copy in the place of what stands there now; BringBack counts and rates it, too.
+// Puts a copy in the place of what stands there now, but for the number, which is that of the game
+// chosen last; BringBack counts and rates it, too.
 void GiveBack(const GameInHand &game);
 void BringBack(const GameInHand &game);
 

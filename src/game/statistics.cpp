@@ -22,6 +22,7 @@
 namespace kelvarine {
 
 StatisticsRecord SessionStats;
+int StatisticsPatience = UsualStatisticsPatience;
 std::array<StatisticsTable, 2> StatisticsLabels;
 
 namespace {
@@ -36,8 +37,6 @@ constexpr std::size_t SolvedColumn = 2;
 constexpr std::size_t BestColumn = 3;
 constexpr std::size_t AvgColumn = 4;
 constexpr std::size_t PercentColumn = 5;
-
-constexpr int LockPatience = 1000; // milliseconds
 
 // Set when the player knows that the file cannot be read or written, until that works again.
 bool failureTold = false;
@@ -70,36 +69,26 @@ void AddSolvedGame(LevelRecord &level, double seconds)
     }
 }
 
-void TellFailure(const std::string &words)
+// Tells the words of a failure, which are none when all went well.
+void Tell(const std::string &failure)
 {
-    if (!failureTold) {
+    if (!failure.empty() && !failureTold) {
         failureTold = true;
-        ShowMessage("Unable to save statistics.\r\r" + words);
+        ShowMessage("Unable to save statistics.\r\r" + failure);
     }
 }
 
-// False when the file is there and cannot be read; it must not be written over then.
-bool ReadStatistics(StatisticsRecord &record)
+// The words of a failure when the file is there and cannot be read; it must not be written over
+// then.
+std::string ReadStatistics(StatisticsRecord &record)
 {
     std::string bytes;
     std::string error;
     const std::string path = StatisticsFilePath();
-    if (FileExists(path) && !ReadWholeFile(path, bytes, error, StatisticsFileSize)) {
-        TellFailure(error);
-        return false;
+    if (!FileExists(path) || ReadWholeFile(path, bytes, error, StatisticsFileSize)) {
+        record = StatisticsFrom(bytes);
     }
-    record = StatisticsFrom(bytes);
-    return true;
-}
-
-void WriteStatistics(const StatisticsRecord &record)
-{
-    std::string error;
-    if (ReplaceWholeFile(StatisticsFilePath(), StatisticsBytes(record), error)) {
-        failureTold = false;
-    } else {
-        TellFailure(error);
-    }
+    return error;
 }
 
 std::string LockPath()
@@ -113,17 +102,21 @@ std::string LockFailure(const FileLock &lock)
     return lock.State() == LockState::Busy ? "Another program is using them." : lock.Error();
 }
 
-// Counts a game in the file, into which no other program may come meanwhile.
-void RecordInFile(std::size_t level)
+// Counts a game in the file, into which no other program may come meanwhile. The words of a
+// failure, or nothing; the lock is free by the time that they are told.
+std::string RecordInFile(std::size_t level)
 {
-    const FileLock lock(LockPath(), LockPatience);
-    StatisticsRecord all;
+    const FileLock lock(LockPath(), StatisticsPatience);
     if (lock.State() != LockState::Held) {
-        TellFailure(LockFailure(lock));
-    } else if (ReadStatistics(all)) {
-        AddSolvedGame(all[level], SolveSeconds);
-        WriteStatistics(all);
+        return LockFailure(lock);
     }
+    StatisticsRecord all;
+    std::string failure = ReadStatistics(all);
+    if (failure.empty()) {
+        AddSolvedGame(all[level], SolveSeconds);
+        ReplaceWholeFile(StatisticsFilePath(), StatisticsBytes(all), failure);
+    }
+    return failure;
 }
 
 // The words of a failure, or nothing.
@@ -132,7 +125,7 @@ std::string DeleteFile()
     if (!FileExists(StatisticsFilePath())) {
         return {};
     }
-    const FileLock lock(LockPath(), LockPatience);
+    const FileLock lock(LockPath(), StatisticsPatience);
     if (lock.State() != LockState::Held) {
         return LockFailure(lock);
     }
@@ -258,6 +251,7 @@ void FillStatisticsTable(StatisticsTable &table, const StatisticsRecord &record,
 void SetStatisticsDefaults()
 {
     SessionStats = {};
+    StatisticsPatience = UsualStatisticsPatience;
     failureTold = false;
     ZeroLabels();
 }
@@ -266,7 +260,9 @@ void RecordSolvedGame()
 {
     const auto level = static_cast<std::size_t>(GameRating - RatedEasy);
     AddSolvedGame(SessionStats[level], SolveSeconds);
-    RecordInFile(level);
+    const std::string failure = RecordInFile(level);
+    failureTold = failureTold && !failure.empty();
+    Tell(failure);
 }
 
 void LoadStatisticsScreen()
@@ -275,10 +271,12 @@ void LoadStatisticsScreen()
     if (FileExists(StatisticsFilePath())) {
         FillStatisticsTable(StatisticsLabels[SessionTable], SessionStats,
                             PercentFormat::OneDecimal);
-        if (ReadStatistics(all)) {
+        const std::string failure = ReadStatistics(all);
+        if (failure.empty()) {
             FillStatisticsTable(StatisticsLabels[AllSessionsTable], all,
                                 PercentFormat::WholeBelowZero);
         }
+        Tell(failure);
     }
     RefreshStatisticsScreen();
 }

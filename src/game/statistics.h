@@ -27,6 +27,10 @@ using StatisticsRecord = std::array<LevelRecord, 5>;
 
 extern StatisticsRecord SessionStats;
 
+// How long a program that is changing the file is waited for, in milliseconds.
+inline constexpr int UsualStatisticsPatience = 1000;
+extern int StatisticsPatience;
+
 // ---- The file ------------------------------------------------------------------------------
 
 // One record of so many bytes: the words of the levels one after the other, little-endian.

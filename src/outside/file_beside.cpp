@@ -44,10 +44,11 @@ bool IsSuchAName(std::string_view name)
            name.find_first_not_of(Letters, Prefix.size()) == std::string_view::npos;
 }
 
-// Whoever writes a file holds it, so that others can tell it from a leftover.
-void Hold(int file)
+// Whoever writes a file holds it, so that others can tell it from a leftover. False when somebody
+// is looking whether it is one; a disk that knows no locks hinders nobody.
+bool Hold(int file)
 {
-    ::flock(file, LOCK_EX | LOCK_NB);
+    return ::flock(file, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
 // Between its making and its holding a file may have been taken for a leftover.
@@ -57,18 +58,25 @@ bool HasAName(int file)
     return ::fstat(file, &kind) == 0 && kind.st_nlink > 0;
 }
 
-bool IsHeld(int folder, const char *name)
+bool IsOldOrNobodys(const struct stat &kind, int file)
 {
-    const Descriptor file(::openat(folder, name, O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
-    return !file.IsOpen() || ::flock(file.Number(), LOCK_EX | LOCK_NB) != 0;
+    // A lock that is shared is given for a file open for reading on every disk.
+    return kind.st_mtime < std::time(nullptr) - Day ||
+           (file >= 0 && ::flock(file, LOCK_SH | LOCK_NB) == 0);
 }
 
-bool IsLeftover(int folder, const char *name)
+// Removes a file that nobody writes any more, and keeps it from being held while it goes.
+void RemoveLeftover(int folder, const char *name)
 {
     struct stat kind {};
-    return IsSuchAName(name) && ::fstatat(folder, name, &kind, AT_SYMLINK_NOFOLLOW) == 0 &&
-           S_ISREG(kind.st_mode) && kind.st_uid == ::geteuid() &&
-           (kind.st_mtime < std::time(nullptr) - Day || !IsHeld(folder, name));
+    if (!IsSuchAName(name) || ::fstatat(folder, name, &kind, AT_SYMLINK_NOFOLLOW) != 0 ||
+        !S_ISREG(kind.st_mode) || kind.st_uid != ::geteuid()) {
+        return;
+    }
+    const Descriptor file(::openat(folder, name, O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    if (IsOldOrNobodys(kind, file.Number())) {
+        ::unlinkat(folder, name, 0);
+    }
 }
 
 } // namespace
@@ -105,10 +113,7 @@ void FileBeside::MakeNamed(mode_t permissions)
         if (!file.IsOpen() && errno != EEXIST) {
             return;
         }
-        if (file.IsOpen()) {
-            Hold(file.Number());
-        }
-        if (file.IsOpen() && HasAName(file.Number())) {
+        if (file.IsOpen() && Hold(file.Number()) && HasAName(file.Number())) {
             file_ = std::move(file);
             name_ = name;
             return;
@@ -159,9 +164,7 @@ void RemoveLeftovers(int folder)
     const std::unique_ptr<DIR, int (*)(DIR *)> entries(again >= 0 ? ::fdopendir(again) : nullptr,
                                                        ::closedir);
     while (const dirent *entry = entries != nullptr ? ::readdir(entries.get()) : nullptr) {
-        if (IsLeftover(folder, entry->d_name)) {
-            ::unlinkat(folder, entry->d_name, 0);
-        }
+        RemoveLeftover(folder, entry->d_name);
     }
 }
 

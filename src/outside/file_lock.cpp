@@ -26,9 +26,23 @@ bool StandsAt(const std::string &path, int file)
            held.st_dev == there.st_dev && held.st_ino == there.st_ino;
 }
 
+// Some disks of other machines give a lock only to who may write: to such a file it is none.
 bool DiskKnowsNoLocks()
 {
-    return errno == ENOLCK || errno == EOPNOTSUPP || errno == ENOSYS || errno == EINVAL;
+    return errno == ENOLCK || errno == EOPNOTSUPP || errno == ENOSYS || errno == EINVAL ||
+           errno == EBADF;
+}
+
+// For writing, which some disks ask of who wants a lock, and else for reading.
+Descriptor OpenLockFile(const std::string &path)
+{
+    constexpr int flags = O_CREAT | O_CLOEXEC | O_NOFOLLOW;
+    constexpr mode_t permissions = 0644;
+    Descriptor file(::open(path.c_str(), O_RDWR | flags, permissions));
+    if (!file.IsOpen() && (errno == EACCES || errno == EROFS)) {
+        file = Descriptor(::open(path.c_str(), O_RDONLY | flags, permissions));
+    }
+    return file;
 }
 
 } // namespace
@@ -65,7 +79,7 @@ LockState FileLock::Fail()
 
 LockState FileLock::Open()
 {
-    file_ = Descriptor(::open(path_.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0644));
+    file_ = OpenLockFile(path_);
     if (!file_.IsOpen()) {
         return Fail();
     }

@@ -22,7 +22,7 @@ class FileLock {
 public:
     // Locks by a file at a path, which is made, with the folders above it. While another program
     // holds the lock it is waited for, at most so many milliseconds. On a disk that knows no locks
-    // it counts as held.
+    // or gives them to nobody who may only read, it counts as held.
     explicit FileLock(std::string path, int patience = 0, LockFile after = LockFile::Stays);
     FileLock(const FileLock &) = delete;
     FileLock &operator=(const FileLock &) = delete;

@@ -207,12 +207,16 @@ bool ReplaceWholeFile(const std::string &path, std::string_view bytes, std::stri
     return true;
 }
 
-bool NeedsWritingInPlace(const std::string &path)
+bool NeedsWritingInPlace(const std::string &path, std::string &error)
 {
+    error.clear();
     Target target;
-    return FollowLinks(path, target.Path) && LookAt(target) && target.Old &&
-           (HasOtherNames(target) || IsMountedOn(target) || NameIsAnothers(target) ||
-            !FolderTakesFiles(target));
+    if (!FollowLinks(path, target.Path) || !LookAt(target)) {
+        error = SystemWords();
+        return false;
+    }
+    return target.Old && (HasOtherNames(target) || IsMountedOn(target) || NameIsAnothers(target) ||
+                          !FolderTakesFiles(target));
 }
 
 bool WriteInPlace(const std::string &path, std::string_view bytes, std::string &error)

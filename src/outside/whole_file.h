@@ -32,8 +32,9 @@ bool ReplaceWholeFile(const std::string &path, std::string_view bytes, std::stri
                       MissingFolders missing = MissingFolders::Made);
 
 // True when a file may be written, and yet a new one would not do in its place: it has other names,
-// something is mounted on it, or the folder lets the player put none there.
-bool NeedsWritingInPlace(const std::string &path);
+// something is mounted on it, or the folder lets the player put none there. Where it can be neither
+// way, or not be looked at, error holds the system's words.
+bool NeedsWritingInPlace(const std::string &path, std::string &error);
 
 // Writes the bytes over a file that is there, flushes them and cuts it to their length. False, with
 // the system's words in error, when that fails; it may hold half of them then.

@@ -20,6 +20,8 @@
 #include "outside/timers.h"
 #include "outside/window.h"
 
+#include <cassert>
+
 namespace kelvarine {
 
 namespace {
@@ -36,20 +38,12 @@ void OpenFormerScreens()
     }
 }
 
-// Asks whether to stop the run of the logic under way, where it can be stopped. False when the
-// player wants it to go on.
-bool MayEndRun()
-{
-    if (SearchActive != False && (SearchKind != NotStoppable || RunIsLong != False)) {
-        QueryStopSearch();
-        return SearchActive == False;
-    }
-    return true;
-}
-
 // A game that was not closed goes before the file that the program was started with.
 void BeginGame(const std::string &gameFile)
 {
+    if (RecoveryHasEnded()) {
+        return; // told to go while it started
+    }
     OfferLostGames();
     if (gameFile.empty() || RecoveryHasEnded()) {
         return;
@@ -85,18 +79,27 @@ void StartProgram(const std::string &gameFile)
 
 void KeepBeforeAsking()
 {
+    if (RecoveryHasEnded()) {
+        return; // the answer has come, and the screens that went since count as open
+    }
     WriteRecovery();
     KeepMainPlace();
     std::string untold; // nobody may be there to be told
     KeepConfiguration(untold);
 }
 
+bool MayEndRun()
+{
+    if (SearchActive != False && (SearchKind != NotStoppable || RunIsLong != False)) {
+        QueryStopSearch();
+        return SearchActive == False;
+    }
+    return true;
+}
+
 bool AskBeforeTheEnd()
 {
-    if (RunUnderWay != False) {
-        MayEndRun();
-        return false; // the board is the run's, and whether to save cannot be asked yet
-    }
+    assert(RunUnderWay == False); // else the board is the run's, and cannot be asked about
     QuerySaveGame();
     return LastAnswer != AnsweredCancel;
 }

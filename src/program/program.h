@@ -12,19 +12,22 @@ namespace kelvarine {
 void StartProgram(const std::string &gameFile);
 
 // Keeps the game in hand in its recovery file, and the settings, for a program that is asked to go
-// and may be ended before the player has answered. Says nothing.
+// and may be ended before the player has answered. Says nothing, and does nothing once the end has
+// been agreed on.
 void KeepBeforeAsking();
 
 // Does what is due before the main window goes: asks whether to stop a search, or whether to save,
 // and keeps the settings. False when the player would rather stay.
 bool EndProgram();
 
-// The two halves of it: the questions, false when the player would rather stay; and what is due
-// when they are answered, or have been before.
+// What it is made of. While a run of the logic is under way: whether it may end, which is asked
+// where it can be stopped. Without a run: the question whether to save, false when the player would
+// rather stay; and what is due when it is answered, or has been before.
+bool MayEndRun();
 bool AskBeforeTheEnd();
 void EndProgramAnswered();
 
-// The second half where nobody could be asked: what is kept for a crash stays for the next start.
+// The last of these where nobody could be asked: what is kept for a crash stays for the next start.
 void EndProgramUnasked();
 
 // Writes the settings as they are, with the windows that are open, while the program goes on.

@@ -1,8 +1,10 @@
+#include "files/file_address.h"
 #include "program/defaults.h"
 #include "ui/window/program.h"
 #include "ui/window/program_icon.h"
 
 #include <QApplication>
+#include <QSysInfo>
 
 #include <algorithm>
 #include <cstdlib>
@@ -13,11 +15,15 @@
 namespace {
 
 // The full path of the file that the program is to open, in the very bytes of its name; empty when
-// none is given.
+// none is given. It may be given as an address.
 std::string GivenFile(int argc, char **argv)
 {
     if (argc < 2 || argv[1][0] == '\0') {
         return {};
+    }
+    const std::string machine = QSysInfo::machineHostName().toStdString();
+    if (const std::string path = kelvarine::PathOfAddress(argv[1], machine); !path.empty()) {
+        return path;
     }
     std::error_code failure;
     const std::filesystem::path path = std::filesystem::absolute(argv[1], failure);

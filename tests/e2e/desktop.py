@@ -268,6 +268,12 @@ class Desktop:
         found = self.run("xdotool", "search", "--onlyvisible", "--name", name, check=False)
         return found.decode().split()
 
+    def boxes(self):
+        """The boxes that the programs have made, also those that the manager has yet to bring into
+        view."""
+        found = self.run("xdotool", "search", "--name", "^Kelvarine$", check=False).decode().split()
+        return [window for window in found if self.is_box(window)]
+
     def managed_windows(self):
         """The windows that the window manager holds, whatever their names: no menus, no lists."""
         held = self.root.get_full_property(self.server.get_atom("_NET_CLIENT_LIST"), X.AnyPropertyType)

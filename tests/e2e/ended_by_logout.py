@@ -3,11 +3,14 @@
 Cancel cancels the logout, and the box that goes with the program has decided nothing. The window
 goes only when it is told to: not at a checkpoint, and not when another program cancels the logout."""
 
+import os
 import subprocess
 import sys
 
 from desktop import Desktop, Game, expect, wait_for
-from over_boxes import MIRRORED, Story, contents, make_files, walk, walk_back
+from long_run import GAME as LONG_RUN
+from over_boxes import MIRRORED, PUZZLE, Story, contents, make_files, walk, walk_back
+from random_game import banner_is_up
 
 
 class Session:
@@ -30,6 +33,12 @@ class Session:
         self.manager.stdin.write(words.encode() + b"\n")
         self.manager.stdin.flush()
         self.wait(until, known)
+
+    def restart_words(self):
+        """How the program wants to be started again, word by word."""
+        words = [line.split(" ", 1) for line in self.heard() if line.startswith("restart ")]
+        last = max(k for k, (_, word) in enumerate(words) if word.startswith("/"))
+        return [word for _, word in words[last:]]
 
     def wait(self, word, known):
         wait_for(lambda: self.heard().count(word) > known, f"the word {word} of the session")
@@ -116,8 +125,60 @@ def agreed(desktop, program, session):
            "a logout asks once, and the open screen comes back next time")
 
 
+def during_a_run(desktop, program, session):
+    """The board is the run's until it has stopped; then the session asks what it came for."""
+    game = Game(desktop, program, before=session.before)
+    game.resize(900, 980)
+    game.paste(LONG_RUN)
+    desktop.key("w", "Insert")  # every cell with every number
+    line = game.copy_line()
+    desktop.key("ctrl+l")
+    wait_for(lambda: banner_is_up(game), "the banner")
+    known = session.heard().count("refuses")
+    session.log_out()
+    desktop.answer("Return", other_than=[game.window])  # No is the default
+    session.wait("refuses", known)
+    expect(banner_is_up(game), "on No the run goes on, and the session too")
+    session.log_out()
+    asked = session.heard().count("asks")
+    desktop.answer("alt+y", other_than=[game.window])
+    session.wait("asks", asked)
+    desktop.answer("Escape", other_than=[game.window])  # save first? and stays
+    session.wait("refuses", known + 1)
+    game.focus()
+    expect(game.copy_line() == line and not banner_is_up(game),
+           "stopped by a logout, the game is as it was, and is asked about")
+    desktop.key("ctrl+l")
+    wait_for(lambda: banner_is_up(game), "the banner")
+    session.log_out()
+    asked = session.heard().count("asks")
+    desktop.answer("alt+y", other_than=[game.window])
+    session.wait("asks", asked)
+    desktop.answer("alt+n", other_than=[game.window])
+    wait_for(lambda: game.process.poll() is not None, "the program to end")
+    expect(game.process.returncode == 0 and session.heard().count("refuses") == known + 2
+           and not desktop.recovery(), "answered, the logout comes about")
+
+
+def restart_command(desktop, program, session):
+    """A name that is no text comes back to the program that the session starts again."""
+    name = os.fsencode(desktop.home) + b"/lat\xe4in.sdk"
+    with open(name, "wb") as file:
+        file.write((desktop.home / "evening.sdk").read_bytes())
+    game = Game(desktop, program, arguments=[name], before=session.before)
+    wait_for(lambda: game.copy_line() == PUZZLE, "the game of the file")
+    session.want("checkpoint", "asks")
+    words = wait_for(lambda: session.restart_words()[1:] and session.restart_words(),
+                     "the command with the file")
+    expect(game.end() == 0, "the program ends")
+    game = Game(desktop, program, arguments=words[1:])
+    wait_for(lambda: game.copy_line() == PUZZLE, "the game of the file once more")
+    expect(game.end() == 0 and words[1].endswith("/lat%E4in.sdk"),
+           "the session starts the program on the same file")
+
+
 def main():
-    program, manager = sys.argv[1:]
+    program, manager, hopeless = sys.argv[1:]
     with Desktop() as desktop:
         make_files(desktop, program)
         session = Session(desktop, manager)
@@ -132,6 +193,9 @@ def main():
             without_an_end(desktop, program, session, words)
         quiet(desktop, program, session)
         agreed(desktop, program, session)
+        restart_command(desktop, program, session)
+    with Desktop() as desktop:  # without settings, for this program has its own
+        during_a_run(desktop, hopeless, Session(desktop, manager))
     print("ended by logout: all as it should be")
 
 

@@ -69,6 +69,22 @@ def goes_on(desktop, program):
     expect(game.end(save_first="alt+n") == 0, "and as one that is not saved")
 
 
+def over_the_question_of_a_lost_game(desktop, program):
+    """Which has decided nothing when it goes with the program."""
+    story = Story(desktop, program)
+    story.modify()
+    wait_for(lambda: any(name.endswith(".sdk") for name in desktop.recovery()), "it to be kept")
+    story.game.process.kill()
+    story.game.process.wait()
+    game = Game(desktop, program, behind_a_box=True)
+    desktop.dialog(other_than=[game.window])
+    game.process.send_signal(signal.SIGTERM)
+    wait_for(lambda: game.process.poll() is not None, "the program to end")
+    expect(game.process.returncode == 0 and not (desktop.statistics_file.parent / "recovered").exists(),
+           "a signal over the question of a lost game ends the program")
+    goes_on(desktop, program)
+
+
 def over_the_question_of_a_search(desktop, program):
     game = Game(desktop, program)
     desktop.key("ctrl+n")
@@ -92,6 +108,7 @@ def main():
         walk_back(desktop, program, end)
         over_a_message_at_the_start(desktop, program)
         without_an_answer(desktop, program)
+        over_the_question_of_a_lost_game(desktop, program)
         over_the_closing_question(desktop, program)
     with Desktop() as desktop:  # without settings, for this program has its own
         over_the_question_of_a_search(desktop, hopeless)

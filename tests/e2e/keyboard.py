@@ -172,6 +172,29 @@ def start_with_screens(desktop, program, game):
     expect(game.end() == 0, "the program ends well")
 
 
+def start_with_screens_and_a_lost_game(desktop, program):
+    """The question stands before the screens, and after it the board has the keyboard."""
+    game = Game(desktop, program, behind_a_box=True)
+    game.focus()
+    game.paste(PUZZLE)
+    wait_for(lambda: any(name.endswith(".sdk") for name in desktop.recovery()), "it to be kept")
+    game.process.kill()
+    game.process.wait()
+    game = Game(desktop, program, behind_a_box=True)
+    for title in "^Statistics$", "^Configure$":
+        wait_for(lambda name=title: desktop.windows(name), "the screens to come back")
+    box = wait_for(lambda: next((w for w in desktop.windows("^Kelvarine$")
+                                 if desktop.is_box(w) and w != game.window), None), "the question")
+    wait_for(lambda: desktop.focused() == box, "the question to have the keyboard")
+    desktop.key("alt+y")
+    desktop.gone(box)
+    wait_for(lambda: desktop.focused() == game.window, "the main window to get the keyboard")
+    desktop.key("Down", "Right")
+    wait_for(lambda: game.board().fill(2, 1) == (54, 162, 253), "the first keys to be the board's")
+    expect(game.copy_line() == PUZZLE, "the lost game is back, beside the screens")
+    expect(game.end("alt+n") == 0, "the program ends well")
+
+
 def main():
     program = sys.argv[1]
     with Desktop() as desktop:
@@ -185,6 +208,7 @@ def main():
         modifiers_alone(desktop, game)
         boxes_of_screens(desktop, game)
         start_with_screens(desktop, program, game)
+        start_with_screens_and_a_lost_game(desktop, program)
     print("keyboard: all as it should be")
 
 

@@ -1,7 +1,8 @@
 #!/usr/bin/python3
-"""The program killed at random moments of play and saving. After each kill no file is half; the next
-start brings back what stood there at the recovery's last look or later; and what a killed save left
-in the folder is gone after the next one.
+"""The program killed at random moments of play, of saving and of the logic at work. After each kill no
+file is half; the next start brings back what stood there at the recovery's last look or later, of
+which all but the latest are on the disk; and what a killed save left in the folder is gone after the
+next one.
 
 killed.py PROGRAM [KILLS [PROGRAMS AT ONCE]]"""
 
@@ -49,6 +50,8 @@ class Home:
         self.lags = []
         self.offers = 0
         self.in_saves = 0
+        self.runs = 0
+        self.busy = 0
 
     def leftovers(self, folder):
         return {path.name for path in folder.glob(".kelvarine-*")}
@@ -81,7 +84,7 @@ class Home:
         lines = [line.split() for line in told.splitlines()]
         states = []  # time of its coming, state
         kept = 0     # index of the state at the last look that has come to the disk
-        looked = 0
+        looked, on_its_way = 0, False
         self.saves = self.keeps = 0
         for words in lines:
             if words[0] in ("begin", "state"):
@@ -89,10 +92,15 @@ class Home:
             elif words[0] == "offered":
                 self.offers += 1
             elif words[0] == "tick":
-                looked = len(states) - 1
+                expect(not on_its_way, "no look before the one before it is on the disk")
+                looked, on_its_way = len(states) - 1, True
             elif words[0] == "kept":
-                kept = looked
+                kept, on_its_way = looked, False
                 self.keeps += 1
+            elif words[0] == "busy":
+                self.busy += 1
+            elif words[0] == "run":
+                self.runs += 1
             elif words[0] == "saved":
                 kept = looked = len(states) - 1
                 self.saves += 1
@@ -147,7 +155,11 @@ def main():
     lags = sorted(lag for home in homes for lag in home.lags)
     offers = sum(home.offers for home in homes)
     expect(offers > 0, "games are offered")
+    runs = sum(home.runs for home in homes)
+    expect(runs > 0, "runs of the logic are killed, too")
     print(f"{kills} kills: {offers} games offered, all others were saved;",
+          f"{runs} runs of the logic; {sum(home.busy for home in homes)} looks came while the disk",
+          "was still at work;",
           f"{sum(home.in_saves for home in homes)} kills left a name, for the next save to remove;",
           f"lost: median {lags[len(lags) // 2]:.2f} s, most {lags[-1]:.2f} s")
 

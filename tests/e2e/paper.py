@@ -83,7 +83,7 @@ def prints_a_batch(desktop, game, screen):
     before = game.copy_line()
     ask_for_batch(screen)
     print_to(desktop, path)
-    wait_for(lambda: is_whole(path), "the batch on paper", seconds=90)
+    wait_for(lambda: is_whole(path), "the batch on paper")
     expect(pages_of(desktop, path) == PAGES + 1, "two pages of games and one of solutions")
     for page, first in ((1, 1), (2, 7)):
         words = words_on(desktop, path, page)
@@ -117,9 +117,12 @@ def stops_a_batch(desktop, program):
     expect(counts_on(screen), "the search is seen in the preview")
     save_picture(desktop.screen(), "paper_search")
 
-    desktop.key("space")  # the button that began it has the focus
-    desktop.answer("Return", other_than=[game.window])  # No is the default
-    expect(counts_on(screen), "the search goes on after a No")
+    for key in "Return", "Escape":  # No is the default
+        wait_for(lambda: desktop.focused() == screen.window, "the settings to be in front")
+        desktop.key("space")  # the button that began it has the focus
+        desktop.answer(key, other_than=[game.window])
+        expect(counts_on(screen), f"the search goes on after {key}")
+    wait_for(lambda: desktop.focused() == screen.window, "the settings to be in front again")
     game.focus()
     desktop.key("5")
     picture = desktop.answer("alt+y", other_than=[game.window])

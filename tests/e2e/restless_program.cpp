@@ -8,11 +8,18 @@
 // saved                       the game is in its file
 // tick                        the recovery has looked at the game
 // kept                        and nothing is on its way to the disk any more
+// busy                        it could not look, for the disk was still at work
+// run                         the logic works on the board, and for long unless it is stopped
 #include "commands/file_commands.h"
+#include "game/assistance.h"
+#include "game/game_in_hand.h"
 #include "game/lifecycle.h"
+#include "game/search.h"
 #include "game/undo.h"
 #include "grid/grid.h"
 #include "grid/history.h"
+#include "logic/driver.h"
+#include "logic/technique_masks.h"
 #include "outside/events.h"
 #include "outside/later_write.h"
 #include "program/defaults.h"
@@ -159,25 +166,67 @@ void PlayOn()
     }
 }
 
-void Turn()
+void TellKept()
 {
-    if (SearchActive != False || AnswersBox()) {
-        return;
-    }
     if (writing && !IsWriting()) {
         writing = false;
         Tell("kept");
+    }
+}
+
+// What the logic makes of a board with every number in every cell has no end.
+void ApplyLogicForLong()
+{
+    if (IsBusy()) {
+        return;
+    }
+    for (const Cell cell : Cells) {
+        WordAt(cell) = (WordAt(cell) & ~GivenBit) | CandidateMask;
+    }
+    PushUndoState();
+    FinishChange();
+    TellState();
+    Tell("run");
+    mnuApplyLogic();
+}
+
+void MayStopRun()
+{
+    if (SearchActive != False && Draw(150) == 0) {
+        SearchActive = False;
+        StopRequested = True;
+    }
+}
+
+void Turn()
+{
+    TellKept();
+    if (IsBusy()) {
+        MayStopRun();
+        return;
+    }
+    if (AnswersBox()) {
+        return;
+    }
+    if (Draw(200) == 0) {
+        CallFromEventLoop(ApplyLogicForLong); // not from here, for the turns go on meanwhile
+        return;
     }
     PlayOn();
     TellState();
 }
 
-// A look that finds the disk still at work is none.
+// What the game on the board looks like during a run is no state of the player's: the recovery
+// keeps what was put aside, or nothing where nothing was.
 void Ticked()
 {
-    const bool stillWriting = writing && IsWriting();
-    if (SearchActive == False && !stillWriting) {
-        TellState();
+    TellKept();
+    if (writing) {
+        Tell("busy");
+    } else if (!IsBusy() || GameAside != nullptr) {
+        if (!IsBusy()) {
+            TellState();
+        }
         Tell("tick");
         writing = true;
     }
@@ -186,13 +235,14 @@ void Ticked()
 // After what the start of the program has put into the event loop before.
 void Begin(QTimer *turns)
 {
-    if (SearchActive != False || AnswersBox()) { // the logic is rating the game that was opened
+    if (IsBusy() || AnswersBox()) { // the logic is rating the game that was opened
         CallFromEventLoop([turns] { Begin(turns); });
         return;
     }
     shownState = Digest();
     Tell("begin " + Now() + " " + shownState);
     QObject::connect(Window()->findChild<QTimer *>("tmrRecovery"), &QTimer::timeout, Ticked);
+    SolveMask = MaskOf({XWing}) | TrialBit;
     turns->start(15);
 }
 

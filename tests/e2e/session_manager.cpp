@@ -6,7 +6,8 @@
 //   "called off"  for a logout that another program then cancels.
 // What comes of that it prints, a word a line: "asks" when the client wants to talk to the player,
 // "refuses" when it cancels the logout, "agrees" when it has saved and is told to go, "saved" when
-// it has saved and stays, "left" when it is gone.
+// it has saved and stays, "left" when it is gone; and "restart" before each word of the command
+// that the client wants to be started by again.
 #include <X11/ICE/ICElib.h>
 #include <X11/SM/SMlib.h>
 #include <algorithm>
@@ -96,9 +97,22 @@ void IgnoreRequest(SmsConn /*connection*/, SmPointer /*data*/, int /*type*/, Boo
 {
 }
 
-void IgnoreProperties(SmsConn /*connection*/, SmPointer /*data*/, int count, SmProp **properties)
+// How the client is to be started again.
+void TellRestart(const SmProp &property)
+{
+    for (int k = 0; k < property.num_vals; ++k) {
+        const SmPropValue &word = property.vals[k];
+        Tell("restart " + std::string(static_cast<const char *>(word.value),
+                                      static_cast<std::size_t>(word.length)));
+    }
+}
+
+void HearProperties(SmsConn /*connection*/, SmPointer /*data*/, int count, SmProp **properties)
 {
     for (int k = 0; k < count; ++k) {
+        if (std::string_view(properties[k]->name) == SmRestartCommand) {
+            TellRestart(*properties[k]);
+        }
         SmFreeProperty(properties[k]);
     }
     std::free(properties);
@@ -131,7 +145,7 @@ Status Greet(SmsConn /*connection*/, SmPointer /*data*/, unsigned long *wanted,
     callbacks->save_yourself_phase2_request.callback = LetItSaveMore;
     callbacks->save_yourself_done.callback = HearThatItIsSaved;
     callbacks->close_connection.callback = HearThatItGoes;
-    callbacks->set_properties.callback = IgnoreProperties;
+    callbacks->set_properties.callback = HearProperties;
     callbacks->delete_properties.callback = IgnoreNames;
     callbacks->get_properties.callback = TellNoProperties;
     return 1;

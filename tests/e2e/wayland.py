@@ -53,6 +53,14 @@ class WaylandGame:
         """Waits until a box in the desktop's light grey covers some of the board."""
         wait_for(lambda: self.light_on_the_board() > 0.02, what)
 
+    def brings_up_box(self, key, what):
+        """For the first key of all, before which nothing tells that the compositor has given the
+        keyboard to the window. The box takes no notice of it."""
+        def press():
+            self.desktop.key(key)
+            return self.light_on_the_board() > 0.02
+        wait_for(press, what)
+
     def shows_no_box(self, what):
         """Waits until no box is left, and presses the margin: this compositor gives the keyboard back
         to the main window on a press only."""
@@ -68,8 +76,7 @@ class WaylandGame:
 
 def types_a_game(desktop, game):
     empty = game.share(UNKNOWN_FILL)
-    desktop.key("ctrl+t")
-    game.shows_box("the box for a text")
+    game.brings_up_box("ctrl+t", "the box for a text")
     desktop.type(PUZZLE)
     save_picture(game.picture(), "wayland_text")
     desktop.key("Return")

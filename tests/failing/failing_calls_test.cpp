@@ -2,16 +2,20 @@
 // a disk has. The old file or the new one is whole every time, the player is told, and what was not
 // saved still counts as such.
 #include "commands/file_commands.h"
+#include "commands/solutions_file.h"
 #include "configure/configuration.h"
 #include "failing/failing_calls.h"
 #include "files/game_file.h"
+#include "files/recovered_folder.h"
 #include "files/recovery.h"
 #include "game/clock.h"
 #include "game/lifecycle.h"
+#include "game/solutions.h"
 #include "game/statistics.h"
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "outside/folders.h"
+#include "outside/later_write.h"
 #include "outside/whole_file.h"
 #include "print/print_settings.h"
 #include "support/outside_double.h"
@@ -21,6 +25,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <filesystem>
 #include <functional>
 
 namespace kelvarine::testing {
@@ -149,6 +154,115 @@ TEST_P(FailingCalls, KeepingTheGameThroughACrash)
             ASSERT_TRUE(now == GameFileBytes() + "GR" || (now == old && !safe)) << "call " << call;
         });
     EXPECT_TRUE(safe);
+}
+
+TEST_P(FailingCalls, LookingAtTheGameFromTimeToTime)
+{
+    const std::string path = DataFolder() + "recovery-1.sdk";
+    PushUndoState();
+    std::string old;
+    const auto look = [] {
+        RecoveryTick();
+        while (IsWriting()) {
+        }
+    };
+    FailEach(
+        [&] {
+            ASSERT_TRUE(WriteRecovery());
+            look(); // all is well again
+            old = Contents(path);
+            PushUndoState();
+        },
+        [&] {
+            look();
+            RecoveryTick(); // tells what came of it
+        },
+        [&](int call) {
+            const std::string now = Contents(path);
+            const std::string fresh = GameFileBytes() + "GR";
+            ASSERT_TRUE(now == fresh || (now == old && Seen.Messages.size() == 1))
+                << "call " << call;
+            ASSERT_EQ(GameModified, True) << "call " << call;
+            look();
+            ASSERT_TRUE(Contents(path) == fresh) << "the next look, call " << call;
+        });
+    EXPECT_TRUE(Seen.Messages.empty());
+}
+
+TEST_P(FailingCalls, TimeThatPassesBetweenTwoChanges)
+{
+    const std::string path = DataFolder() + "recovery-1.sdk";
+    FailEach(
+        [&] {
+            PushUndoState();
+            ASSERT_TRUE(WriteRecovery());
+        },
+        [&] {
+            for (int second = 0; second < 4; ++second) {
+                ClockTick();
+                RecoveryTick();
+                while (IsWriting()) {
+                }
+            }
+        },
+        [&](int call) {
+            ASSERT_TRUE(Contents(path) == GameFileBytes() + "GR") << "call " << call;
+            ASSERT_TRUE(Seen.Messages.empty()) << "call " << call;
+        });
+}
+
+TEST_P(FailingCalls, WritingAGameInPlace)
+{
+    const TemporaryFolder folder;
+    GameFilePath = folder.Path("game.sdk");
+    const std::string old = GameFileBytes();
+    WordAt({3, 1}) = BitTable[4];
+    PushUndoState();
+    const std::string fresh = GameFileBytes();
+    const std::string copy = RecoveredFolder() + "before game.sdk";
+    FailEach(
+        [&] {
+            std::filesystem::remove(folder.Path("other name"));
+            folder.Write("game.sdk", old);
+            std::filesystem::create_hard_link(folder.Path("game.sdk"), folder.Path("other name"));
+            std::filesystem::remove_all(RecoveredFolder());
+            GameModified = True;
+            Seen.YesNoAnswers = {true};
+        },
+        mnuSave,
+        [&](int call) {
+            const std::string now = folder.Read("game.sdk");
+            ASSERT_TRUE(now == fresh || (now == old && GameModified == True) ||
+                        (Contents(copy) == old && GameModified == True))
+                << "call " << call;
+            ASSERT_EQ(GameModified == True, Seen.Messages.size() == 1) << "call " << call;
+            const bool toldWhere =
+                !Seen.Messages.empty() && Seen.Messages[0].ends_with("kept in\r" + copy);
+            ASSERT_EQ(FileExists(copy), toldWhere) << "call " << call;
+            ASSERT_TRUE(now == folder.Read("other name")) << "call " << call;
+        });
+    EXPECT_EQ(GameModified, False);
+}
+
+TEST_P(FailingCalls, SavingSolutions)
+{
+    const TemporaryFolder folder;
+    SolutionList = std::string(81, '1');
+    optSolutionsFormat(0);
+    FailEach(
+        [&] {
+            folder.Write("solutions.txt", "former");
+            Seen.FileNames = {folder.Path("solutions.txt")};
+            Seen.YesNoAnswers = {true};
+        },
+        cmdSaveAsTextFile,
+        [&](int call) {
+            const std::string now = folder.Read("solutions.txt");
+            ASSERT_TRUE(now == SolutionsOnView + "\r\n" ||
+                        (now == "former" && Seen.Messages.size() == 1))
+                << "call " << call;
+        });
+    EXPECT_TRUE(Seen.Messages.empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryError, FailingCalls,

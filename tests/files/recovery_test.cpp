@@ -1,4 +1,5 @@
 #include "commands/file_commands.h"
+#include "commands/new_games.h"
 #include "commands/recover.h"
 #include "files/game_file.h"
 #include "files/recovered_folder.h"
@@ -9,6 +10,7 @@
 #include "game/lifecycle.h"
 #include "game/solutions.h"
 #include "game/undo.h"
+#include "generator/game_number.h"
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
@@ -21,6 +23,7 @@
 #include "support/child_process.h"
 #include "support/outside_double.h"
 #include "support/play.h"
+#include "support/positions.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -263,6 +266,28 @@ TEST_F(Recovery, GameThatWasPutAsideIsTheOneThatIsKept)
     BringBack(*aside);
 }
 
+TEST_F(Recovery, GameThatIsToBecomeAnotherKeepsItsNumberAndItsName)
+{
+    Play();
+    GameNumber = 5;
+    GameFilePath = "/home/anna/evening.sdk";
+    StatsCounted = True;
+    SolveSeconds = 754;
+    const std::string game = GameFileBytes() + "GR" + GameFilePath;
+    int looks = 0;
+    Seen.TextAnswers = {"77"};
+    Seen.OnYield = [&] {
+        TickAndWrite();
+        if (FileExists(DataFolder() + "recovery-1.sdk")) {
+            ++looks;
+            ASSERT_TRUE(Kept() == game);
+        }
+    };
+    UserSelectedGame();
+    EXPECT_GT(looks, 0);
+    EXPECT_EQ(GameNumber, 77);
+}
+
 TEST_F(Recovery, GameWhoseSolutionsAreListedIsTheOneThatIsKept)
 {
     WordAt({3, 1}) = BitTable[4];
@@ -391,6 +416,34 @@ TEST_F(Recovery, PausedGameComesBackPaused)
     OfferLostGames();
     EXPECT_TRUE(IsPaused());
     EXPECT_FALSE(Seen.ClockTimerOn);
+}
+
+TEST_F(Recovery, ClockShowsTheTimeOfTheGameThatCameBack)
+{
+    const auto comeBack = [](const std::function<void()> &play) {
+        Killed([&] {
+            Play();
+            play();
+            SolveSeconds = 754;
+            TickAndWrite();
+        });
+        StartAnew();
+        ResetSolveTime();
+        Seen.YesNoAnswers = {true};
+        OfferLostGames();
+        EndRecovery(true);
+    };
+    comeBack([] {});
+    EXPECT_EQ(TimeCaption, "12:34 ");
+    comeBack(mnuPauseTime);
+    EXPECT_EQ(TimeCaption, "Paused at 12:34 ");
+    mnuPauseTime();
+    EXPECT_EQ(TimeCaption, "Paused at 12:34 ") << "until the next second";
+    comeBack([] {
+        SetGame(EasySolution);
+        StatsCounted = True;
+    });
+    EXPECT_EQ(TimeCaption, "Solved at 12:34 ");
 }
 
 TEST_F(Recovery, NoKeepsTheGameUnderItsDate)

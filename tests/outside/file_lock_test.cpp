@@ -1,4 +1,5 @@
 #include "outside/file_lock.h"
+#include "outside/system_calls.h"
 #include "support/child_process.h"
 #include "support/temporary_folder.h"
 
@@ -10,6 +11,8 @@
 
 namespace kelvarine::testing {
 namespace {
+
+constexpr unsigned int Nobody = 65534;
 
 class FileLockTest : public ::testing::Test {
 protected:
@@ -64,6 +67,36 @@ TEST_F(FileLockTest, TellsWhyNobodyCanHaveIt)
     const FileLock lock(Path);
     EXPECT_EQ(lock.State(), LockState::Failed);
     EXPECT_EQ(lock.Error(), "Not a directory");
+}
+
+TEST_F(FileLockTest, IsGivenByADiskThatAsksForWritingToo)
+{
+    SystemCalls calls;
+    calls.LocksNeedWriting = true;
+    const FileLock first(Path);
+    EXPECT_EQ(first.State(), LockState::Held);
+    EXPECT_EQ(FileLock(Path).State(), LockState::Busy);
+}
+
+TEST_F(FileLockTest, FileThatMayOnlyBeReadWillDo)
+{
+    Folder.Write("lock", "");
+    std::filesystem::permissions(Folder.Path("lock"), std::filesystem::perms(0444));
+    std::filesystem::permissions(Folder.Path(""), std::filesystem::perms(0755));
+    const std::string path = Folder.Path("lock");
+    const int result = RunInChild([&] {
+        if (::getuid() == 0 && (::setgid(Nobody) != 0 || ::setuid(Nobody) != 0)) {
+            return 1;
+        }
+        const FileLock first(path);
+        EXPECT_EQ(first.State(), LockState::Held);
+        EXPECT_EQ(FileLock(path).State(), LockState::Busy);
+        SystemCalls calls;
+        calls.LocksNeedWriting = true;
+        EXPECT_EQ(FileLock(path).State(), LockState::Held) << "where nobody can have it";
+        return HasFailure() ? 1 : 0;
+    });
+    EXPECT_EQ(result, 0);
 }
 
 TEST_F(FileLockTest, DoesNotFollowALink)

@@ -1,5 +1,6 @@
 // What a file has beside its bytes outlasts its replacement, and what a killed program leaves does
 // not.
+#include "outside/system_calls.h"
 #include "outside/whole_file.h"
 #include "support/child_process.h"
 #include "support/temporary_folder.h"
@@ -40,6 +41,14 @@ protected:
     void Replace(const std::string &name = "game")
     {
         EXPECT_TRUE(ReplaceWholeFile(Folder.Path(name), "new", Error)) << Error;
+    }
+
+    [[nodiscard]] bool NeedsInPlace(const std::string &name) const
+    {
+        std::string error;
+        const bool needed = NeedsWritingInPlace(Folder.Path(name), error);
+        EXPECT_EQ(error, "");
+        return needed;
     }
 
     void Set(const char *attribute, const std::string &value, const std::string &name = "game")
@@ -151,10 +160,10 @@ TEST_F(FileMarks, ListThatAFolderGivesToNewFilesIsNotTakenOver)
 
 TEST_F(FileMarks, FileWithASecondNameNeedsWritingInPlace)
 {
-    EXPECT_FALSE(NeedsWritingInPlace(Folder.Path("game")));
-    EXPECT_FALSE(NeedsWritingInPlace(Folder.Path("missing")));
+    EXPECT_FALSE(NeedsInPlace("game"));
+    EXPECT_FALSE(NeedsInPlace("missing"));
     std::filesystem::create_hard_link(Folder.Path("game"), Folder.Path("other"));
-    EXPECT_TRUE(NeedsWritingInPlace(Folder.Path("game")));
+    EXPECT_TRUE(NeedsInPlace("game"));
     for (const std::string bytes : {"longer than before", "short", ""}) {
         ASSERT_TRUE(WriteInPlace(Folder.Path("game"), bytes, Error)) << Error;
         EXPECT_EQ(Folder.Read("other"), bytes);
@@ -169,8 +178,8 @@ TEST_F(FileMarks, FileInAFolderThatTakesNoneNeedsWritingInPlace)
         if (::getuid() == 0 && (::setgid(Nobody) != 0 || ::setuid(Nobody) != 0)) {
             return 1;
         }
-        EXPECT_TRUE(NeedsWritingInPlace(Folder.Path("game")));
-        EXPECT_FALSE(NeedsWritingInPlace(Folder.Path("missing")));
+        EXPECT_TRUE(NeedsInPlace("game"));
+        EXPECT_FALSE(NeedsInPlace("missing"));
         EXPECT_TRUE(WriteInPlace(Folder.Path("game"), "new", Error)) << Error;
         return HasFailure() ? 1 : 0;
     });
@@ -190,11 +199,11 @@ TEST_F(FileMarks, FileOfAnothersInASharedFolderNeedsWritingInPlace)
         if (::setgid(Nobody) != 0 || ::setuid(Nobody) != 0) {
             return 1;
         }
-        EXPECT_TRUE(NeedsWritingInPlace(Folder.Path("game")));
+        EXPECT_TRUE(NeedsInPlace("game"));
         return HasFailure() ? 1 : 0;
     });
     EXPECT_EQ(result, 0);
-    EXPECT_FALSE(NeedsWritingInPlace(Folder.Path("game")));
+    EXPECT_FALSE(NeedsInPlace("game"));
 }
 
 // ---- Leftovers -------------------------------------------------------------------------------
@@ -241,6 +250,20 @@ TEST_F(Leftovers, FileThatSomebodyStillWritesStaysForADay)
     ::close(old);
     Replace();
     EXPECT_EQ(Folder.Entries(), 1);
+}
+
+TEST_F(Leftovers, AreKnownOnADiskThatGivesLocksForWritingAlone)
+{
+    SystemCalls calls;
+    calls.LocksNeedWriting = true;
+    Leave(".kelvarine-abcDE1", 0);
+    Leave(".kelvarine-abcDE2", 0);
+    const int written = ::open(Folder.Path(".kelvarine-abcDE2").c_str(), O_WRONLY | O_CLOEXEC);
+    ASSERT_EQ(::flock(written, LOCK_EX | LOCK_NB), 0);
+    Replace();
+    EXPECT_FALSE(IsThere(".kelvarine-abcDE1"));
+    EXPECT_TRUE(IsThere(".kelvarine-abcDE2"));
+    ::close(written);
 }
 
 TEST_F(Leftovers, FilesOfOthersAndOfOtherNamesStay)

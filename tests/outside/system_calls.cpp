@@ -3,6 +3,7 @@
 #include <cstdarg>
 #include <cstdlib>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/types.h>
 
 namespace kelvarine::testing {
@@ -126,6 +127,7 @@ int __real_ftruncate(int file, off_t length);
 int __real_linkat(int oldFolder, const char *from, int newFolder, const char *to, int flags);
 int __real_renameat(int oldFolder, const char *from, int newFolder, const char *to);
 int __real_unlinkat(int folder, const char *path, int flags);
+int __real_flock(int file, int operation);
 
 int __wrap_openat(int folder, const char *path, int flags, ...)
 {
@@ -184,6 +186,17 @@ int __wrap_unlinkat(int folder, const char *path, int flags)
 {
     return Through({.Name = "unlinkat", .To = path},
                    [&] { return __real_unlinkat(folder, path, flags); });
+}
+
+int __wrap_flock(int file, int operation)
+{
+    const SystemCalls *calls = SystemCalls::Current;
+    if (calls != nullptr && calls->LocksNeedWriting && (operation & LOCK_EX) != 0 &&
+        (::fcntl(file, F_GETFL) & O_ACCMODE) == O_RDONLY) {
+        errno = EBADF;
+        return -1;
+    }
+    return __real_flock(file, operation);
 }
 // NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
 

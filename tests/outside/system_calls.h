@@ -35,6 +35,9 @@ public:
 
     std::vector<SystemCall> Calls;
 
+    // Set for a disk of another machine, which gives the one lock to nobody who may only read.
+    bool LocksNeedWriting = false;
+
     // For the calls themselves.
     bool Fails(const std::string &name);
     int FileOf(int descriptor);

@@ -9,12 +9,15 @@
 #include "outside/folders.h"
 #include "outside/whole_file.h"
 #include "program/program.h"
+#include "support/child_process.h"
 #include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
 #include "support/settings_folder.h"
 
 #include <gtest/gtest.h>
+
+#include <csignal>
 
 namespace kelvarine::testing {
 namespace {
@@ -223,11 +226,45 @@ TEST_F(WholeProgram, QuestionsOfASessionDuringARunCloseNothingLater)
     StartRun();
     SearchKind = SearchingGame;
     Seen.LaterDeeds.clear();
-    Seen.YesNoAnswers = {true};
-    EXPECT_FALSE(AskBeforeTheEnd());
+    Seen.YesNoAnswers = {false, true};
+    EXPECT_FALSE(MayEndRun());
+    EXPECT_TRUE(MayEndRun());
     EXPECT_EQ(SearchActive, False);
     EndRun();
     EXPECT_TRUE(Seen.LaterDeeds.empty());
+}
+
+TEST_F(WholeProgram, SignalAfterTheAnswerKeepsNothingMore)
+{
+    StatisticsOpen = True;
+    KeepSettings();
+    StartProgram("");
+    EXPECT_TRUE(EndProgram());
+    const std::string atTheEnd = Folders.ReadSetting("config.sdu");
+    StatisticsOpen = False; // as the screens go with the program
+    PushUndoState();
+    KeepBeforeAsking();
+    EXPECT_EQ(Folders.ReadSetting("config.sdu"), atTheEnd);
+    EXPECT_FALSE(FileExists(DataFolder() + "recovery-1.sdk"));
+}
+
+TEST_F(WholeProgram, ToldToGoWhileItStartsAsksAboutNoGame)
+{
+    ASSERT_EQ(RunInChild([] {
+                  StartProgram("");
+                  PushUndoState();
+                  KeepBeforeAsking();
+                  return ::raise(SIGKILL);
+              }),
+              -1);
+    Restart();
+    StartProgram("/no/such/game.sdk");
+    ASSERT_EQ(Seen.LaterDeeds.size(), 1U);
+    EXPECT_TRUE(EndProgram());
+    ForgetRecord();
+    Seen.LaterDeeds[0]();
+    EXPECT_EQ(Acts(), Texts{});
+    EXPECT_TRUE(FileExists(DataFolder() + "recovery-1.sdk")) << "it is for the next start";
 }
 
 TEST_F(WholeProgram, SettingsKeptDuringARunAreThePlayers)

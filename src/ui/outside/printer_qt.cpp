@@ -1,9 +1,9 @@
 #include "ui/outside/printer_qt.h"
 
+#include "files/player_file.h"
 #include "grid/colour.h"
 #include "outside/messages.h"
 #include "outside/printer.h"
-#include "outside/whole_file.h"
 #include "paint/print_painter.h"
 #include "paint/text.h"
 #include "paint/text_painter.h"
@@ -116,9 +116,8 @@ std::string WriteDocument()
     if (failure.empty() && document->Pdf != nullptr) {
         const QByteArray path = QFile::encodeName(ChosenPrinter().outputFileName());
         const QByteArray &bytes = document->Bytes.data();
-        ReplaceWholeFile(path.toStdString(),
-                         {bytes.constData(), static_cast<std::size_t>(bytes.size())}, failure,
-                         MissingFolders::Refused);
+        WritePlayerFile(path.toStdString(),
+                        {bytes.constData(), static_cast<std::size_t>(bytes.size())}, failure);
     }
     return failure;
 }

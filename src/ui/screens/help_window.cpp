@@ -179,6 +179,9 @@ HelpWindow::HelpWindow(std::unique_ptr<HelpCollection> opened)
     Tabs->addTab(BuildSearch(), "&Search");
     Tabs->setAccessibleName("Ways into the help");
     Tabs->tabBar()->installEventFilter(this);
+    // The captions have their room, however large their font is.
+    Tabs->setUsesScrollButtons(false);
+    Tabs->setElideMode(Qt::ElideNone);
 
     auto *splitter = new QSplitter(this);
     splitter->addWidget(Tabs);

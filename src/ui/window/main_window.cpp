@@ -3,6 +3,7 @@
 #include "board/geometry.h"
 #include "board/look.h"
 #include "commands/file_commands.h"
+#include "files/file_address.h"
 #include "game/clock.h"
 #include "game/screens.h"
 #include "game/win_display.h"
@@ -11,6 +12,7 @@
 #include "input/toolbar.h"
 #include "outside/board.h"
 #include "outside/events.h"
+#include "outside/window.h"
 #include "paint/board_painter.h"
 #include "paint/margin_painter.h"
 #include "program/program.h"
@@ -24,15 +26,16 @@
 
 #include <QCloseEvent>
 #include <QDropEvent>
-#include <QFile>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QSysInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace kelvarine {
 
@@ -43,14 +46,12 @@ constexpr QSize SmallestSize{160, 160};
 
 MainWindow *mainWindow = nullptr;
 
-// Full path of the one file that is dragged; empty for anything else.
+// Full path of the one file that is dragged, in the very bytes of its name; empty for anything
+// else.
 std::string DroppedFile(const QMimeData &dragged)
 {
-    const QList<QUrl> urls = dragged.urls();
-    if (urls.size() != 1 || !urls.front().isLocalFile()) {
-        return {};
-    }
-    return QFile::encodeName(urls.front().toLocalFile()).toStdString();
+    const std::string list = dragged.data(QStringLiteral("text/uri-list")).toStdString();
+    return PathOfAddress(OneAddressIn(list), QSysInfo::machineHostName().toStdString());
 }
 
 } // namespace
@@ -131,6 +132,10 @@ void MainWindow::UpdateMenuCaptions()
 
 bool MainWindow::CloseUnlessAsking()
 {
+    if (!wasShown) {
+        closesWhenShown = true;
+        return false;
+    }
     // The toolkit would take a second closing for agreed and close the window under the question.
     if (isVisible() && !asking) {
         close();
@@ -138,10 +143,10 @@ bool MainWindow::CloseUnlessAsking()
     return !isVisible();
 }
 
-bool MainWindow::AskAsClosingDoes()
+bool MainWindow::AskAsClosingDoes(bool (*ask)())
 {
     const QScopedValueRollback nowAsking(asking, true);
-    return AskBeforeTheEnd();
+    return ask();
 }
 
 bool MainWindow::IsClosing() const
@@ -205,6 +210,15 @@ void MainWindow::KeepPlace()
     MainMaximised = FlagOf(isMaximized());
     if (!isMaximized() && !isFullScreen()) {
         kelvarine::KeepPlace(*this, MainPlace);
+    }
+}
+
+void MainWindow::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    wasShown = true;
+    if (std::exchange(closesWhenShown, false)) {
+        CallFromEventLoop(CloseMainWindow);
     }
 }
 

@@ -53,18 +53,19 @@ public:
     // Keeps where the window stands, unless it is not on view.
     void KeepPlace();
 
-    // Closes the window as the player does. While a closing before waits for its answer, that one
-    // decides and nothing happens. True when the window is gone.
+    // Closes the window as the player does, or as soon as it is on view. While a closing before
+    // waits for its answer, that one decides and nothing happens. True when the window is gone.
     bool CloseUnlessAsking();
 
-    // Asks what a closing would ask, and closes nothing. False when the player would rather stay.
-    bool AskAsClosingDoes();
+    // Asks something that a closing would ask, in its manner, and closes nothing. Gives the answer.
+    bool AskAsClosingDoes(bool (*ask)());
 
     // A closing, or a session's end, waits for the player's answer.
     [[nodiscard]] bool IsClosing() const;
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -75,6 +76,8 @@ protected:
 
 private:
     bool asking = false; // what a closing asks
+    bool wasShown = false;
+    bool closesWhenShown = false;
 };
 
 // The one main window, or null before it stands and after it has gone.

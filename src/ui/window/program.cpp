@@ -1,5 +1,6 @@
 #include "ui/window/program.h"
 
+#include "files/recovery.h"
 #include "outside/window.h"
 #include "program/program.h"
 #include "ui/window/help_key.h"
@@ -30,7 +31,8 @@ void MakeMainWindow()
 int RunProgram(const std::string &gameFile)
 {
     StartProgram(gameFile);
-    const int result = QApplication::exec();
+    // A box of the start may have stood when it was told to go.
+    const int result = RecoveryHasEnded() ? 0 : QApplication::exec();
     theWindow.reset();
     return result;
 }

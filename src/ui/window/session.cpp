@@ -1,5 +1,6 @@
 #include "ui/window/session.h"
 
+#include "files/file_address.h"
 #include "files/game_file.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
@@ -7,7 +8,6 @@
 #include "program/program.h"
 #include "ui/window/main_window.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QScopedValueRollback>
 #include <QSessionManager>
@@ -74,6 +74,30 @@ bool wasAsked = false;
 
 bool toldToGo = false;
 
+// While the logic works on the board nothing can be asked about the game. When the run may end, the
+// session is to come back after all others: it has ended by then, or its rest asks at the closing.
+void AskAboutRun(QSessionManager &manager)
+{
+    answeredGame.reset();
+    if (Window()->IsClosing() || !Window()->AskAsClosingDoes(MayEndRun)) {
+        manager.cancel();
+    } else if (!manager.isPhase2()) {
+        manager.requestPhase2();
+    }
+}
+
+// A question that stands already decides by itself.
+void AskAboutGame(QSessionManager &manager)
+{
+    if (!Window()->IsClosing() && Window()->AskAsClosingDoes(AskBeforeTheEnd)) {
+        KeepSettings();
+        answeredGame = Grid;
+    } else {
+        answeredGame.reset();
+        manager.cancel();
+    }
+}
+
 // The session may end, or only wants to know that all is kept.
 void PrepareForTheEnd(QSessionManager &manager)
 {
@@ -83,15 +107,19 @@ void PrepareForTheEnd(QSessionManager &manager)
         answeredGame = Grid;
         return;
     }
-    // A question that stands already decides by itself.
-    if (!Window()->IsClosing() && Window()->AskAsClosingDoes()) {
-        KeepSettings();
-        answeredGame = Grid;
+    if (RunUnderWay != False) {
+        AskAboutRun(manager);
     } else {
-        answeredGame.reset();
-        manager.cancel();
+        AskAboutGame(manager);
     }
     manager.release();
+}
+
+// The session takes words of text. A name that is none is told as an address, byte by byte.
+QString WordOf(const std::string &path)
+{
+    const auto name = QString::fromStdString(path);
+    return name.toStdString() == path ? name : QString::fromStdString(AddressOf(path));
 }
 
 // The toolkit would add a word of its own, which the program does not take.
@@ -99,7 +127,7 @@ void TellHowToStart(QSessionManager &manager)
 {
     QStringList words{QCoreApplication::applicationFilePath()};
     if (!GameFilePath.empty()) {
-        words += QFile::decodeName(QByteArray::fromStdString(GameFilePath));
+        words += WordOf(GameFilePath);
     }
     manager.setRestartCommand(words);
 }

@@ -1,12 +1,19 @@
 // Desktop fonts of all sizes: no text is cut, measured against the room that it has.
+#include "commands/new_games.h"
 #include "game/screens.h"
 #include "game/solutions.h"
 #include "game/statistics.h"
+#include "generator/generator.h"
+#include "grid/cell_word.h"
+#include "logic/technique_masks.h"
+#include "outside/help.h"
+#include "outside/messages.h"
 #include "outside/screens.h"
 #include "support/widget_events.h"
 #include "support/widget_program.h"
 #include "ui/configure/configure_screen.h"
 #include "ui/configure/tab_strip.h"
+#include "ui/screens/help_window.h"
 #include "ui/window/toolbar_widget.h"
 
 #include <QAbstractButton>
@@ -16,12 +23,20 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTimer>
+#include <QToolButton>
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
 
 namespace kelvarine::testing {
 namespace {
 
 constexpr int Points[] = {9, 12, 15, 20};
+constexpr QSize CommonScreen(1366, 768);
 
 class LargeFonts : public ::testing::TestWithParam<int> {
 protected:
@@ -48,7 +63,10 @@ QSize NeededBy(const QWidget &control)
 {
     const QFontMetrics measure = control.fontMetrics();
     if (const auto *label = qobject_cast<const QLabel *>(&control)) {
-        return label->text().isEmpty() ? QSize() : label->sizeHint();
+        const bool broken = label->wordWrap(); // into the lines that its width allows
+        return label->text().isEmpty() ? QSize()
+               : broken                ? QSize(1, label->heightForWidth(label->width()))
+                                       : label->sizeHint();
     }
     if (const auto *button = qobject_cast<const QAbstractButton *>(&control)) {
         return button->text().isEmpty() ? QSize() : button->minimumSizeHint();
@@ -141,6 +159,67 @@ TEST_P(LargeFonts, CutNoCaptionOfTheToolbar)
             EXPECT_LE(measure.height(), button->height() + 1) << NameOf(*button);
         }
     }
+}
+
+// Does what brings up a box and looks at it while it stands.
+void LookAtBox(const std::function<void()> &action, int controls)
+{
+    QTimer watch;
+    int seen = 0;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+        auto *box = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (box == nullptr || !box->isVisible()) {
+            return;
+        }
+        ++seen;
+        EXPECT_GE(ExpectRoomForTexts(*box), controls) << box->windowTitle().toStdString();
+        EXPECT_LE(box->width(), CommonScreen.width());
+        EXPECT_LE(box->height(), CommonScreen.height());
+        box->reject();
+    });
+    watch.start(1);
+    action();
+    EXPECT_EQ(seen, 1);
+}
+
+TEST_P(LargeFonts, CutNoTextOfABox)
+{
+    DifficultySelection = BitTable[1];
+    LevelTable[1] = 0;
+    LookAtBox(mnuGameRandom, 2); // the longest of all messages, and its button
+    LookAtBox([] { ShowMessage("No.", "A title that is longer than what is told"); }, 2);
+    LookAtBox([] { AskYesNo("The last game was not closed. Would you like to go on with it?"); },
+              3);
+    LookAtBox([] { AskYesNoCancel("Would you like to save this game first?"); }, 4);
+    LookAtBox([] { AskText("Please select a game number between 1 and 2,147,483,647\r"); }, 4);
+    LookAtBox(ShowAboutScreen, 3);
+}
+
+TEST_P(LargeFonts, CutNoTextOfTheHelp)
+{
+    ShowHelpTopic(0);
+    const std::unique_ptr<HelpWindow> help(OpenHelpWindow());
+    ASSERT_NE(help, nullptr);
+    help->show();
+    const auto *bar = help->Tabs->findChild<QTabBar *>();
+    for (int tab = 0; tab < help->Tabs->count(); ++tab) {
+        help->Tabs->setCurrentIndex(tab);
+        QCoreApplication::processEvents();
+        EXPECT_GE(ExpectRoomForTexts(*help->Tabs), tab == 0 ? 0 : 2) << "tab " << tab;
+        const QRect place = bar->tabRect(tab);
+        EXPECT_TRUE(bar->rect().contains(place)) << "tab " << tab;
+        EXPECT_GE(bar->width(), bar->sizeHint().width()) << "no tab is cut or out of sight";
+    }
+    int buttons = 0;
+    for (const auto *button : help->findChildren<QToolButton *>()) {
+        const bool opensTheRest = button->objectName() == "qt_toolbar_ext_button";
+        EXPECT_FALSE(opensTheRest && button->isVisible()) << "all buttons have room";
+        if (button->isVisible()) {
+            ++buttons;
+            EXPECT_GE(button->width(), button->minimumSizeHint().width());
+        }
+    }
+    EXPECT_GT(buttons, 3);
 }
 
 TEST_P(LargeFonts, CutNoTextOfTheOtherScreens)

@@ -1,4 +1,6 @@
 #include "board/geometry.h"
+#include "files/file_address.h"
+#include "files/recovery.h"
 #include "game/lifecycle.h"
 #include "game/screens.h"
 #include "game/win_display.h"
@@ -79,6 +81,34 @@ TEST(MainWindow, OneFileCanBeDroppedOnIt)
     EXPECT_EQ(GivenCount, 0) << "the program that it comes from does not wait";
     EXPECT_TRUE(QTest::qWaitFor([] { return GivenCount == 30; }, Patience));
     EXPECT_EQ(program.Main->windowTitle(), "Kelvarine (easy game.txt)");
+}
+
+TEST(MainWindow, FileWhoseNameIsNoTextCanBeDroppedOnIt)
+{
+    const Program program;
+    const TemporaryFolder folder;
+    folder.Write(
+        "lat\xe4in.txt",
+        "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79");
+    QMimeData dropped;
+    dropped.setData("text/uri-list",
+                    QByteArray::fromStdString(AddressOf(folder.Path("lat\xe4in.txt")) + "\r\n"));
+    QDragEnterEvent enter({50, 50}, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(program.Main.get(), &enter);
+    QDropEvent drop({50, 50}, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(program.Main.get(), &drop);
+    EXPECT_TRUE(QTest::qWaitFor([] { return GivenCount == 30; }, Patience));
+    EXPECT_EQ(GameFilePath, folder.Path("lat\xe4in.txt"));
+}
+
+TEST(MainWindow, ToldToGoBeforeItIsOnViewGoesAsSoonAsItIs)
+{
+    const Program program;
+    MainWindow early;
+    EXPECT_FALSE(early.CloseUnlessAsking());
+    early.show();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !early.isVisible(); }, Patience));
+    EXPECT_TRUE(RecoveryHasEnded());
 }
 
 TEST(MainWindow, LooksTheSameWhereTheDesktopWritesFromRightToLeft)
