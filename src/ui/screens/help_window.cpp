@@ -190,7 +190,9 @@ HelpWindow::HelpWindow(std::unique_ptr<HelpCollection> opened)
     splitter->setSizes({SideWidth, StartSize.width() - SideWidth});
     setCentralWidget(splitter);
     statusBar();
-    resize(StartSize);
+    // In a large font the buttons take more than the usual width; what a small screen does not give
+    // them is behind an arrow.
+    resize(StartSize.expandedTo({findChild<QToolBar *>()->sizeHint().width(), 0}));
 
     connect(Browser, &QTextBrowser::anchorClicked, this, &HelpWindow::OpenLink);
     connect(Browser, &QTextBrowser::sourceChanged, this, &HelpWindow::PageChanged);
