@@ -22,7 +22,7 @@ std::string GivenFile(int argc, char **argv)
         return {};
     }
     const std::string machine = QSysInfo::machineHostName().toStdString();
-    if (const std::string path = kelvarine::PathOfAddress(argv[1], machine); !path.empty()) {
+    if (std::string path = kelvarine::PathOfAddress(argv[1], machine); !path.empty()) {
         return path;
     }
     std::error_code failure;

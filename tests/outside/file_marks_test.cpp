@@ -224,7 +224,7 @@ protected:
         return FileExists(Folder.Path(name));
     }
 
-    static constexpr std::time_t DayAndMore = 25 * 60 * 60;
+    static constexpr std::time_t DayAndMore = std::time_t{25} * 60 * 60;
 };
 
 TEST_F(Leftovers, AreRemovedWhenTheFolderIsSavedToAgain)

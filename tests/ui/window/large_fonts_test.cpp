@@ -29,13 +29,14 @@
 #include <QToolButton>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 #include <memory>
 
 namespace kelvarine::testing {
 namespace {
 
-constexpr int Points[] = {9, 12, 15, 20};
+constexpr std::array Points{9, 12, 15, 20};
 constexpr QSize CommonScreen(1366, 768);
 
 class LargeFonts : public ::testing::TestWithParam<int> {
