@@ -6,11 +6,15 @@
 #include "ui/screens/help_page.h"
 
 #include <QFont>
+#include <QList>
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <bit>
 #include <string_view>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace kelvarine {
@@ -22,6 +26,7 @@ const PictureLook LightPicture{
     .Pattern = QColor(255, 222, 89),
     .Second = QColor(255, 190, 120),
     .Target = QColor(178, 219, 255),
+    .Spoiler = QColor(255, 205, 210),
     .Ink = QColor(16, 16, 16),
     .PaleInk = QColor(108, 108, 108),
     .Lines = QColor(60, 60, 60),
@@ -37,6 +42,7 @@ const PictureLook DarkPicture{
     .Pattern = QColor(104, 84, 0),
     .Second = QColor(112, 58, 16),
     .Target = QColor(14, 70, 122),
+    .Spoiler = QColor(110, 24, 36),
     .Ink = QColor(248, 248, 248),
     .PaleInk = QColor(166, 166, 166),
     .Lines = QColor(190, 190, 190),
@@ -49,6 +55,7 @@ namespace {
 
 constexpr int NumberSize = 36;
 constexpr int CoordinateSize = 20;
+constexpr int MostColours = 48;
 constexpr double JointRadius = 10.5;
 constexpr double LineWidth = 2.4;
 constexpr double Bow = 0.06; // by which a chain's line swerves, of its length, to pass numbers by
@@ -144,8 +151,9 @@ bool IsReason(Part part)
     return part == Part::Pattern || part == Part::Second;
 }
 
-// The pencilmarks of a cell that fall.
-CellWord StruckIn(Cell cell, std::int32_t technique)
+} // namespace
+
+CellWord StruckByHint(Cell cell, std::int32_t technique)
 {
     const Part part = PartOf(cell, technique);
     const CellWord numbers = NumbersOfHint(technique);
@@ -154,6 +162,8 @@ CellWord StruckIn(Cell cell, std::int32_t technique)
     }
     return part == Part::Target && !IsSingle(technique) ? CandidatesOf(cell) & numbers : 0;
 }
+
+namespace {
 
 // The pencilmarks of a cell that count, besides those that fall.
 CellWord StrongIn(Cell cell, std::int32_t technique)
@@ -228,9 +238,17 @@ void Write(QPainter &painter, const QRectF &room, const QString &text, int size,
     painter.drawText(room, Qt::AlignCenter | Qt::TextDontClip, text);
 }
 
-QColor GroundOf(Cell cell, const PictureLook &look, std::int32_t technique)
+bool IsSupposed(Cell cell, const PictureSubject &subject)
 {
-    switch (PartOf(cell, technique)) {
+    return subject.Supposed.Number != 0 && cell == subject.Supposed.Where;
+}
+
+QColor GroundOf(Cell cell, const PictureLook &look, const PictureSubject &subject)
+{
+    if (IsSupposed(cell, subject)) {
+        return look.Spoiler;
+    }
+    switch (PartOf(cell, subject.Technique)) {
     case Part::Target:
         return look.Target;
     case Part::Pattern:
@@ -245,13 +263,13 @@ QColor GroundOf(Cell cell, const PictureLook &look, std::int32_t technique)
     return (WordAt(cell) & GivenBit) != 0 ? look.Given : look.Paper;
 }
 
-void PaintGrounds(QPainter &painter, const PictureLook &look, std::int32_t technique)
+void PaintGrounds(QPainter &painter, const PictureLook &look, const PictureSubject &subject)
 {
     const int start = PicturePlace(1) - 3;
     const int side = PicturePlace(9) + PictureCellSide + 3 - start;
     painter.fillRect(start, start, side, side, look.Lines);
     for (const Cell cell : Cells) {
-        painter.fillRect(Square(cell), GroundOf(cell, look, technique));
+        painter.fillRect(Square(cell), GroundOf(cell, look, subject));
     }
 }
 
@@ -297,44 +315,127 @@ void PaintJoints(QPainter &painter, const PictureLook &look, const std::vector<J
     }
 }
 
-void PaintMarks(QPainter &painter, const PictureLook &look, Cell cell, std::int32_t technique)
+// A number of the supposition, ringed.
+void PaintRinged(QPainter &painter, const PictureLook &look, const QRectF &room, int number)
 {
-    const CellWord struck = StruckIn(cell, technique);
-    const CellWord strong = StrongIn(cell, technique) | struck;
+    painter.setPen(QPen(look.Strike, LineWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(room.center(), JointRadius, JointRadius);
+    painter.setPen(look.Ink);
+    Write(painter, room, QString::number(number), PictureMarkSize, true);
+}
+
+void PaintMarks(QPainter &painter, const PictureLook &look, Cell cell,
+                const PictureSubject &subject)
+{
+    const bool alike = subject.Supposed.Number != 0;
+    const CellWord struck = StruckByHint(cell, subject.Technique);
+    const CellWord strong = StrongIn(cell, subject.Technique) | struck;
     for (int number = 1; number <= 9; ++number) {
+        const QRectF room = MarkSquare(cell, number);
+        if (IsSupposed(cell, subject) && number == subject.Supposed.Number) {
+            PaintRinged(painter, look, room, number);
+            continue;
+        }
         if ((CandidatesOf(cell) & BitOf(number)) == 0) {
             continue;
         }
-        const QRectF room = MarkSquare(cell, number);
         const bool counts = (strong & BitOf(number)) != 0;
         painter.setPen(counts ? look.Ink : look.PaleInk);
         Write(painter, room, QString::number(number), PictureMarkSize, counts);
-        if ((struck & BitOf(number)) != 0) {
+        if ((struck & BitOf(number)) != 0 && !alike) {
             painter.setPen(QPen(look.Strike, LineWidth));
             painter.drawLine(room.bottomLeft() + QPointF(1, -3), room.topRight() + QPointF(-1, 3));
         }
     }
 }
 
-void PaintNumbersOf(QPainter &painter, const PictureLook &look, Cell cell, std::int32_t technique)
+void PaintNumbersOf(QPainter &painter, const PictureLook &look, Cell cell,
+                    const PictureSubject &subject)
 {
-    if (CountCandidates(cell.Column, cell.Row) == 1) {
+    if (CountCandidates(cell.Column, cell.Row) == 1 && !IsSupposed(cell, subject)) {
         painter.setPen(look.Ink);
         Write(painter, Square(cell), QString::number(LowestOf(CandidatesOf(cell))), NumberSize,
               false);
         return;
     }
-    PaintMarks(painter, look, cell, technique);
-    if (IsSingle(technique) && PartOf(cell, technique) == Part::Target) {
+    PaintMarks(painter, look, cell, subject);
+    const bool placed = IsSingle(subject.Technique) && subject.Supposed.Number == 0 &&
+                        PartOf(cell, subject.Technique) == Part::Target &&
+                        NumbersOfHint(subject.Technique) != 0;
+    if (placed) {
         painter.setPen(look.Strike);
-        Write(painter, Square(cell), QString::number(LowestOf(NumbersOfHint(technique))),
+        Write(painter, Square(cell), QString::number(LowestOf(NumbersOfHint(subject.Technique))),
               NumberSize, true);
     }
 }
 
+// The colours of a look, and those that most pixels of its picture have.
+QList<QRgb> ColoursOf(const QImage &picture, const PictureLook &look)
+{
+    std::unordered_map<QRgb, int> counts;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            ++counts[picture.pixel(x, y)];
+        }
+    }
+    std::vector<std::pair<int, QRgb>> frequent;
+    frequent.reserve(counts.size());
+    for (const auto &[colour, count] : counts) {
+        frequent.emplace_back(count, colour);
+    }
+    std::sort(frequent.rbegin(), frequent.rend());
+    QList<QRgb> colours;
+    for (const QColor &colour :
+         {look.Paper, look.Given, look.House, look.Pattern, look.Second, look.Target, look.Spoiler,
+          look.Ink, look.PaleInk, look.Lines, look.Strike, look.Chain, look.JointInk}) {
+        colours.append(colour.rgb());
+    }
+    for (std::size_t k = 0; k < frequent.size() && colours.size() < MostColours; ++k) {
+        if (!colours.contains(frequent[k].second)) {
+            colours.append(frequent[k].second);
+        }
+    }
+    return colours;
+}
+
+int DistanceOf(QRgb one, QRgb other)
+{
+    const int red = qRed(one) - qRed(other);
+    const int green = qGreen(one) - qGreen(other);
+    const int blue = qBlue(one) - qBlue(other);
+    return red * red + green * green + blue * blue;
+}
+
+// The same picture in few colours: the edges of letters and lines have many that are much alike,
+// and without them its file is a third as large.
+QImage WithFewColours(const QImage &picture, const PictureLook &look)
+{
+    const QList<QRgb> colours = ColoursOf(picture, look);
+    QImage few(picture.size(), QImage::Format_Indexed8);
+    few.setColorTable(colours);
+    few.setDevicePixelRatio(picture.devicePixelRatio());
+    std::unordered_map<QRgb, unsigned> places;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgb colour = picture.pixel(x, y);
+            auto place = places.find(colour);
+            if (place == places.end()) {
+                const auto nearest =
+                    std::min_element(colours.begin(), colours.end(), [&](QRgb one, QRgb other) {
+                        return DistanceOf(one, colour) < DistanceOf(other, colour);
+                    });
+                place = places.emplace(colour, nearest - colours.begin()).first;
+            }
+            few.setPixel(x, y, place->second);
+        }
+    }
+    return few;
+}
+
 } // namespace
 
-QImage HelpPicture(const PictureLook &look, std::int32_t technique)
+QImage HelpPicture(const PictureLook &look, const PictureSubject &subject)
 {
     QImage picture(HelpPictureRatio * PictureSide, HelpPictureRatio * PictureSide,
                    QImage::Format_RGB32);
@@ -343,14 +444,15 @@ QImage HelpPicture(const PictureLook &look, std::int32_t technique)
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     const std::vector<Joint> joints = JointsOfChain();
-    PaintGrounds(painter, look, technique);
+    PaintGrounds(painter, look, subject);
     PaintCoordinates(painter, look);
     PaintChainLines(painter, look, joints);
     for (const Cell cell : Cells) {
-        PaintNumbersOf(painter, look, cell, technique);
+        PaintNumbersOf(painter, look, cell, subject);
     }
     PaintJoints(painter, look, joints);
-    return picture;
+    painter.end();
+    return WithFewColours(picture, look);
 }
 
 } // namespace kelvarine

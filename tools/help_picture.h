@@ -1,7 +1,10 @@
 // The pictures of the help: a position as it is drawn to be read, not to be played on. Numbers and
 // pencilmarks that a conclusion rests on are strong and all others pale, what falls is struck
-// through, and a chain carries its numbers at its joints.
+// through, and a chain carries its numbers at its joints. Where a position only looks like a
+// technique, the number that spoils it is ringed.
 #pragma once
+
+#include "help_example.h"
 
 #include <QColor>
 #include <QImage>
@@ -18,6 +21,7 @@ struct PictureLook {
     QColor Pattern;  // cells that are its reason
     QColor Second;   // every other cell of a chain, the wings of a hinge
     QColor Target;   // the cell that the hint is about
+    QColor Spoiler;  // the cell that keeps a position from being what it looks like
     QColor Ink;      // numbers, and pencilmarks that count
     QColor PaleInk;  // pencilmarks that do not
     QColor Lines;    // the lines of the grid
@@ -40,7 +44,14 @@ constexpr int PicturePlace(int line)
 
 inline constexpr int PictureSide = PicturePlace(9) + PictureCellSide + 4;
 
-// Paints Grid with the marks, the words and the chain that a whole hint of a technique has left.
-QImage HelpPicture(const PictureLook &look, std::int32_t technique);
+// What a picture shows: the hint of a technique, or, under a supposition, what only looks like it.
+struct PictureSubject {
+    std::int32_t Technique;
+    Supposition Supposed = NothingSupposed;
+};
+
+// Paints Grid with the marks, the words and the chain that a whole hint has left. Under a
+// supposition Grid is as supposed, and the picture shows it as it is, with nothing struck through.
+QImage HelpPicture(const PictureLook &look, const PictureSubject &subject);
 
 } // namespace kelvarine

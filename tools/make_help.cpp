@@ -4,13 +4,13 @@
 //
 //   make_help keyboard PAGE OUTPUT            PAGE with the table of keys in place of @KEYS@
 //   make_help reference PAGE OUTPUT           PAGE with tables of menus and of the pages beside it
-//   make_help example PAGE FRAME OUTPUT PICTURE
-//                                             PAGE with FRAME in place of @EXAMPLE@, and the
-//                                             picture of its position with the first hint on it, in
-//                                             a light form and, beside it, a dark one
+//   make_help example PAGE FRAMES OUTPUT      PAGE with frames of that folder filled in, and beside
+//                                             OUTPUT the pictures of the page's positions with the
+//                                             first hint on each, in a light and a dark form
 #include "files/text_format.h"
-#include "game/alert_scan.h"
 #include "grid/grid.h"
+#include "grid/rating_words.h"
+#include "help_example.h"
 #include "help_picture.h"
 #include "input/menu_table.h"
 #include "logic/driver.h"
@@ -21,9 +21,11 @@
 #include "program/defaults.h"
 #include "ui/screens/help_page.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <span>
@@ -36,6 +38,7 @@ namespace {
 
 constexpr std::int32_t FirstStage = 3; // of a hint
 constexpr std::int32_t FullHint = 5;
+constexpr std::size_t MostSteps = 20; // of a game that is played to its end
 
 [[noreturn]] void Fail(const std::string &words)
 {
@@ -202,78 +205,172 @@ std::string HeadWord(const std::string &page, const std::string &name)
                              page.find('"', start + lead.size()) - start - lead.size());
 }
 
-// Puts the position of a page on the board. Where the page wants it thinned, all pencilmarks are
-// filled in and those go that see their number.
-void ShowPosition(const std::string &page)
+// The technique of a page: that which its head names, or that of its own name.
+const TechniqueRow &TechniqueOf(const QFileInfo &output, const std::string &page)
 {
-    if (ReadPosition(PositionOf(page)) != 81) {
-        Fail("the position of the page is not whole");
+    const std::string named = HeadWord(page, "technique");
+    const std::string name = named.empty() ? output.baseName().toStdString() : named;
+    const auto row = std::find_if(Techniques.begin(), Techniques.end(),
+                                  [&](const TechniqueRow &one) { return one.HelpPage == name; });
+    if (row == Techniques.end()) {
+        Fail("no technique has the page " + name);
     }
-    if (HeadWord(page, "board") == "thinned") {
-        FillPencilmarks();
-        SolveMask = MaskOf({NakedSingle});
-        ApplyLogic(0);
-        ClearCellBits(PassMarks);
+    return *row;
+}
+
+// Puts a position of a page on the board. Where the page's head has techniques ticked, all
+// pencilmarks are filled in and these techniques applied.
+void ShowPosition(const std::string &page, int which)
+{
+    if (ReadPosition(PositionOf(page, which)) != 81) {
+        Fail("a position of the page is not whole");
     }
     CountGivens();
     RateGame();
+    if (const std::string ticked = HeadWord(page, "ticked"); !ticked.empty()) {
+        FillAndApply(MaskOfPages(ticked));
+    }
 }
 
-// The words of a stage of the game's first hint on the board, as the game shows them; its marks
-// stay there.
-std::string HintOf(std::int32_t stage)
+// The words of a stage of the first hint on the board, as the game shows them.
+std::string ShownHint(std::int32_t stage)
 {
-    ScanAlerts(stage);
-    if (HintText.empty()) {
-        Fail("the game has no hint on the position of the page");
+    std::string words = HintWords(stage);
+    if (words.empty()) {
+        Fail("the game has no hint on a position of the page");
     }
-    std::string words = Escaped(HintText);
     ReplaceAll(words, "a 8", "an 8");
-    while (!words.empty() && words.back() == '\r') {
-        words.pop_back();
-    }
-    ReplaceAll(words, "\r", "<br>");
-    return words;
+    return Escaped(words);
 }
 
-// The technique of a number among the pages: that which its head names, or that of its own name.
-std::int32_t TechniqueOf(const std::string &path, const std::string &page)
+// A position as a link holds it.
+std::string LineOf(const std::string &page, int which)
 {
-    const std::string own = QFileInfo(QString::fromStdString(path)).baseName().toStdString();
-    const std::string named = HeadWord(page, "technique");
-    for (const TechniqueRow &row : Techniques) {
-        if (row.HelpPage == (named.empty() ? own : named)) {
-            return row.Number;
+    ReadPosition(PositionOf(page, which));
+    std::string line = SingleLineText();
+    line.erase(line.find_last_not_of("\r\n") + 1);
+    ReplaceAll(line, " ", "%20");
+    return line;
+}
+
+std::string DigitOf(CellWord word)
+{
+    return std::to_string(LowestCandidate(word));
+}
+
+// Puts a page's supposition on the board, and what comes of it into the frame.
+Supposition FillSupposition(std::string &frame, const std::string &text, std::int32_t technique)
+{
+    const Supposition supposed = SuppositionOf(text);
+    if (supposed.Number == 0) {
+        return NothingSupposed;
+    }
+    HintBy(technique);
+    Suppose(supposed);
+    Fill(frame, "@SPOILER@", ShortName(supposed.Where));
+    Fill(frame, "@NUMBER@", std::to_string(supposed.Number));
+    ShownHint(FullHint);
+    const Cell target = SelectedCell();
+    Fill(frame, "@TARGET@", ShortName(target));
+    Fill(frame, "@RIGHT@", DigitOf(SolutionOf(WordAt(target))));
+    return supposed;
+}
+
+void WritePictures(const PictureSubject &subject, const QString &path)
+{
+    const auto write = [&](const PictureLook &look, const QString &file) {
+        if (!HelpPicture(look, subject).save(file, "PNG", 0)) {
+            Fail("cannot write " + file.toStdString());
         }
-    }
-    Fail("no technique has the page " + path);
+    };
+    write(LightPicture, path);
+    write(DarkPicture, DarkFormOf(path));
 }
 
-void WritePicture(const PictureLook &look, std::int32_t technique, const QString &path)
+// The hints of a game that is played to its end, as a list: what each says and what falls after it.
+std::string WalkHtml(const std::string &page)
 {
-    if (!HelpPicture(look, technique).save(path, "PNG", 0)) {
-        Fail("cannot write " + path.toStdString());
+    std::string html;
+    for (const WalkStep &step : Walk(MaskOfPages(HeadWord(page, "ticked")), MostSteps)) {
+        std::string words = step.Words;
+        ReplaceAll(words, "a 8", "an 8");
+        html += "<li><b>" + Escaped(step.Title) + "</b>. " + Escaped(words) + "<br>Strike out";
+        const char *lead = " the ";
+        for (const Supposition &one : step.Struck) {
+            html += lead;
+            html += std::to_string(one.Number);
+            html += " in ";
+            html += ShortName(one.Where);
+            lead = ", the ";
+        }
+        html += ", and press Ctrl+L.</li>\n";
     }
+    if (IsGridSolved() == False) {
+        Fail("the game of the page does not come to its end");
+    }
+    return html;
 }
 
-void MakeExamplePage(const std::string &page, const std::string &frame, const std::string &output,
-                     const std::string &picture)
+// A frame with the words and the picture of a page's position; the picture is written.
+std::string ExampleHtml(std::string frame, const std::string &page, int which,
+                        const TechniqueRow &technique, const QFileInfo &output)
 {
-    std::string text = ReadText(page);
-    ShowPosition(text);
-    std::string example = ReadText(frame);
-    const QFileInfo file(QString::fromStdString(picture));
-    ReplaceAll(example, "@FIRST@", HintOf(FirstStage));
-    ReplaceAll(example, "@SECOND@", HintOf(FirstStage + 1));
-    ClearCellBits(PassMarks);
-    Fill(example, "@WORDS@", HintOf(FullHint));
-    Fill(example, "@TITLE@", Escaped(HintTitle));
-    Fill(example, "@PICTURE@", file.fileName().toStdString());
+    const QString ending = which == 1 ? QString() : u'-' + QString::number(which);
+    const QString name = output.baseName() + ending + QStringLiteral(".png");
+    ReplaceAll(frame, "@LINE@", LineOf(page, which));
+    Fill(frame, "@PICTURE@", name.toStdString());
+    ShowPosition(page, which);
+    const std::string supposed = PositionAttribute(page, which, "title");
+    const PictureSubject subject{technique.Number,
+                                 FillSupposition(frame, supposed, technique.Number)};
+    ReplaceAll(frame, "@FIRST@", ShownHint(FirstStage));
+    ReplaceAll(frame, "@SECOND@", ShownHint(FirstStage + 1));
+    ReplaceAll(frame, "@WORDS@", ShownHint(FullHint));
+    ReplaceAll(frame, "@TITLE@", Escaped(HintTitle));
+    ReplaceAll(frame, "@CELL@", ShortName(SelectedCell()));
+    ReplaceAll(frame, "@CAPTION@", CaptionsOf(BitOf(technique.Number)));
+    WritePictures(subject, output.dir().filePath(name));
+    if (const std::string ticked = HeadWord(page, "ticked"); !ticked.empty()) {
+        ReplaceAll(frame, "@TICKED@", CaptionsOf(MaskOfPages(ticked)));
+    }
+    if (frame.find("@WALK@") != std::string::npos) {
+        Fill(frame, "@WALK@", WalkHtml(page));
+    }
+    HintByAll();
+    return frame;
+}
 
-    const std::int32_t technique = TechniqueOf(page, text);
-    WritePicture(LightPicture, technique, file.filePath());
-    WritePicture(DarkPicture, technique, DarkFormOf(file.filePath()));
-    Fill(text, "@EXAMPLE@", example);
+// Where the technique stands in the settings.
+std::string LevelHtml(std::string frame, const TechniqueRow &technique)
+{
+    Fill(frame, "@LEVEL@", WordsOfRating(technique.Level).Capital);
+    Fill(frame, "@CAPTION@", CaptionsOf(BitOf(technique.Number)));
+    Fill(frame, "@NAME@", technique.ReportName);
+    return frame;
+}
+
+std::string FrameOf(const std::string &frames, const std::string &name)
+{
+    return ReadText(frames + '/' + name + ".html");
+}
+
+// Fills the insets of a page: "@example@" and every other name but "level" takes the next position
+// of the page into the frame of that name.
+void MakeExamplePage(const std::string &page, const std::string &frames, const std::string &output)
+{
+    const std::string source = ReadText(page);
+    const QFileInfo file(QString::fromStdString(output));
+    const TechniqueRow &technique = TechniqueOf(file, source);
+    std::string text = source;
+    int which = 0;
+    for (std::size_t start = text.find('@'); start != std::string::npos; start = text.find('@')) {
+        const std::size_t end = text.find('@', start + 1);
+        const std::string name = text.substr(start + 1, end - start - 1);
+        const std::string frame = FrameOf(frames, name);
+        text.replace(start, end - start + 1,
+                     name == "level" ? LevelHtml(frame, technique)
+                                     : ExampleHtml(frame, source, ++which, technique, file));
+    }
     WriteText(output, text);
 }
 
@@ -289,11 +386,11 @@ int Run(std::span<char *> arguments)
         MakeReference(arguments[2], arguments[3]);
         return EXIT_SUCCESS;
     }
-    if (kind == "example" && arguments.size() == 6) {
-        MakeExamplePage(arguments[2], arguments[3], arguments[4], arguments[5]);
+    if (kind == "example" && arguments.size() == 5) {
+        MakeExamplePage(arguments[2], arguments[3], arguments[4]);
         return EXIT_SUCCESS;
     }
-    Fail("keyboard PAGE OUTPUT, reference PAGE OUTPUT, or example PAGE FRAME OUTPUT PICTURE");
+    Fail("keyboard PAGE OUTPUT, reference PAGE OUTPUT, or example PAGE FRAMES OUTPUT");
 }
 
 } // namespace

@@ -112,7 +112,7 @@ bool HelpBrowser::IsDark() const
 QVariant HelpBrowser::Picture(const QUrl &name) const
 {
     const QUrl form = IsDark() ? QUrl(DarkFormOf(name.toString())) : name;
-    QImage picture = QImage::fromData(engine.fileData(form));
+    QImage picture = QImage::fromData(engine.fileData(form)).convertToFormat(QImage::Format_RGB32);
     const double ratio = devicePixelRatioF();
     const double scale = ratio * (1 + zoom * PictureStep) / HelpPictureRatio;
     picture = picture.scaledToWidth(static_cast<int>(std::lround(picture.width() * scale)),
@@ -157,11 +157,6 @@ bool HelpBrowser::PrintOn(QPrinter &printer) const
 {
     print(&printer);
     return printer.printerState() != QPrinter::Error;
-}
-
-std::string HelpBrowser::Position() const
-{
-    return PositionOf(engine.fileData(source()).toStdString());
 }
 
 // ---- The window ------------------------------------------------------------------------------
@@ -327,8 +322,7 @@ QWidget *HelpWindow::BuildSearch()
 void HelpWindow::OpenLink(const QUrl &link)
 {
     if (link.scheme() == "copy") {
-        const std::string text = link.path().toStdString();
-        CopyPosition(text == "position" ? Browser->Position() : text);
+        CopyPosition(link.path().toStdString());
     } else {
         Browser->setSource(Browser->source().resolved(link));
     }
@@ -343,7 +337,7 @@ void HelpWindow::Print()
     }
 }
 
-// Of a link, what stands behind "copy:" is a game as one line, or the word for the page's position.
+// What stands behind "copy:" in a link is a position as one line.
 void HelpWindow::CopyPosition(const std::string &position)
 {
     SetClipboardText(position);

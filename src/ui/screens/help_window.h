@@ -30,9 +30,6 @@ public:
     // Prints the page on view, black on white. False when the device takes nothing.
     bool PrintOn(QPrinter &printer) const;
 
-    // The position that the page on view offers; empty when it offers none.
-    [[nodiscard]] std::string Position() const;
-
 protected:
     QVariant loadResource(int type, const QUrl &name) override;
     void paintEvent(QPaintEvent *event) override;

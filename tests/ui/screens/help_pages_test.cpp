@@ -1,8 +1,10 @@
 // What the pages of the help promise, held against the game.
 #include "commands/text_commands.h"
+#include "files/text_format.h"
 #include "game/alert_scan.h"
-#include "game/lifecycle.h"
 #include "grid/grid.h"
+#include "grid/rating_words.h"
+#include "help_example.h"
 #include "input/keys.h"
 #include "input/menu_table.h"
 #include "input/toolbar.h"
@@ -11,7 +13,6 @@
 #include "support/positions.h"
 #include "support/widget_program.h"
 #include "ui/screens/help_collection.h"
-#include "ui/screens/help_page.h"
 
 #include <QFile>
 #include <QHelpLink>
@@ -65,12 +66,21 @@ QString Project()
     return QString::fromUtf8(file.readAll());
 }
 
-// The words that the game gives on Grid in a stage of a hint.
-std::string HintOf(std::int32_t mode)
+// Words of a hint as the game shows them.
+std::string AsShown(const std::string &words)
 {
-    ClearCellBits(SelectedBit | HintCellBit | HintDomainBit | ScratchMarks);
-    ScanAlerts(mode);
-    return HintText;
+    return QString::fromStdString(words)
+        .replace(QStringLiteral("a 8"), QStringLiteral("an 8"))
+        .toStdString();
+}
+
+// Pastes a position of a page as a reader does, and takes it for a sound game.
+void Paste(const QString &page, int which)
+{
+    SetClipboardText(PositionOf(page.toStdString(), which));
+    mnuGameClipboard();
+    EXPECT_GE(GameRating, RatedEasy);
+    EXPECT_LE(GameRating, RatedExtreme) << "the position has one solution";
 }
 
 QString Word(std::string_view text)
@@ -109,12 +119,13 @@ QString KeyName(std::int32_t code)
 TEST_F(HelpPages, EveryLinkAndPictureLeadsSomewhere)
 {
     ASSERT_NE(Help, nullptr);
+    const Program program;
     int links = 0;
     for (const QString &file : Files()) {
         for (const QString &link : Captures(Page(file), "(?:href|src)=\"([^\"]*)\"")) {
             ++links;
             if (link.startsWith(QStringLiteral("copy:"))) {
-                EXPECT_TRUE(Captures(link, "^copy:([.1-9]{81}|position)$").size() == 1)
+                EXPECT_EQ(ReadPosition(QUrl(link).path().toStdString()), 81)
                     << file.toStdString() << " copies " << link.toStdString();
             } else {
                 EXPECT_FALSE(Help->Engine->fileData(UrlOf(link)).isEmpty())
@@ -186,37 +197,105 @@ TEST_F(HelpPages, EveryContextHasItsTopic)
     }
 }
 
-TEST_F(HelpPages, PastedPositionOfATechniquePageShowsThatTechnique)
+TEST_F(HelpPages, EveryTechniquePageOffersThreePositionsWithAPictureEach)
+{
+    ASSERT_NE(Help, nullptr);
+    const Program program;
+    for (const TechniqueRow &row : Techniques) {
+        const QString name = Word(row.HelpPage);
+        const QString page = Page(name + QStringLiteral(".html"));
+        const QStringList pictures{name + QStringLiteral(".png"), name + QStringLiteral("-2.png"),
+                                   name + QStringLiteral("-3.png")};
+        EXPECT_EQ(Captures(page, "src=\"([^\"]*)\""), pictures) << row.HelpPage;
+        const QStringList links = Captures(page, "href=\"copy:([^\"]*)\"");
+        ASSERT_EQ(links.size(), 3) << row.HelpPage;
+        for (int which = 1; which <= 3; ++which) {
+            ASSERT_EQ(ReadPosition(PositionOf(page.toStdString(), which)), 81) << row.HelpPage;
+            const GridTable position = Grid;
+            ReadPosition(QUrl::fromPercentEncoding(links[which - 1].toLatin1()).toStdString());
+            EXPECT_EQ(Grid, position) << row.HelpPage << ", link " << which;
+        }
+    }
+}
+
+TEST_F(HelpPages, ExamplesOfATechniqueShowItWhereNothingSimplerIsFound)
 {
     ASSERT_NE(Help, nullptr);
     for (const TechniqueRow &row : Techniques) {
-        const QString name = Word(row.HelpPage);
+        const QString page = Page(Word(row.HelpPage) + QStringLiteral(".html"));
+        for (int which = 1; which <= 2; ++which) {
+            SCOPED_TRACE(std::string(row.HelpPage) + ' ' + std::to_string(which));
+            const Program program;
+            Paste(page, which);
+            EXPECT_EQ(TechniqueOfHint(), row.Number);
+            for (const std::int32_t stage : which == 1 ? std::vector{3, 4, 5} : std::vector{5}) {
+                const std::string words = AsShown(HintWords(stage));
+                EXPECT_FALSE(words.empty());
+                EXPECT_TRUE(page.contains(QString::fromStdString(words))) << words;
+            }
+            EXPECT_TRUE(page.contains(QString::fromStdString("<b>" + HintTitle + "</b>")));
+            AlertMask = BitOf(row.Number);
+            ScanAlerts(1);
+            EXPECT_NE(CellsWith(AlertBit), "") << "alerts of the technique alone";
+        }
+    }
+}
+
+TEST_F(HelpPages, LookAlikesOfATechniqueGiveNothingButWouldMislead)
+{
+    ASSERT_NE(Help, nullptr);
+    for (const TechniqueRow &row : Techniques) {
         SCOPED_TRACE(row.HelpPage);
         const Program program;
-        const QString page = Page(name + QStringLiteral(".html"));
-        ASSERT_FALSE(page.isEmpty()) << "the technique has no page";
-        SetClipboardText(PositionOf(page.toStdString()));
-        mnuGameClipboard();
-        EXPECT_GE(GameRating, 1);
-        EXPECT_LE(GameRating, 5) << "the position has one solution";
-
-        const std::uint32_t alone = BitOf(row.Number);
-        AlertMask = alone;
+        const QString page = Page(Word(row.HelpPage) + QStringLiteral(".html"));
+        Paste(page, 3);
+        AlertMask = BitOf(row.Number);
         ScanAlerts(1);
-        EXPECT_NE(CellsWith(AlertBit), "") << "the technique finds nothing";
+        EXPECT_EQ(CellsWith(AlertBit), "");
+        HintBy(row.Number);
+        EXPECT_EQ(HintWords(3), "");
 
-        // The hint that the page tells is that of the technique, also among all the others.
-        const std::string full = HintOf(5);
-        const std::string title = HintTitle;
-        EXPECT_NE(full, "");
-        LevelTable.fill(0);
-        LevelTable[1] = alone;
-        EXPECT_EQ(HintOf(5), full);
-        EXPECT_EQ(HintTitle, title);
-        EXPECT_TRUE(page.contains(QString::fromStdString("<b>" + title + "</b>")));
-        const QStringList picture = Captures(page, "src=\"([^\"]*)\"");
-        ASSERT_EQ(picture.size(), 1);
-        EXPECT_EQ(picture.front().section(u'.', 0, 0), name);
+        const Supposition supposed =
+            SuppositionOf(PositionAttribute(page.toStdString(), 3, "title"));
+        ASSERT_NE(supposed.Number, 0);
+        const CellWord spoiler = WordAt(supposed.Where);
+        const bool wasThere = (spoiler & BitOf(supposed.Number)) != 0;
+        EXPECT_EQ(SolutionOf(spoiler) == BitOf(supposed.Number), wasThere);
+        Suppose(supposed);
+        ASSERT_NE(HintWords(5), "") << "what it would need is not enough";
+        const Cell target = SelectedCell();
+        const CellWord right = SolutionOf(WordAt(target));
+        Flag found = False;
+        for (const Operation operation : row.DriverApply) {
+            if (operation != nullptr && found == False) {
+                operation(0, found);
+            }
+        }
+        EXPECT_EQ(WordAt(target) & right, 0U) << "the conclusion is wrong";
+        for (const std::string &part :
+             {ShortName(supposed.Where), ShortName(target), std::to_string(LowestCandidate(right)),
+              std::to_string(supposed.Number)}) {
+            EXPECT_TRUE(
+                Captures(page, "alt=\"[^\"]*only looks like[^\"]*\"></div>([\\s\\S]*?)<a href")
+                    .join(QString())
+                    .contains(QString::fromStdString(part)))
+                << part;
+        }
+    }
+}
+
+TEST_F(HelpPages, TechniquePageTellsItsLevelAndItsRowOfTheLogicTab)
+{
+    ASSERT_NE(Help, nullptr);
+    for (const TechniqueRow &row : Techniques) {
+        const QString page = Page(Word(row.HelpPage) + QStringLiteral(".html")).simplified();
+        const QString level = Word(WordsOfRating(row.Level).Capital);
+        EXPECT_TRUE(page.contains(QStringLiteral("level is <b>%1</b>").arg(level)));
+        EXPECT_TRUE(
+            page.contains(QStringLiteral("its row is <b>%1</b>").arg(Word(row.Caption).trimmed())));
+        EXPECT_TRUE(Page(QStringLiteral("techniques.html"))
+                        .contains(QStringLiteral("</a></td><td>%1</td>").arg(level)))
+            << row.HelpPage;
     }
 }
 

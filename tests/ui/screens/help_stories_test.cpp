@@ -4,6 +4,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "input/toolbar.h"
+#include "logic/technique_table.h"
 #include "outside/help.h"
 #include "support/positions.h"
 #include "support/widget_events.h"
@@ -64,6 +65,23 @@ struct HelpStory : ::testing::Test {
         Click(Game.Main->Client->Board, CentreOf(column, row));
     }
 
+    // Selects the empty cells by the toolbar and gives them all pencilmarks.
+    void FillEmptyCells()
+    {
+        QPushButton *select = ToolButtonOf(*Game.Main, SelectButton);
+        for (int press = 0; press < 4 && select->text() != QStringLiteral("Select # of digits");
+             ++press) {
+            select->click();
+        }
+        EXPECT_EQ(select->text().toStdString(), "Select # of digits");
+        EXPECT_EQ(ToolButtonOf(*Game.Main, AllButton)->text().toStdString(), "0");
+        ToolButtonOf(*Game.Main, AllButton)->click();
+        Press(Qt::Key_0);
+    }
+
+    // Takes the whole hint and expects its stages, 1..3, on the page on view, from one of them on.
+    void ExpectHintOnView(std::size_t firstStage = 1);
+
     Program Game;
 };
 
@@ -84,6 +102,34 @@ QString WordsOnView()
 QString Statement(const std::string &box)
 {
     return QString::fromStdString(box.substr(0, box.find("\n\n"))).simplified();
+}
+
+// The techniques that the page on view wants ticked in a column of the Logic tab.
+std::uint32_t TicksOnView(const QString &column)
+{
+    const QString words =
+        QRegularExpression(QStringLiteral("tick ([^.:]*?) in the column ") + column)
+            .match(WordsOnView())
+            .captured(1);
+    std::uint32_t mask = 0;
+    for (const QString &caption : words.split(QStringLiteral(", "))) {
+        const auto row =
+            std::find_if(Techniques.begin(), Techniques.end(), [&](const TechniqueRow &one) {
+                return QString::fromStdString(std::string(one.Caption)).trimmed() == caption;
+            });
+        EXPECT_NE(row, Techniques.end()) << caption.toStdString();
+        mask |= row != Techniques.end() ? BitOf(row->Number) : 0;
+    }
+    return mask;
+}
+
+void HelpStory::ExpectHintOnView(std::size_t firstStage)
+{
+    const std::vector<std::string> hint = Press(Qt::Key_H, {}, WholeHint);
+    ASSERT_EQ(hint.size(), 3U);
+    for (std::size_t stage = firstStage; stage <= hint.size(); ++stage) {
+        EXPECT_TRUE(WordsOnView().contains(Statement(hint[stage - 1]))) << hint[stage - 1];
+    }
 }
 
 const QString WrongTurns = QStringLiteral("wrong-turns.html");
@@ -169,24 +215,72 @@ TEST_F(HelpStory, LessonOnPencilmarksLeadsFromNoHintToTheHintItTells)
     CopyAndPaste(QStringLiteral("lesson-pencilmarks.html"), 0);
     EXPECT_EQ(Press(Qt::Key_H, {}, {QMessageBox::Ok}),
               std::vector<std::string>{"There are no hints available now."});
-    QPushButton *select = ToolButtonOf(*Game.Main, SelectButton);
-    for (int press = 0; press < 4 && select->text() != QStringLiteral("Select # of digits");
-         ++press) {
-        select->click();
-    }
-    EXPECT_EQ(select->text().toStdString(), "Select # of digits");
-    EXPECT_EQ(ToolButtonOf(*Game.Main, AllButton)->text().toStdString(), "0");
-    ToolButtonOf(*Game.Main, AllButton)->click();
-    Press(Qt::Key_0);
+    FillEmptyCells();
     EXPECT_EQ(CountCandidates(2, 2), 1) << "the numbers that stand are left alone";
     EXPECT_EQ(CountCandidates(3, 1), 9);
     SolveMask = BitOf(1); // as the tick at Naked singles sets it
     Press(Qt::Key_L, Qt::ControlModifier);
-    const std::vector<std::string> hint = Press(Qt::Key_H, {}, WholeHint);
-    ASSERT_EQ(hint.size(), 3U);
-    for (const std::string &box : hint) {
-        EXPECT_TRUE(WordsOnView().contains(Statement(box))) << box;
+    ExpectHintOnView();
+}
+
+TEST_F(HelpStory, LessonsOfPatternsComeToTheHintThatTheyTell)
+{
+    for (const char *lesson : {"lesson-groups.html", "lesson-intersections.html",
+                               "lesson-fish.html", "lesson-wings.html", "lesson-chains.html"}) {
+        SCOPED_TRACE(lesson);
+        CopyAndPaste(QString::fromLatin1(lesson), 0);
+        FillEmptyCells();
+        SolveMask = TicksOnView(QStringLiteral("Solve"));
+        Press(Qt::Key_L, Qt::ControlModifier);
+        ExpectHintOnView();
     }
+}
+
+TEST_F(HelpStory, LessonOnAlertsRingsTheCellAndTellsWhy)
+{
+    CopyAndPaste(QStringLiteral("lesson-alerts.html"), 0);
+    FillEmptyCells();
+    SolveMask = TicksOnView(QStringLiteral("Solve"));
+    Press(Qt::Key_L, Qt::ControlModifier);
+    EXPECT_EQ(CellsWith(AlertBit), "");
+    AlertMask = TicksOnView(QStringLiteral("Alert"));
+    ScanAlerts(1);
+    const QString name = QRegularExpression(QStringLiteral("ring comes around ([A-J])([1-9])"))
+                             .match(WordsOnView())
+                             .captured(0)
+                             .last(2);
+    const int column = static_cast<int>(QStringLiteral("ABCDEFGHJ").indexOf(name[0])) + 1;
+    const int row = name[1].digitValue();
+    EXPECT_NE(CellsWith(AlertBit).find(name.toStdString()), std::string::npos);
+    Select(column, row);
+    const std::vector<std::string> reason = Press(Qt::Key_A, {}, {QMessageBox::Ok});
+    ASSERT_EQ(reason.size(), 1U);
+    EXPECT_TRUE(WordsOnView().contains(Statement(reason[0]))) << reason[0];
+}
+
+TEST_F(HelpStory, HardGameOfTheLastLessonIsSolvedByItsHints)
+{
+    CopyAndPaste(QStringLiteral("lesson-hard-game.html"), 0);
+    EXPECT_GE(GameRating, RatedHard);
+    FillEmptyCells();
+    SolveMask = TicksOnView(QStringLiteral("Solve"));
+    Press(Qt::Key_L, Qt::ControlModifier);
+    auto steps = QRegularExpression(QStringLiteral("Strike out (.*?), and press Ctrl"))
+                     .globalMatch(WordsOnView());
+    while (steps.hasNext()) {
+        ExpectHintOnView(3);
+        auto marks = QRegularExpression(QStringLiteral("the ([1-9]) in ([A-J])([1-9])"))
+                         .globalMatch(steps.next().captured(1));
+        while (marks.hasNext()) {
+            const QRegularExpressionMatch mark = marks.next();
+            const auto column = QStringLiteral("ABCDEFGHJ").indexOf(mark.captured(2)) + 1;
+            Select(static_cast<int>(column), mark.captured(3).toInt());
+            Press(static_cast<Qt::Key>(Qt::Key_0 + mark.captured(1).toInt()), Qt::ShiftModifier);
+        }
+        ASSERT_EQ(IsGridSolved(), False);
+        Press(Qt::Key_L, Qt::ControlModifier);
+    }
+    EXPECT_NE(IsGridSolved(), False);
 }
 
 } // namespace kelvarine::testing
