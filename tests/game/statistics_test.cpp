@@ -160,6 +160,14 @@ TEST_F(Statistics, TotalSumsUpAndWeighsTheAverages)
               (Texts{"", "5", "2", "0:01:40 ", "0:01:50 ", "40"}));
 }
 
+TEST_F(Statistics, BestTimeOfTheTotalIsTheLeastThatThereIs)
+{
+    StatisticsTable table{};
+    FillStatisticsTable(table, {{{0, 1, 0, 0}, {0, 1, 9, 9}, {0, 1, 1, 1}, {0, 1, 2, 2}}},
+                        PercentFormat::OneDecimal);
+    EXPECT_EQ(table[TotalRow][3], "0:00:01 ");
+}
+
 TEST_F(Statistics, AverageOfTheTotalIsRounded)
 {
     StatisticsTable table;

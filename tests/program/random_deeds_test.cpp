@@ -5,6 +5,7 @@
 #include "game/check_state.h"
 #include "game/clock.h"
 #include "game/lifecycle.h"
+#include "game/screens.h"
 #include "game/search.h"
 #include "game/win_display.h"
 #include "generator/generator.h"
@@ -247,6 +248,21 @@ TEST_F(StateCheck, TellsEachBrokenPromise)
              ChainColumns[1] = 10;
          },
          "the chain leaves its lists or the grid"},
+        {[] {
+             ChainColumns[0] = 81;
+             ChainColumns.fill(9);
+             ChainColumns[0] = 81;
+             ChainRows.fill(9);
+             ChainRows[81] = 0;
+         },
+         "the chain leaves its lists or the grid"},
+        {[] { ChainRows[0] = 10; }, "the chain leaves its lists or the grid"},
+        {[] { ChainRows[0] = -10; }, "the chain leaves its lists or the grid"},
+        {[] { CurrentTab = 10; }, "a counter is out of range"},
+        {[] { WinStage = 8; }, "a counter is out of range"},
+        {[] { SolutionCount = MostSolutionsListed + 2; }, "a counter is out of range"},
+        {[] { AnchorColumn = 10; }, "the pointer is neither on a cell nor on none"},
+        {[] { CursorColumn = -1; }, "the pointer is neither on a cell nor on none"},
         {[] { CursorRow = 10; }, "the pointer is neither on a cell nor on none"},
         {[] { AnchorRow = AnchorColumn == 0 ? 1 : 0; },
          "the pointer is neither on a cell nor on none"},
@@ -262,6 +278,31 @@ TEST_F(StateCheck, TellsEachBrokenPromise)
         fault.Break();
         EXPECT_EQ(CheckState(), fault.Told);
     }
+}
+
+TEST_F(StateCheck, BoundsOfEveryRangeAreSound)
+{
+    HistoryCount = OldestSlot;
+    HistoryPosition = OldestSlot;
+    GameRating = 7;
+    SolutionCount = MostSolutionsListed + 1;
+    CurrentTab = 9;
+    WinStage = 7;
+    ChainColumns.fill(9);
+    ChainColumns[0] = 81;
+    ChainRows.fill(9);
+    AnchorColumn = AnchorRow = CursorColumn = CursorRow = 9;
+    EXPECT_EQ(CheckState(), "");
+    HistoryCount = HistoryPosition = 0;
+    GameRating = SolutionCount = CurrentTab = WinStage = 0;
+    ChainColumns[0] = 0;
+    ChainRows[0] = -9;
+    AnchorColumn = AnchorRow = CursorColumn = CursorRow = 0;
+    EXPECT_EQ(CheckState(), "");
+    AnchorColumn = AnchorRow = CursorColumn = CursorRow = 1;
+    ChainColumns[0] = 1;
+    ChainColumns[1] = ChainRows[1] = 1;
+    EXPECT_EQ(CheckState(), "");
 }
 
 TEST_F(StateCheck, CellsOfAFileAreTakenAsTheyStand)
