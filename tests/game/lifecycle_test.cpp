@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace kelvarine::testing {
 namespace {
 
@@ -222,6 +224,13 @@ TEST_F(Lifecycle, NoTuneWithoutASelectedFile)
     SoundDisabled = True;
     UpdateStatistics();
     EXPECT_EQ(Acts(), Texts{});
+}
+
+TEST_F(Lifecycle, GameFromAFileBringsTheCaptionsOfItsClock)
+{
+    Seen.Calls.clear();
+    StartGame(GameFromFile);
+    EXPECT_EQ(std::ranges::count(Seen.Calls, "captions: "), 1);
 }
 
 TEST_F(Lifecycle, WinStopsTheRunningClock)
