@@ -1,5 +1,7 @@
 #include "ui/controls/focus_bar.h"
 
+#include "ui/controls/focus_frame.h"
+
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -41,15 +43,13 @@ FocusBar::FocusBar(QWidget *parent) : QScrollBar(Qt::Horizontal, parent)
 void FocusBar::paintEvent(QPaintEvent *event)
 {
     QScrollBar::paintEvent(event);
-    if (hasFocus()) {
-        QPainter painter(this);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
-    }
+    QPainter painter(this);
+    PaintFocus(*this, painter, rect());
 }
 
 void FocusBar::keyPressEvent(QKeyEvent *event)
 {
+    NoteKey(*this);
     const SliderAction action = ActionOf(event->key());
     if (action == SliderNoAction) {
         event->ignore();
@@ -61,13 +61,13 @@ void FocusBar::keyPressEvent(QKeyEvent *event)
 void FocusBar::focusInEvent(QFocusEvent *event)
 {
     QScrollBar::focusInEvent(event);
-    update();
+    NoteFocus(*this, *event);
 }
 
 void FocusBar::focusOutEvent(QFocusEvent *event)
 {
     QScrollBar::focusOutEvent(event);
-    update();
+    NoteFocus(*this, *event);
 }
 
 } // namespace kelvarine
