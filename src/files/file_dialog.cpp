@@ -175,6 +175,19 @@ std::optional<std::size_t> EntryBeginning(const std::vector<std::string> &entrie
     return std::nullopt;
 }
 
+std::string FolderMeant(std::string_view typed)
+{
+    const std::string_view name = WithoutOuterBlanks(typed);
+    const bool saysSo =
+        name == "~" || name == "." || name == ".." || name.ends_with('/') || name.ends_with("/..");
+    std::error_code failure;
+    if (!saysSo && (DialogCaption != OpenGameCaption ||
+                    std::filesystem::is_regular_file(PathFor(name), failure))) {
+        return {};
+    }
+    return TypedFolder(name, DialogFolder);
+}
+
 bool AcceptFileName(std::string_view typed)
 {
     const std::string name(WithoutOuterBlanks(typed));

@@ -64,6 +64,11 @@ bool IsListed(std::string_view name);
 std::optional<std::size_t> EntryBeginning(const std::vector<std::string> &entries,
                                           std::string_view typed);
 
+// The folder that OK leads to instead of taking a file: for "~", "." and "..", for a path to a
+// folder that ends with a slash, and when opening also for one without, unless there is a file that
+// the path names. Empty for everything else.
+std::string FolderMeant(std::string_view typed);
+
 // cmdOK with what stands in txtFileName: tells or asks what there is to tell or to ask. True, with
 // the paths set, when the dialog closes; else it stays.
 bool AcceptFileName(std::string_view typed);

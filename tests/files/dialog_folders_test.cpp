@@ -48,6 +48,22 @@ TEST_F(DialogFolders, PathToAFolderIsOneAndABareNameIsNot)
     }
 }
 
+TEST_F(DialogFolders, PathThatNamesAFileIsNoFolder)
+{
+    DialogFolder = Folder.Path();
+    DialogCaption = OpenGameCaption;
+    EXPECT_EQ(FolderMeant(Folder.Path("inner")), Folder.Path("inner/"));
+    DialogCaption = SaveGameCaption;
+    EXPECT_EQ(FolderMeant(Folder.Path("inner")), "") << "the game is saved as inner.sdk";
+    EXPECT_EQ(FolderMeant(Folder.Path("inner/")), Folder.Path("inner/"));
+    EXPECT_EQ(FolderMeant(".."),
+              std::filesystem::path(Folder.Path()).parent_path().parent_path().string() + "/");
+    Folder.Write("inner.sdk", "");
+    DialogCaption = OpenGameCaption;
+    EXPECT_EQ(FolderMeant(Folder.Path("inner")), "") << "inner.sdk is opened";
+    EXPECT_EQ(FolderMeant("inner"), "");
+}
+
 TEST_F(DialogFolders, FolderAboveTheRootIsTheRoot)
 {
     EXPECT_EQ(FolderAbove("/a/b/"), "/a/");

@@ -186,7 +186,9 @@ TEST_F(TechniqueList, EachHasAPageOfTheHelpWithAnExampleThatItWorksOn)
         SCOPED_TRACE(row.ReportName);
         const std::string page = PageOf(row);
         ASSERT_NE(page, "") << "no page " << row.HelpPage << ".html";
-        EXPECT_NE(page.find("@EXAMPLE@"), std::string::npos) << "no place for the picture";
+        for (const char *picture : {"@example@", "@far@", "@alike"}) {
+            EXPECT_NE(page.find(picture), std::string::npos) << "no place for " << picture;
+        }
         ASSERT_NE(ExampleOn(page), "") << "no example";
 
         SetExample(row);

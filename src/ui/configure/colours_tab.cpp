@@ -83,7 +83,10 @@ private:
     void TakeColour(Colour colour);
     void TakeTexture(int tile);
 
+    void ShowTextures();
+
     std::array<QScrollBar *, 3> bars{};
+    std::array<TextureTile *, Tiles> tiles{};
 };
 
 ColoursPanel::ColoursPanel(QWidget *parent) : QWidget(parent)
@@ -105,6 +108,7 @@ QLayout *ColoursPanel::MakeOptionColumn()
 {
     auto *grid = new QGridLayout;
     auto *group = new QButtonGroup(this);
+    QList<PressButton *> swatches;
     grid->setHorizontalSpacing(0);
     grid->setVerticalSpacing(5);
     grid->setColumnMinimumWidth(0, OptionWidth);
@@ -116,11 +120,15 @@ QLayout *ColoursPanel::MakeOptionColumn()
         option->setChecked(k == ColourIndex);
         group->addButton(option, row);
         auto *swatch = new ColourSwatch(this, k);
+        swatch->setToolTip("A press gives the chosen color the one that is seen here");
+        swatches.append(swatch);
         connect(swatch, &QAbstractButton::pressed, this, [this, k] { TakeColour(ColourTable[k]); });
         grid->addWidget(option, row, 0);
         grid->addWidget(swatch, row, 1);
         grid->setRowMinimumHeight(row, option->sizeHint().height() + 4);
     }
+    MakeOneStop(*group);
+    PressButton::MakeOneStop(swatches, 1);
     connect(group, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
         if (checked) {
             ColourIndex = static_cast<std::size_t>(id);
@@ -136,16 +144,18 @@ QLayout *ColoursPanel::MakePickers()
     column->setSpacing(0);
     column->addWidget(new PaletteView(this, [this](Colour colour) { TakeColour(colour); }));
     column->addSpacing(TilesBelowPalette);
-    auto *tiles = new QGridLayout;
-    tiles->setSpacing(0);
-    tiles->setContentsMargins(TilesIndent, 0, 0, 0);
+    auto *grid = new QGridLayout;
+    grid->setSpacing(0);
+    grid->setContentsMargins(TilesIndent, 0, 0, 0);
     for (int number = 0; number < Tiles; ++number) {
         auto *tile = new TextureTile(this, number);
         connect(tile, &QAbstractButton::pressed, this, [this, number] { TakeTexture(number); });
-        tiles->addWidget(tile, number / TileColumns, number % TileColumns);
+        grid->addWidget(tile, number / TileColumns, number % TileColumns);
+        tiles[static_cast<std::size_t>(number)] = tile;
     }
-    tiles->setColumnStretch(TileColumns, 1);
-    column->addLayout(tiles);
+    PressButton::MakeOneStop({tiles.begin(), tiles.end()}, TileColumns);
+    grid->setColumnStretch(TileColumns, 1);
+    column->addLayout(grid);
     column->addStretch();
     return column;
 }
@@ -178,7 +188,20 @@ void ColoursPanel::ShowColour()
     bars[0]->setValue(colour.red());
     bars[1]->setValue(colour.green());
     bars[2]->setValue(colour.blue());
+    ShowTextures();
     update();
+}
+
+// Only cells and lines have a texture.
+void ColoursPanel::ShowTextures()
+{
+    const std::int32_t *texture = TextureOf(ColourIndex);
+    for (std::size_t k = 0; k < tiles.size(); ++k) {
+        tiles[k]->setEnabled(texture != nullptr);
+        tiles[k]->ShowInForce(texture != nullptr && *texture == static_cast<std::int32_t>(k));
+        tiles[k]->setToolTip(texture != nullptr ? "Gives the chosen color this texture"
+                                                : "The chosen color takes no texture");
+    }
 }
 
 void ColoursPanel::TakeBars()
@@ -200,6 +223,7 @@ void ColoursPanel::TakeTexture(int tile)
 {
     if (ChangesCount()) {
         SetTexture(ColourIndex, tile);
+        ShowTextures();
         update();
     }
 }

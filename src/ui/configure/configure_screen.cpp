@@ -14,6 +14,7 @@
 #include "ui/configure/print_tab.h"
 #include "ui/configure/sound_tab.h"
 #include "ui/configure/tab_strip.h"
+#include "ui/configure/tips.h"
 #include "ui/controls/configure_controls.h"
 #include "ui/window/help_key.h"
 #include "ui/window/main_window.h"
@@ -21,10 +22,12 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -68,6 +71,13 @@ std::array<QString, TabCount> TabTexts()
     return texts;
 }
 
+std::array<char, TabCount> TabKeys()
+{
+    std::array<char, TabCount> keys{};
+    std::ranges::transform(TabRows, keys.begin(), &TabRow::AccessKey);
+    return keys;
+}
+
 // Events by which the player would change something.
 bool IsInput(QEvent::Type type)
 {
@@ -92,7 +102,7 @@ ConfigureScreen *OpenConfigureScreen()
 }
 
 ConfigureScreen::ConfigureScreen(QWidget *parent)
-    : QWidget(parent, Qt::Dialog), strip(new TabStrip(this, TabTexts(),
+    : QWidget(parent, Qt::Dialog), strip(new TabStrip(this, TabTexts(), TabKeys(),
                                                       [this](std::int32_t tab) {
                                                           CurrentTab = tab;
                                                           ShowTab();
@@ -128,6 +138,7 @@ ConfigureScreen::ConfigureScreen(QWidget *parent)
                    strip->Height() + LowestContainer);
     resize(minimumWidth(), strip->Height() + size.height());
     AddAccessKeys();
+    GiveTips(*this);
     qApp->installEventFilter(this);
     openScreen = this;
 }
@@ -239,6 +250,12 @@ void ConfigureScreen::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Escape:
         close();
         break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (CurrentTab == PrintTab && CurrentPanel() != nullptr) {
+            CurrentPanel()->findChild<QPushButton *>("cmdPrint")->click();
+        }
+        break;
     default:
         event->ignore();
     }
@@ -262,15 +279,36 @@ bool ConfigureScreen::focusNextPrevChild(bool next)
     return moved;
 }
 
-// While a search runs the settings stand still: nothing that the player does here is taken.
+// While a search runs the settings stand still: nothing that the player does here is taken. The
+// wheel moves a panel that does not fit, whatever lies under it.
 bool ConfigureScreen::eventFilter(QObject *watched, QEvent *event)
 {
-    if (!IsBusy() || !IsInput(event->type())) {
+    const bool wheel = event->type() == QEvent::Wheel;
+    if (!wheel && (!IsBusy() || !IsInput(event->type()))) {
         return false;
     }
-    const auto *widget = qobject_cast<const QWidget *>(watched);
-    // The button of a batch asks whether to stop it.
-    return widget != nullptr && widget->window() == this && widget->objectName() != "cmdPrint";
+    auto *widget = qobject_cast<QWidget *>(watched);
+    if (widget == nullptr || widget->window() != this) {
+        return false;
+    }
+    if (IsBusy()) {
+        // The button of a batch asks whether to stop it.
+        return widget->objectName() != "cmdPrint";
+    }
+    return widget != scrollBar && TakeWheel(*widget, static_cast<QWheelEvent &>(*event));
+}
+
+bool ConfigureScreen::TakeWheel(const QWidget &widget, QWheelEvent &event)
+{
+    if (!scrollBar->isVisible() || widget.hasFocus() || !container->isAncestorOf(&widget)) {
+        return false;
+    }
+    constexpr int notch = 120; // as the toolkit counts
+    wheelTurn += event.angleDelta().y() * scrollBar->singleStep();
+    scrollBar->setValue(scrollBar->value() - wheelTurn / notch);
+    wheelTurn %= notch;
+    event.accept(); // or what lies around the control would take it as well
+    return true;
 }
 
 void ShowConfigureScreen()

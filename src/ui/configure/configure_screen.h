@@ -43,12 +43,14 @@ protected:
 private:
     void AddAccessKeys();
     void ArrangePanels();
+    bool TakeWheel(const QWidget &widget, QWheelEvent &event);
 
     std::array<QWidget *, TabCount> panels{};
     TabStrip *strip;
     QWidget *container;    // picTabContainer: what is seen of a panel
     QScrollBar *scrollBar; // vsbTabContainer
     int helpContext = 0;
+    int wheelTurn = 0;         // what is left of turns of the wheel, in its units times a step
     bool switchingTab = false; // panels come and go, and the focus moves by itself
 };
 

@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QStyle>
 
 #include <array>
 #include <vector>
@@ -75,7 +76,7 @@ LogicPanel::LogicPanel(QWidget *parent)
     auto *rows = new QVBoxLayout(this);
     rows->setSpacing(6);
     grid->setVerticalSpacing(1);
-    grid->setHorizontalSpacing(6);
+    grid->setHorizontalSpacing(5);
     grid->setColumnStretch(AlertColumn, 1);
     rows->addLayout(grid);
     AddHeads();
@@ -92,8 +93,13 @@ LogicPanel::LogicPanel(QWidget *parent)
 
 void LogicPanel::AddHeads()
 {
+    // The head of the alerts stands over their boxes, which begin their column.
+    auto *alert = new QLabel("Alert", this);
+    const int box = style()->pixelMetric(QStyle::PM_IndicatorWidth);
+    alert->setIndent(std::max(0, (box - alert->fontMetrics().horizontalAdvance("Alert")) / 2));
     grid->addWidget(new QLabel("Solve", this), 0, SolveColumn, Qt::AlignHCenter);
-    grid->addWidget(new QLabel("Alert", this), 0, AlertColumn);
+    grid->addWidget(alert, 0, AlertColumn);
+    grid->addWidget(new QLabel("Level", this), 0, LevelColumn);
 }
 
 void LogicPanel::AddTechnique(const TechniqueRow &technique)
@@ -140,7 +146,7 @@ void LogicPanel::AddLimit(const TechniqueRow &technique)
     }
     auto *label = new QLabel("max # links:", this);
     label->setBuddy(box);
-    box->setFixedWidth(box->fontMetrics().horizontalAdvance("00000"));
+    box->setFixedWidth(box->fontMetrics().horizontalAdvance("0000"));
     box->setFixedHeight(box->fontMetrics().height() + 4);
     grid->addWidget(label, technique.Number, LimitCaptionColumn, Qt::AlignRight | Qt::AlignVCenter);
     grid->addWidget(box, technique.Number, LimitColumn);
@@ -153,7 +159,7 @@ void LogicPanel::AddFoot(QVBoxLayout *rows)
     policy.setRetainSizeWhenHidden(true);
     requireMessage->setSizePolicy(policy);
     requireMessage->setVisible(AnyRequired());
-    grid->addWidget(requireMessage, 0, LevelColumn);
+    grid->addWidget(requireMessage, 0, LimitCaptionColumn, 1, 2, Qt::AlignRight);
     // Room for a star in front of the longest word, so that the column never grows.
     LevelLabel longest(this, {});
     longest.setText(Text(RequiredMark) + Text(WordsOfRating(RatedVeryHard).Capital));

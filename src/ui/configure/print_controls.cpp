@@ -44,13 +44,18 @@ MeasureBox *AddMeasure(QFormLayout *form, const char *name, const char *caption,
         box->setModified(false);
         refresh();
     });
-    form->addRow(caption, box);
+    auto *line = new QHBoxLayout;
+    line->addWidget(box, 1);
+    line->addWidget(new QLabel("in", form->parentWidget()));
+    auto *label = new QLabel(caption, form->parentWidget());
+    label->setBuddy(box);
+    form->addRow(label, line);
     return box;
 }
 
 void MakePlaceFrame(PrintControls &on, QWidget *panel, const Refresh &refresh)
 {
-    on.PlaceFrame = Named(new QGroupBox(panel), "framePrintPlace", "Place and size");
+    on.PlaceFrame = Named(new QGroupBox("This game", panel), "framePrintPlace", "Place and size");
     auto *form = new QFormLayout(on.PlaceFrame);
     on.Left = AddMeasure(
         form, "txtPrintLeft", "Left", [](double inches) { PrintLeft = inches; }, refresh);
@@ -82,7 +87,7 @@ QStringList LayoutEntries()
 
 void MakeBatchFrame(PrintControls &on, QWidget *panel, const Refresh &refresh)
 {
-    on.BatchFrame = Named(new QGroupBox(panel), "framePrintBatch", "Batch");
+    on.BatchFrame = Named(new QGroupBox("Batch of new games", panel), "framePrintBatch", "Batch");
     auto *form = new QFormLayout(on.BatchFrame);
     on.GamesPerPageList = MakeList(on.BatchFrame, "cmbGamesPerPage", "Games per page",
                                    LayoutEntries(), PrintGamesPerPage, [refresh](int index) {

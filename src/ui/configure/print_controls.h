@@ -9,6 +9,7 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QRadioButton;
 class QWidget;
 
@@ -35,7 +36,7 @@ struct PrintControls {
     QCheckBox *Grey = nullptr;
     PrintPreview *Preview = nullptr;
     QLabel *Area = nullptr;
-    QWidget *Print = nullptr;
+    QPushButton *Print = nullptr;
 };
 
 // Makes the controls on a panel, in their places and in the order of the tabulator. After each

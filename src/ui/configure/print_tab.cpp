@@ -15,6 +15,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPointer>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScopedValueRollback>
 
@@ -95,6 +96,7 @@ void PrintPanel::Refresh()
     ShowMode(on);
     ShowPlaceAndSize(on);
     ShowBatch(on);
+    on.Print->setText(PrintRunning != False ? "Stop" : "Print");
     on.Area->setText(Text(PrintableAreaText(DecimalSign())));
     on.Preview->FitPage();
     on.Preview->update();

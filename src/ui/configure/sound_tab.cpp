@@ -19,6 +19,8 @@ namespace kelvarine {
 
 namespace {
 
+constexpr std::string_view VolumeTip = "How loud this sound is";
+
 constexpr BarSteps VolumeSteps{VolumeBarMost, 1, 20};
 
 // What one event has on the tab. A row without a list of files has one that stays empty.
@@ -122,6 +124,9 @@ void ShowVolumes(const QWidget &panel, bool readable)
     for (std::size_t k = 0; k < VolumeCount; ++k) {
         auto *bar = panel.findChild<QScrollBar *>(IndexedName("hsbVolume", static_cast<int>(k)));
         bar->setEnabled(readable);
+        const char *why = readable ? "" : "No sound device was found, so there is no volume to set";
+        bar->setAccessibleDescription(why);
+        bar->setToolTip(readable ? Text(VolumeTip) : Text(why));
         bar->setValue(readable ? VolumeBar(k) : 0);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "game/screens.h"
 #include "ui/configure/tab_strip_access.h"
+#include "ui/controls/focus_frame.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -17,7 +18,9 @@ namespace {
 constexpr int EdgeRoom = 2;  // kept free at the right end of the window
 constexpr int Corner = 3;    // cut off at the upper corners of a tab
 constexpr int LineRoom = 3;  // above and below a text
-constexpr int TextRoom = 12; // on both sides of it
+constexpr int TextRoom = 16; // on both sides of it, with letters that stand out
+constexpr int Accent = 3;    // height of the mark on the current tab
+constexpr int Shade = 112;   // of the tabs behind, in hundredths
 
 // The tab that an arrow key leads to, round the strip.
 int NeighbourOf(int tab, int key)
@@ -68,8 +71,8 @@ void DrawEdges(QPainter &painter, const QRect &place, const QPalette &colours)
 } // namespace
 
 TabStrip::TabStrip(QWidget *parent, std::array<QString, TabCount> texts,
-                   std::function<void(std::int32_t)> choose)
-    : QWidget(parent), tabTexts(std::move(texts)), chooseTab(std::move(choose))
+                   std::array<char, TabCount> keys, std::function<void(std::int32_t)> choose)
+    : QWidget(parent), tabTexts(std::move(texts)), accessKeys(keys), chooseTab(std::move(choose))
 {
     InstallTabStripAccess();
     setFocusPolicy(Qt::TabFocus);
@@ -79,6 +82,13 @@ TabStrip::TabStrip(QWidget *parent, std::array<QString, TabCount> texts,
 const QString &TabStrip::TextOfTab(int tab) const
 {
     return tabTexts[static_cast<std::size_t>(tab)];
+}
+
+QString TabStrip::MarkedText(int tab) const
+{
+    QString text = TextOfTab(tab);
+    const QChar key = accessKeys[static_cast<std::size_t>(tab)];
+    return text.insert(text.indexOf(key, 0, Qt::CaseInsensitive), u'&');
 }
 
 QRect TabStrip::PlaceOfTab(int tab) const
@@ -102,9 +112,12 @@ int TabStrip::Height() const
 
 int TabStrip::WidthForTexts() const
 {
+    QFont letters = font();
+    letters.setBold(true); // as the current tab's are
+    const QFontMetrics metrics(letters);
     int widest = 0;
     for (const QString &text : tabTexts) {
-        widest = std::max(widest, fontMetrics().horizontalAdvance(text));
+        widest = std::max(widest, metrics.horizontalAdvance(text));
     }
     return TabsInRow * (widest + TextRoom) + FirstTabLeft + RearRowShift + EdgeRoom;
 }
@@ -129,8 +142,7 @@ void TabStrip::ShowCurrent()
 void TabStrip::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
-    const QPalette colours = palette();
-    painter.setPen(EdgeColour(colours));
+    painter.setPen(EdgeColour(palette()));
     painter.drawLine(0, Height() - 1, width(), Height() - 1);
     // The rear row comes first, so that the front one covers its lower edge.
     for (const bool front : {false, true}) {
@@ -138,22 +150,46 @@ void TabStrip::paintEvent(QPaintEvent * /*event*/)
             if (IsInFront(tab, CurrentTab) != front) {
                 continue;
             }
-            const QRect place = PlaceOfTab(tab);
-            const bool current = tab == CurrentTab;
-            // The current tab has the panel's colour and no lower edge, the others lie in shade.
-            painter.fillRect(place.adjusted(1, 1, 0, current ? 0 : -1),
-                             current ? colours.window().color()
-                                     : colours.window().color().darker(106));
-            DrawEdges(painter, place, colours);
-            painter.setPen(colours.color(QPalette::WindowText));
-            painter.drawText(place.adjusted(0, 0, 0, front ? -2 : 0), Qt::AlignCenter,
-                             TextOfTab(tab));
-            if (current && hasFocus()) {
-                painter.setPen(QPen(colours.color(QPalette::Highlight), 2));
-                painter.drawRect(place.adjusted(6, 4, -5, -4));
-            }
+            PaintTab(painter, tab);
         }
     }
+}
+
+// The current tab has the panel's colour, a mark on its head and no lower edge; the others lie in
+// shade.
+void TabStrip::PaintTab(QPainter &painter, int tab) const
+{
+    const QPalette colours = palette();
+    const QRect place = PlaceOfTab(tab);
+    const bool front = IsInFront(tab, CurrentTab);
+    const bool current = tab == CurrentTab;
+    const QColor window = colours.color(QPalette::Window);
+    painter.fillRect(place.adjusted(1, 1, 0, current ? 0 : -1),
+                     current ? window : window.darker(Shade));
+    DrawEdges(painter, place, colours);
+    QFont letters = font();
+    letters.setBold(current);
+    painter.setFont(letters);
+    if (current) {
+        painter.fillRect(place.left() + Corner, place.top(), place.width() - 2 * Corner, Accent,
+                         colours.color(QPalette::Highlight));
+    }
+    painter.setPen(colours.color(QPalette::WindowText));
+    painter.drawText(place.adjusted(0, 0, 0, front ? -2 : 0),
+                     Qt::AlignCenter | Qt::TextShowMnemonic, MarkedText(tab));
+    if (current) {
+        PaintFocus(*this, painter, place.adjusted(6, Accent + 2, -6, -3));
+    }
+}
+
+void TabStrip::focusInEvent(QFocusEvent *event)
+{
+    NoteFocus(*this, *event);
+}
+
+void TabStrip::focusOutEvent(QFocusEvent *event)
+{
+    NoteFocus(*this, *event);
 }
 
 void TabStrip::mousePressEvent(QMouseEvent *event)
@@ -174,6 +210,7 @@ void TabStrip::keyPressEvent(QKeyEvent *event)
         event->ignore();
         return;
     }
+    NoteKey(*this);
     Choose(tab);
 }
 

@@ -15,8 +15,9 @@ class TabStrip : public QWidget {
     Q_OBJECT
 
 public:
-    // choose is called with the tab that a press or an arrow key asks for.
-    TabStrip(QWidget *parent, std::array<QString, TabCount> texts,
+    // choose is called with the tab that a press or an arrow key asks for. The letters that go to a
+    // tab with Alt are marked in its text.
+    TabStrip(QWidget *parent, std::array<QString, TabCount> texts, std::array<char, TabCount> keys,
              std::function<void(std::int32_t)> choose);
 
     [[nodiscard]] const QString &TextOfTab(int tab) const;
@@ -36,11 +37,16 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     [[nodiscard]] int RowHeight() const;
+    [[nodiscard]] QString MarkedText(int tab) const;
+    void PaintTab(QPainter &painter, int tab) const;
 
     std::array<QString, TabCount> tabTexts;
+    std::array<char, TabCount> accessKeys;
     std::function<void(std::int32_t)> chooseTab;
 };
 

@@ -1,8 +1,10 @@
 // The small painted buttons of the Colors tab: a swatch shows a colour of the board with its
-// texture, a tile shows a texture alone. A press of either works at once.
+// texture, a tile shows a texture alone. A press of either works at once. Those of a kind are one
+// stop of the Tab key, and arrows lead from one to the next.
 #pragma once
 
 #include <QAbstractButton>
+#include <QList>
 
 namespace kelvarine {
 
@@ -13,8 +15,20 @@ class PressButton : public QAbstractButton {
 public:
     using QAbstractButton::QAbstractButton;
 
+    // Makes these buttons, in rows of so many, one stop.
+    static void MakeOneStop(const QList<PressButton *> &buttons, int inRow);
+
 protected:
     void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    void GoTo(PressButton *next);
+
+    QList<PressButton *> fellows; // of the stop, itself among them
+    int fellowsInRow = 1;
 };
 
 class ColourSwatch : public PressButton {
@@ -36,11 +50,20 @@ class TextureTile : public PressButton {
 public:
     TextureTile(QWidget *parent, int tile); // 0..11
 
+    // Whether the texture is the one in force.
+    void ShowInForce(bool inForce);
+
+    [[nodiscard]] bool IsInForce() const
+    {
+        return inForce_;
+    }
+
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
     int tileNumber;
+    bool inForce_ = false;
 };
 
 } // namespace kelvarine

@@ -89,6 +89,20 @@ QLineEdit *MakeNumberBox(QWidget *parent, const QString &name, const QString &sp
     return box;
 }
 
+void MakeOneStop(QButtonGroup &group)
+{
+    const auto follow = [&group] {
+        const QList<QAbstractButton *> options = group.buttons();
+        const QAbstractButton *stop = group.checkedButton();
+        for (QAbstractButton *option : options) {
+            const bool isStop = option == (stop != nullptr ? stop : options.front());
+            option->setFocusPolicy(isStop ? Qt::StrongFocus : Qt::ClickFocus);
+        }
+    };
+    follow();
+    QObject::connect(&group, &QButtonGroup::idToggled, &group, follow);
+}
+
 QGroupBox *MakeOptions(QWidget *parent, std::string_view name, std::string_view frame,
                        std::span<const std::string_view> captions, std::int32_t current,
                        const std::function<void(std::int32_t)> &change)
@@ -105,6 +119,7 @@ QGroupBox *MakeOptions(QWidget *parent, std::string_view name, std::string_view 
         column->addWidget(option);
     }
     column->addStretch();
+    MakeOneStop(*group);
     QObject::connect(group, &QButtonGroup::idToggled, box, [change](int id, bool checked) {
         if (checked && ChangesCount()) {
             change(id);

@@ -77,6 +77,9 @@ QGroupBox *MakeOptions(QWidget *parent, std::string_view name, std::string_view 
                        std::span<const std::string_view> captions, std::int32_t current,
                        const std::function<void(std::int32_t)> &change);
 
+// Tab leads to the chosen one of a group of options, or to the first while there is none.
+void MakeOneStop(QButtonGroup &group);
+
 // A list of texts with one chosen, none for an index out of the list.
 QComboBox *MakeList(QWidget *parent, const QString &name, const QString &spoken,
                     const QStringList &entries, std::int32_t current,

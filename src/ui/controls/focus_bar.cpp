@@ -1,5 +1,8 @@
 #include "ui/controls/focus_bar.h"
 
+#include "ui/controls/focus_frame.h"
+
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -40,21 +43,31 @@ FocusBar::FocusBar(QWidget *parent) : QScrollBar(Qt::Horizontal, parent)
 void FocusBar::paintEvent(QPaintEvent *event)
 {
     QScrollBar::paintEvent(event);
-    if (hasFocus()) {
-        QPainter painter(this);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
-    }
+    QPainter painter(this);
+    PaintFocus(*this, painter, rect());
 }
 
 void FocusBar::keyPressEvent(QKeyEvent *event)
 {
+    NoteKey(*this);
     const SliderAction action = ActionOf(event->key());
     if (action == SliderNoAction) {
         event->ignore();
     } else {
         triggerAction(action);
     }
+}
+
+void FocusBar::focusInEvent(QFocusEvent *event)
+{
+    QScrollBar::focusInEvent(event);
+    NoteFocus(*this, *event);
+}
+
+void FocusBar::focusOutEvent(QFocusEvent *event)
+{
+    QScrollBar::focusOutEvent(event);
+    NoteFocus(*this, *event);
 }
 
 } // namespace kelvarine

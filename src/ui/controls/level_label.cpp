@@ -1,13 +1,39 @@
 #include "ui/controls/level_label.h"
 
+#include "ui/controls/focus_frame.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QStyleOption>
 
+#include <algorithm>
 #include <utility>
 
 namespace kelvarine {
+
+namespace {
+
+constexpr int ArrowSide = 7;
+constexpr int ArrowRoom = ArrowSide + 4; // at the right end
+
+bool OpensMenu(const QKeyEvent &event)
+{
+    switch (event.key()) {
+    case Qt::Key_Menu:
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return true;
+    case Qt::Key_F10:
+        return event.modifiers() == Qt::ShiftModifier;
+    default:
+        return false;
+    }
+}
+
+} // namespace
 
 LevelLabel::LevelLabel(QWidget *parent, std::function<void()> openMenu)
     : QLabel(parent), openLevels(std::move(openMenu))
@@ -15,7 +41,13 @@ LevelLabel::LevelLabel(QWidget *parent, std::function<void()> openMenu)
     setFocusPolicy(Qt::StrongFocus);
     // The press and the keys below are all that opens the menu.
     setContextMenuPolicy(Qt::PreventContextMenu);
-    setContentsMargins(3, 0, 3, 0);
+    setContentsMargins(3, 0, ArrowRoom, 0);
+}
+
+QSize LevelLabel::sizeHint() const
+{
+    const QSize text = QLabel::sizeHint();
+    return {text.width(), std::max(text.height(), fontMetrics().height() + 4)};
 }
 
 void LevelLabel::ShowOpen(bool open)
@@ -29,30 +61,61 @@ void LevelLabel::ShowOpen(bool open)
 
 void LevelLabel::mousePressEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::RightButton) {
+    if (event->button() == Qt::RightButton || event->button() == Qt::LeftButton) {
         openLevels();
     }
 }
 
 void LevelLabel::keyPressEvent(QKeyEvent *event)
 {
-    const bool shiftF10 = event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier;
-    if (event->key() == Qt::Key_Menu || shiftF10) {
+    NoteKey(*this);
+    if (OpensMenu(*event)) {
         openLevels();
     } else {
         QLabel::keyPressEvent(event);
     }
 }
 
+void LevelLabel::focusInEvent(QFocusEvent *event)
+{
+    QLabel::focusInEvent(event);
+    NoteFocus(*this, *event);
+}
+
+void LevelLabel::focusOutEvent(QFocusEvent *event)
+{
+    QLabel::focusOutEvent(event);
+    NoteFocus(*this, *event);
+}
+
 void LevelLabel::paintEvent(QPaintEvent *event)
 {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush(underMouse() ? palette().color(QPalette::Light)
+                                  : palette().color(QPalette::Button));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    QStyleOption arrow;
+    arrow.initFrom(this);
+    arrow.rect = QRect(width() - ArrowRoom + 2, (height() - ArrowSide) / 2, ArrowSide, ArrowSide);
+    style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter, this);
+    PaintFocus(*this, painter, rect());
+    painter.end();
     QLabel::paintEvent(event);
-    if (hasFocus()) {
-        QPainter painter(this);
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-    }
+}
+
+void LevelLabel::enterEvent(QEnterEvent *event)
+{
+    QLabel::enterEvent(event);
+    update();
+}
+
+void LevelLabel::leaveEvent(QEvent *event)
+{
+    QLabel::leaveEvent(event);
+    update();
 }
 
 } // namespace kelvarine

@@ -1,5 +1,6 @@
-// The difficulty of a technique on the Logic tab: a label from which a menu of levels is opened,
-// by a press of the right button, the menu key or Shift+F10.
+// The difficulty of a technique on the Logic tab: a label that looks like a flat button, from which
+// a menu of levels is opened, by a press of the left or the right button, Space, Enter, the menu
+// key or Shift+F10.
 #pragma once
 
 #include <QLabel>
@@ -17,9 +18,16 @@ public:
     // Red while the menu is open.
     void ShowOpen(bool open);
 
+    // With room for the arrow behind the text.
+    [[nodiscard]] QSize sizeHint() const override;
+
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

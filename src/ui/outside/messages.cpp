@@ -7,15 +7,21 @@
 #include "ui/window/front.h"
 #include "ui/window/main_window.h"
 
+#include <QGridLayout>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
 
+#include <algorithm>
 #include <optional>
 
 namespace kelvarine {
 
 namespace {
+
+constexpr int RoomInLine = 16;     // beside the text, pixels
+constexpr int RoomAroundLine = 60; // for the rest of the box and its frame
 
 // Boxes break lines as the toolkit does.
 QString BoxText(std::string_view text)
@@ -50,6 +56,32 @@ void MoveBesideBoard(QMessageBox &box)
     }
 }
 
+// The toolkit indents the text of a box as if there were an icon.
+void TakeIndentAway(const QMessageBox &box)
+{
+    auto *grid = qobject_cast<QGridLayout *>(box.layout());
+    for (int place = 0; place < grid->count(); ++place) {
+        if (grid->itemAt(place)->spacerItem() != nullptr) {
+            delete grid->takeAt(place);
+            break;
+        }
+    }
+    grid->setHorizontalSpacing(0);
+    grid->setColumnStretch(1, 1); // what the buttons need more is the text's
+}
+
+// A line of this many characters is read without scrolling; so long is a whole game.
+constexpr int CharactersInView = 81;
+
+// Gives the box for a text its width, as far as the screen has it.
+void WidenForText(QInputDialog &box)
+{
+    auto *line = box.findChild<QLineEdit *>();
+    const int wanted = line->fontMetrics().horizontalAdvance(QString(CharactersInView, u'0'));
+    const int room = Window()->screen()->availableGeometry().width();
+    line->setMinimumWidth(std::min(wanted + RoomInLine, room - RoomAroundLine));
+}
+
 QMessageBox::StandardButton RunBox(QMessageBox::Icon icon, const QString &text,
                                    std::string_view title, QMessageBox::StandardButtons buttons,
                                    QMessageBox::StandardButton defaultButton)
@@ -58,6 +90,9 @@ QMessageBox::StandardButton RunBox(QMessageBox::Icon icon, const QString &text,
     QMessageBox box(icon, BoxText(title.empty() ? ProgramName : title), text, buttons, asker);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(defaultButton);
+    if (icon == QMessageBox::NoIcon) {
+        TakeIndentAway(box);
+    }
     if (asker == Window()) {
         MoveBesideBoard(box);
     }
@@ -96,7 +131,9 @@ std::string AskText(std::string_view prompt)
 {
     QInputDialog box(AskingWindow());
     box.setWindowTitle(BoxText(ProgramName));
+    box.setInputMode(QInputDialog::TextInput);
     box.setLabelText(BoxText(prompt));
+    WidenForText(box);
     return RunDialog(box) == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }
 

@@ -1,8 +1,10 @@
-// The screen that tells name, version and licence of the program.
+// The screen that tells what the program is, its version, that of the toolkit, and at a button's
+// press the licence.
 #include "outside/messages.h"
 #include "outside/screens.h"
 #include "paint/text.h"
 #include "ui/window/front.h"
+#include "ui/window/program_icon.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -19,6 +21,9 @@ namespace kelvarine {
 namespace {
 
 constexpr QSize LicenceSize{460, 220};
+constexpr QSize IconSize{64, 64};
+constexpr int HeadGap = 16;
+constexpr int WordsGap = 8;
 
 // The licence without the line breaks inside its paragraphs, which the screen makes itself.
 QString LicenceText()
@@ -59,7 +64,49 @@ QPlainTextEdit *LicenceBox(QWidget *parent)
     box->setReadOnly(true);
     box->setTabChangesFocus(true);
     box->setMinimumSize(LicenceSize);
+    box->hide();
     return box;
+}
+
+QLabel *IconLabel(QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName("lblIcon");
+    label->setPixmap(ProgramIcon().pixmap(IconSize, parent->devicePixelRatioF()));
+    label->setAlignment(Qt::AlignTop);
+    return label;
+}
+
+// Name, what it is and the versions, one below the other.
+QLayout *MakeWords(QWidget *screen)
+{
+    auto *words = new QVBoxLayout;
+    auto *about = new QLabel("A sudoku player, solver and game maker", screen);
+    about->setObjectName("lblAbout");
+    auto *toolkit = new QLabel(Text("Qt ") + Text(qVersion()), screen);
+    toolkit->setObjectName("lblToolkit");
+    words->addWidget(NameLabel(screen));
+    words->addWidget(about);
+    words->addSpacing(WordsGap);
+    words->addWidget(VersionLabel(screen));
+    words->addWidget(toolkit);
+    words->addStretch();
+    return words;
+}
+
+QDialogButtonBox *MakeButtons(QDialog *screen, QWidget *licence)
+{
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, screen);
+    QPushButton *ok = buttons->button(QDialogButtonBox::Ok);
+    ok->setDefault(true);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, screen, &QDialog::accept);
+    auto *show = buttons->addButton("&Licence", QDialogButtonBox::ActionRole);
+    show->setObjectName("cmdLicence");
+    show->setCheckable(true);
+    show->setAutoDefault(false);
+    QObject::connect(show, &QPushButton::toggled, licence, &QWidget::setVisible);
+    ok->setFocus();
+    return buttons;
 }
 
 } // namespace
@@ -69,16 +116,16 @@ void ShowAboutScreen()
     QDialog screen(AskingWindow());
     screen.setObjectName("frmAbout");
     screen.setWindowTitle(QCoreApplication::translate("About", "About Kelvarine"));
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, &screen);
-    QPushButton *ok = buttons->button(QDialogButtonBox::Ok);
-    ok->setDefault(true);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &screen, &QDialog::accept);
     auto *layout = new QVBoxLayout(&screen);
-    layout->addWidget(NameLabel(&screen));
-    layout->addWidget(VersionLabel(&screen));
-    layout->addWidget(LicenceBox(&screen));
-    layout->addWidget(buttons);
-    ok->setFocus();
+    auto *head = new QHBoxLayout;
+    head->setSpacing(HeadGap);
+    head->addWidget(IconLabel(&screen));
+    head->addLayout(MakeWords(&screen), 1);
+    layout->addLayout(head);
+    QPlainTextEdit *licence = LicenceBox(&screen);
+    layout->addWidget(licence);
+    layout->addWidget(MakeButtons(&screen, licence));
+    layout->setSizeConstraint(QLayout::SetFixedSize);
     RunDialog(screen);
 }
 

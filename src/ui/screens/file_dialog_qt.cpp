@@ -5,7 +5,6 @@
 #include "game/screens.h"
 #include "outside/file_dialog.h"
 #include "outside/help.h"
-#include "outside/messages.h"
 #include "paint/text.h"
 #include "ui/screens/file_list.h"
 #include "ui/screens/file_names.h"
@@ -21,6 +20,7 @@
 #include <QComboBox>
 #include <QFile>
 #include <QGridLayout>
+#include <QInputDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
@@ -96,8 +96,7 @@ FileDialog::FileDialog(QWidget *parent, std::size_t fileType)
     : QDialog(parent), lblFolder(Named("lblFolder", new QLabel(this))),
       cmdParent(Named("cmdParent", new QToolButton(this))),
       cmdNewFolder(Named("cmdNewFolder", new QToolButton(this))),
-      lists(new QSplitter(Qt::Horizontal, this)), placesPart(nullptr),
-      drvDrive(Named("drvDrive", new PlaceList(this))),
+      lists(new QSplitter(Qt::Horizontal, this)), drvDrive(Named("drvDrive", new PlaceList(this))),
       dirDirectory(Named("dirDirectory", new FolderTree(this))),
       filFiles(Named("filFiles", new FileList(this))),
       picGame(Named("picGame", new GamePicture(this))),
@@ -321,7 +320,13 @@ void FileDialog::ParentWanted()
 
 void FileDialog::NewFolder()
 {
-    const std::string folder = MakeFolder(DialogFolder, AskText("Name of the new folder:"));
+    QInputDialog box(this);
+    box.setWindowTitle("New folder");
+    box.setLabelText("Name of the new folder:");
+    if (RunDialog(box) != QDialog::Accepted) {
+        return;
+    }
+    const std::string folder = MakeFolder(DialogFolder, NameBytes(box.textValue()));
     if (!folder.empty()) {
         dirDirectory->RefreshCurrent();
         GoTo(folder);
@@ -443,7 +448,7 @@ void FileDialog::DeleteSelected()
 void FileDialog::PressOk()
 {
     const std::string typed = NameBytes(txtFileName->text());
-    if (const std::string folder = TypedFolder(typed, DialogFolder); !folder.empty()) {
+    if (const std::string folder = FolderMeant(typed); !folder.empty()) {
         txtFileName->clear();
         if (AgreeToEnter(folder)) {
             GoTo(folder);

@@ -71,7 +71,7 @@ private:
     QToolButton *cmdParent;
     QToolButton *cmdNewFolder;
     QSplitter *lists;
-    QWidget *placesPart;
+    QWidget *placesPart = nullptr;
     PlaceList *drvDrive;
     FolderTree *dirDirectory;
     FileList *filFiles;

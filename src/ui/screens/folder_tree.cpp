@@ -120,18 +120,18 @@ void FolderTree::ShowFolder(const std::string &folder)
     }
     setCurrentItem(item);
     item->setExpanded(true);
-    BringIntoView(item);
+    BringIntoView(*item);
 }
 
 // In the middle, and with the beginning of its name however deep it lies.
-void FolderTree::BringIntoView(QTreeWidgetItem *item)
+void FolderTree::BringIntoView(QTreeWidgetItem &item)
 {
-    scrollToItem(item, PositionAtCenter);
-    int left = 0;
-    for (const QTreeWidgetItem *above = item; above != nullptr; above = above->parent()) {
+    scrollToItem(&item, PositionAtCenter);
+    int left = indentation();
+    for (const QTreeWidgetItem *above = item.parent(); above != nullptr; above = above->parent()) {
         left += indentation();
     }
-    const int words = 2 * indentation() + fontMetrics().horizontalAdvance(item->text(0));
+    const int words = 2 * indentation() + fontMetrics().horizontalAdvance(item.text(0));
     const bool fits = left + words <= viewport()->width();
     horizontalScrollBar()->setValue(fits ? 0 : left - indentation());
 }
@@ -167,7 +167,7 @@ void FolderTree::showEvent(QShowEvent *event)
 {
     QTreeWidget::showEvent(event);
     if (currentItem() != nullptr) {
-        BringIntoView(currentItem());
+        BringIntoView(*currentItem());
     }
 }
 

@@ -38,7 +38,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void BringIntoView(QTreeWidgetItem *item);
+    void BringIntoView(QTreeWidgetItem &item);
     void Read(QTreeWidgetItem *item) const;
     QTreeWidgetItem *Child(QTreeWidgetItem *parent, const std::string &name) const;
 

@@ -6,6 +6,7 @@
 #include "game/solutions.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
+#include "outside/clipboard.h"
 #include "outside/screens.h"
 #include "paint/text.h"
 #include "ui/window/main_window.h"
@@ -13,6 +14,7 @@
 
 #include <QButtonGroup>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -144,10 +146,22 @@ void SolutionsScreen::PlaceControls()
                  height() - BottomHeight, BottomHeight);
 }
 
+// Ctrl+C takes what is selected, and all where nothing is.
+bool SolutionsScreen::CopyAll(const QEvent &event) const
+{
+    if (event.type() != QEvent::KeyPress ||
+        !static_cast<const QKeyEvent &>(event).matches(QKeySequence::Copy) ||
+        txtSolutions->textCursor().hasSelection()) {
+        return false;
+    }
+    SetClipboardText(txtSolutions->toPlainText().toStdString());
+    return true;
+}
+
 bool SolutionsScreen::eventFilter(QObject *watched, QEvent *event)
 {
     if (SearchActive == False) {
-        return QDialog::eventFilter(watched, event);
+        return CopyAll(*event) || QDialog::eventFilter(watched, event);
     }
     switch (event->type()) {
     case QEvent::ShortcutOverride: // so that the key itself arrives here

@@ -35,6 +35,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    [[nodiscard]] bool CopyAll(const QEvent &event) const;
     void BuildText();
     void BuildFormats();
     void PlaceControls();

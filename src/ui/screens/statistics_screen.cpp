@@ -1,7 +1,9 @@
 #include "ui/screens/statistics_screen.h"
 
+#include "outside/clipboard.h"
 #include "outside/screens.h"
 #include "paint/text.h"
+#include "ui/screens/time_bar.h"
 #include "ui/window/main_window.h"
 #include "ui/window/placing.h"
 
@@ -9,9 +11,12 @@
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace kelvarine {
 
@@ -19,6 +24,9 @@ namespace {
 
 constexpr int ColumnGap = 24;
 constexpr int RowGap = 6;
+
+constexpr int BestColumn = 3; // the columns of times stand side by side
+constexpr int AverageColumn = BestColumn + 1;
 
 QPointer<StatisticsScreen> statisticsScreen;
 
@@ -53,10 +61,37 @@ Qt::Alignment AlignmentOf(std::size_t column)
 // so that all of them align.
 void LeaveRoomForBlank(QLabel &label, std::size_t column)
 {
-    const bool among = column == 3 || column == 4;
+    const bool among = column == BestColumn || column == AverageColumn;
     const bool has = label.text().endsWith(u' ');
     const int blank = label.fontMetrics().horizontalAdvance(u' ');
     label.setContentsMargins(0, 0, among && !has ? blank : 0, 0);
+}
+
+// Both tables as they are on view, columns parted by tabs.
+std::string TablesAsText()
+{
+    std::string text;
+    for (std::size_t table = 0; table < StatisticsLabels.size(); ++table) {
+        text += std::string(StatisticsTitles[table]) + "\n";
+        std::array<std::string, 7> lines;
+        for (std::size_t column = 0; column < StatisticsColumns.size(); ++column) {
+            if (!StatisticsColumns[column].Visible) {
+                continue;
+            }
+            const std::string tab = column == 0 ? "" : "\t";
+            lines[0] += tab + std::string(StatisticsColumns[column].Heading);
+            for (std::size_t row = 0; row <= TotalRow; ++row) {
+                const QString shown = Text(column == 0 ? StatisticsRowNames[row]
+                                                       : StatisticsLabels[table][row][column]);
+                lines[row + 1] += tab + shown.trimmed().toStdString();
+            }
+        }
+        for (const std::string &line : lines) {
+            text += line + "\n";
+        }
+        text += table == SessionTable ? "\n" : "";
+    }
+    return text;
 }
 
 void MakeBold(QLabel &label)
@@ -135,6 +170,26 @@ void StatisticsScreen::AddRow(QGridLayout &grid, std::size_t table, std::size_t 
         label->setVisible(StatisticsColumns[column].Visible);
         labels[table][row][column] = label;
     }
+    if (row != TotalRow) {
+        bars[table][row] = new TimeBar(this);
+        grid.addWidget(bars[table][row], static_cast<int>(row) + 1, BestColumn, 1, 2,
+                       Qt::AlignBottom);
+    }
+}
+
+// The bars of a table are as long as the longest average in it asks for.
+void StatisticsScreen::ShowBars(std::size_t table)
+{
+    const auto seconds = [&](std::size_t row, std::size_t column) {
+        return SecondsOf(Text(StatisticsLabels[table][row][column]));
+    };
+    int longest = 0;
+    for (std::size_t row = 0; row < TotalRow; ++row) {
+        longest = std::max(longest, seconds(row, AverageColumn));
+    }
+    for (std::size_t row = 0; row < TotalRow; ++row) {
+        bars[table][row]->ShowTimes(seconds(row, BestColumn), seconds(row, AverageColumn), longest);
+    }
 }
 
 void StatisticsScreen::Refresh()
@@ -148,6 +203,16 @@ void StatisticsScreen::Refresh()
                 LeaveRoomForBlank(label, column);
             }
         }
+        ShowBars(table);
+    }
+}
+
+void StatisticsScreen::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy)) {
+        SetClipboardText(TablesAsText());
+    } else {
+        QDialog::keyPressEvent(event);
     }
 }
 

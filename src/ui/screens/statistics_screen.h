@@ -11,6 +11,8 @@ class QLabel;
 
 namespace kelvarine {
 
+class TimeBar;
+
 class StatisticsScreen : public QDialog {
     Q_OBJECT
 
@@ -28,15 +30,18 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
 
 private:
     QWidget *BuildTable(std::size_t table);
     void AddHeadings(QGridLayout &grid);
     void AddRow(QGridLayout &grid, std::size_t table, std::size_t row);
+    void ShowBars(std::size_t table);
 
     QBoxLayout *tables;
     std::array<std::array<std::array<QLabel *, 6>, 6>, 2> labels{};
+    std::array<std::array<TimeBar *, TotalRow>, 2> bars{};
 };
 
 } // namespace kelvarine

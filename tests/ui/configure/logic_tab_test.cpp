@@ -304,10 +304,10 @@ TEST_F(LogicTabTest, MenuOpensByKeyboard)
     EXPECT_EQ(LevelShown(6), "Easy");
 }
 
-TEST_F(LogicTabTest, LeftPressOpensNoMenu)
+TEST_F(LogicTabTest, MiddlePressOpensNoMenu)
 {
     Open(LogicTab);
-    QTest::mouseClick(Find<QLabel>("lblDifficulty6"), Qt::LeftButton);
+    QTest::mouseClick(Find<QLabel>("lblDifficulty6"), Qt::MiddleButton);
     EXPECT_FALSE(Find<QMenu>("mnuRatings")->isVisible());
 }
 
