@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <functional>
@@ -171,9 +172,9 @@ public:
         } else if (call.Name == "fsync") {
             certain_ = names_.size(); // the folder, the only other thing that is flushed
         } else if (call.Name == "linkat") {
-            names_.push_back([call](auto &names) { names[call.To] = call.File; });
+            names_.emplace_back([call](auto &names) { names[call.To] = call.File; });
         } else if (call.Name == "renameat") {
-            names_.push_back([call](auto &names) {
+            names_.emplace_back([call](auto &names) {
                 names[call.To] = names[call.From];
                 names.erase(call.From);
             });

@@ -13,7 +13,6 @@ namespace kelvarine::testing {
 namespace {
 
 constexpr int Nobody = 65534;
-constexpr int NotPossible = 77;
 
 class Paths : public ::testing::Test {
 protected:

@@ -7,6 +7,7 @@
 #include "support/pixels.h"
 #include "support/positions.h"
 
+#include <array>
 #include <limits>
 
 namespace kelvarine::testing {
@@ -91,9 +92,9 @@ TEST_F(BoardPainting, PictureKeepsWhatFitsWhenItIsResized)
 // be seen in it.
 TEST_F(BoardPainting, NothingOfAnEarlierLayoutIsSeen)
 {
-    constexpr int Windows[][2] = {{700, 760}, {640, 700}, {560, 640}};
-    const auto layOut = [](const int(&window)[2]) {
-        LayoutBoard(window[0], window[1], 0);
+    constexpr std::array Windows{QSize(700, 760), QSize(640, 700), QSize(560, 640)};
+    const auto layOut = [](const QSize &window) {
+        LayoutBoard(window.width(), window.height(), 0);
         SetBoardPictureSize(BoardPlace.Width, BoardPlace.Height, 1);
         DrawBoard();
     };
@@ -109,7 +110,7 @@ TEST_F(BoardPainting, NothingOfAnEarlierLayoutIsSeen)
             for (const auto &earlier : Windows) {
                 layOut(earlier);
                 layOut(window);
-                EXPECT_EQ(BoardPicture(), fresh) << primary << " at " << window[0];
+                EXPECT_EQ(BoardPicture(), fresh) << primary << " at " << window.width();
             }
             SecondaryThickness = 0;
             layOut(window);

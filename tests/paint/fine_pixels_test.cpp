@@ -7,14 +7,15 @@
 #include "support/pixels.h"
 #include "support/positions.h"
 
+#include <array>
 #include <cmath>
 #include <set>
 
 namespace kelvarine::testing {
 namespace {
 
-constexpr double Fractions[] = {1.25, 1.5, 1.75, 2.25};
-constexpr double Finer[] = {1.25, 1.5, 1.75, 2.0, 2.25, 3.0};
+constexpr std::array Fractions{1.25, 1.5, 1.75, 2.25};
+constexpr std::array Finer{1.25, 1.5, 1.75, 2.0, 2.25, 3.0};
 
 constexpr Colour Rule = 0xFF00FF;
 constexpr Colour Ink = 0x00FFFF;
