@@ -23,7 +23,7 @@ namespace kelvarine {
 namespace {
 
 constexpr int ColumnGap = 24;
-constexpr int RowGap = 6;
+constexpr int RowGap = 8;
 
 constexpr int BestColumn = 3; // the columns of times stand side by side
 constexpr int AverageColumn = BestColumn + 1;
@@ -136,7 +136,7 @@ QWidget *StatisticsScreen::BuildTable(std::size_t table)
     auto *box = new QGroupBox(Text(StatisticsTitles[table]), this);
     auto *grid = new QGridLayout(box);
     grid->setHorizontalSpacing(ColumnGap);
-    grid->setVerticalSpacing(RowGap);
+    grid->setVerticalSpacing(0);
     AddHeadings(*grid);
     for (std::size_t row = 0; row < StatisticsRowNames.size(); ++row) {
         AddRow(*grid, table, row);
@@ -170,8 +170,9 @@ void StatisticsScreen::AddRow(QGridLayout &grid, std::size_t table, std::size_t 
         label->setVisible(StatisticsColumns[column].Visible);
         labels[table][row][column] = label;
     }
+    grid.setRowMinimumHeight(static_cast<int>(row) + 1, fontMetrics().height() + RowGap);
     if (row != TotalRow) {
-        bars[table][row] = new TimeBar(this);
+        bars[table][row] = new TimeBar(this); // in the gap below the times
         grid.addWidget(bars[table][row], static_cast<int>(row) + 1, BestColumn, 1, 2,
                        Qt::AlignBottom);
     }
