@@ -39,6 +39,9 @@ extern std::int32_t ToolMode;
 // How they do it, passed on as shiftStat: 0 replace, 1 take away, 2 add.
 extern std::int32_t ToolSign;
 
+// The button of a mode, one of the last three.
+std::int32_t ModeButton(std::int32_t mode);
+
 // Puts the toolbar to the state of a start.
 void SetToolbarDefaults();
 

@@ -4,6 +4,7 @@
 #include "game/search.h"
 #include "input/keys.h"
 #include "input/mouse.h"
+#include "input/told.h"
 #include "input/toolbar.h"
 #include "outside/events.h"
 #include "outside/window.h"
@@ -11,6 +12,7 @@
 #include "paint/device_axis.h"
 #include "ui/window/board_accessible.h"
 #include "ui/window/key_decoder.h"
+#include "ui/window/teller.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -124,6 +126,11 @@ void BoardWidget::TakeKeyRelease(const QKeyEvent &event)
     KeyUp(code);
 }
 
+bool BoardWidget::SignFollowsKey() const
+{
+    return modifierHeld;
+}
+
 void BoardWidget::TakeModifiers()
 {
     const std::int32_t held = ModifiersOf(QGuiApplication::queryKeyboardModifiers());
@@ -161,6 +168,9 @@ void BoardWidget::focusInEvent(QFocusEvent *event)
 {
     QWidget::focusInEvent(event);
     TakeModifiers();
+    // The toolkit names the table; where the player is in it comes afterwards.
+    TellPlaceAgain();
+    TellChanges();
 }
 
 void BoardWidget::focusOutEvent(QFocusEvent *event)

@@ -18,6 +18,9 @@ public:
     // The toolbar shows the sign of the modifiers that are down at this moment.
     void TakeModifiers();
 
+    // The sign that the toolbar shows is that of a modifier that is down.
+    [[nodiscard]] bool SignFollowsKey() const;
+
     // It shows no sign of a modifier any more: none is watched from now on.
     void LetModifiersGo();
 
