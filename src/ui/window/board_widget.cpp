@@ -18,6 +18,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTouchEvent>
 
 #include <utility>
 
@@ -38,7 +39,8 @@ bool IsTabulator(int key)
 
 } // namespace
 
-BoardWidget::BoardWidget(QWidget *parent) : QWidget(parent)
+BoardWidget::BoardWidget(QWidget *parent)
+    : QWidget(parent), touch(this, [this](const QPointF &place) { return PixelAt(place); })
 {
     DescribeBoardToTools(); // before anything asks for the description, because that is kept
     setFocusPolicy(Qt::StrongFocus);
@@ -102,7 +104,16 @@ bool BoardWidget::event(QEvent *event)
         !ReadyForCommand()) {
         return true;
     }
-    return QWidget::event(event);
+    switch (event->type()) {
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+        touch.Take(static_cast<QTouchEvent *>(event));
+        return true;
+    default:
+        return QWidget::event(event);
+    }
 }
 
 void BoardWidget::TakeKeyPress(QKeyEvent *event)

@@ -1,6 +1,8 @@
 // picBoard: the visible board. It shows the finished picture and hands mouse and keys on.
 #pragma once
 
+#include "ui/window/board_touch.h"
+
 #include <QWidget>
 
 namespace kelvarine {
@@ -39,6 +41,7 @@ private:
     // The pixel of the board that is painted at a place of the widget.
     [[nodiscard]] QPoint PixelAt(const QPointF &position) const;
 
+    BoardTouch touch;
     bool modifierHeld = false; // Shift or Ctrl went down and has not come up yet
 };
 

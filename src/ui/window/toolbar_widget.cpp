@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTouchEvent>
 
 #include <cmath>
 
@@ -176,10 +177,25 @@ void ToolButtonWidget::keyReleaseEvent(QKeyEvent * /*event*/)
 ToolbarWidget::ToolbarWidget(QWidget *parent) : QWidget(parent)
 {
     setObjectName("picToolbar");
+    setAttribute(Qt::WA_AcceptTouchEvents); // also those of its buttons
     setAutoFillBackground(true);
     for (std::size_t index = 0; index < ToolButtonCount; ++index) {
         buttons.push_back(new ToolButtonWidget(static_cast<std::int32_t>(index), this));
     }
+}
+
+bool ToolbarWidget::event(QEvent *event)
+{
+    if (event->type() == QEvent::TouchBegin) {
+        const QPoint place =
+            static_cast<QTouchEvent *>(event)->points().front().position().toPoint();
+        if (const std::optional<std::int32_t> tool = ToolUnderFinger(place.x(), place.y())) {
+            event->accept();
+            ToolPressed(*tool);
+            return true;
+        }
+    }
+    return QWidget::event(event);
 }
 
 void ToolbarWidget::Update()

@@ -61,6 +61,10 @@ public:
     // Shows all buttons as they are now.
     void Update();
 
+protected:
+    // A finger presses the button that it means, which may stand a little beside it.
+    bool event(QEvent *event) override;
+
 private:
     std::vector<ToolButtonWidget *> buttons;
 };
