@@ -1,6 +1,6 @@
 // What the player waits for in the windows: the opening of the configuration screen on each tab and
-// of the file dialog, a step of dragging a colour, all alerts at a click, a page of games on paper,
-// and the start of a sound. Every iteration ends with the event loop at rest.
+// of the file dialog, a step of dragging a colour, all alerts at a click, keys on the board, a page
+// of games on paper, and the start of a sound. Every iteration ends with the event loop at rest.
 #include "commands/screen_commands.h"
 #include "files/file_dialog.h"
 #include "game/lifecycle.h"
@@ -14,10 +14,14 @@
 #include "ui/configure/configure_screen.h"
 #include "ui/outside/printer_qt.h"
 #include "ui/screens/file_dialog_qt.h"
+#include "ui/window/board_widget.h"
 #include "ui/window/main_window.h"
+#include "ui/window/tools_listen.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
@@ -134,6 +138,28 @@ void StartAndStopSound(benchmark::State &state)
     }
 }
 
+// A step and an entry on the board; with an argument other than 0 a tool listens to it.
+void PressKeys(benchmark::State &state)
+{
+    const Session session(ColoursTab);
+    ToolsListen(); // from here on the program learns what follows
+    QAccessible::setActive(state.range(0) != 0);
+    BoardWidget *board = Window()->Client->Board;
+    const auto press = [board](Qt::Key key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(board, &event);
+        QCoreApplication::processEvents();
+    };
+    bool odd = false;
+    for ([[maybe_unused]] auto _ : state) {
+        press(Qt::Key_Right);
+        odd = !odd;
+        press(odd ? Qt::Key_1 : Qt::Key_2);
+    }
+    QAccessible::setActive(false);
+}
+
+BENCHMARK(PressKeys)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(OpenSettings)->DenseRange(0, TabCount - 1)->Unit(benchmark::kMillisecond);
 BENCHMARK(OpenFileDialog)->Arg(100)->Arg(10000)->Unit(benchmark::kMillisecond);
 BENCHMARK(DragColour)->Unit(benchmark::kMillisecond);

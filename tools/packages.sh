@@ -14,6 +14,7 @@ TEST_PACKAGES=(
     poppler-utils
     python3 python3-pil python3-xlib xclip x11-xkb-utils x11-xserver-utils
     strace weston qt6-wayland libsm-dev
+    python3-pyatspi at-spi2-core dbus-daemon
 )
 # What is needed beyond the tests by those who change the program.
 CHECK_PACKAGES=(clang-format clang-tidy)

@@ -237,6 +237,11 @@ void ShowSign(std::int32_t sign)
 
 } // namespace
 
+std::int32_t ModeButton(std::int32_t mode)
+{
+    return LookOf(mode).Button;
+}
+
 void SetToolbarDefaults()
 {
     ToolButtons = {};
@@ -320,6 +325,25 @@ void LayoutToolbar(int width)
         const int above = (index - SelectButton) * 4;
         Button(index).Place = {Button(above).Place.X, 32, 4 * button + 3 * gap, 18};
     }
+}
+
+std::optional<std::int32_t> ToolUnderFinger(int x, int y)
+{
+    constexpr int secondRow = 30; // pixels from the top
+    const bool modes = y >= secondRow;
+    const std::int32_t first = modes ? SelectButton : EscapeButton;
+    const std::int32_t last = modes ? ViewButton : SignButton;
+    const Rectangle &end = Button(last).Place;
+    if (y < 0 || y >= ToolbarHeight || x < Button(first).Place.X || x >= end.X + end.Width) {
+        return std::nullopt;
+    }
+    for (std::int32_t index = first; index < last; ++index) {
+        const Rectangle &place = Button(index).Place;
+        if (2 * x < place.X + place.Width + Button(index + 1).Place.X) {
+            return index;
+        }
+    }
+    return last;
 }
 
 void SlideToolbar(int px, int width)

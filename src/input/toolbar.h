@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace kelvarine {
@@ -39,6 +40,9 @@ extern std::int32_t ToolMode;
 // How they do it, passed on as shiftStat: 0 replace, 1 take away, 2 add.
 extern std::int32_t ToolSign;
 
+// The button of a mode, one of the last three.
+std::int32_t ModeButton(std::int32_t mode);
+
 // Puts the toolbar to the state of a start.
 void SetToolbarDefaults();
 
@@ -60,6 +64,11 @@ void ShowPlainSign();
 
 // Places the buttons in a toolbar of a width, in pixels.
 void LayoutToolbar(int width);
+
+// The button that a finger at a point of the toolbar means: each row of them reaches to the middle
+// between the rows and to the toolbar's edge, so that none is lower than 24 pixels, and the gap
+// between two belongs to the nearer one. Nothing beside the rows.
+std::optional<std::int32_t> ToolUnderFinger(int x, int y);
 
 // The pointer moves over a button, px pixels from the left of a toolbar of a width: at its ends a
 // row that sticks out slides.

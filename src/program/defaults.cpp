@@ -20,6 +20,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "input/mouse.h"
+#include "input/told.h"
 #include "input/toolbar.h"
 #include "logic/driver.h"
 #include "logic/technique_table.h"
@@ -46,6 +47,7 @@ void SetDefaults()
     SetMarginDefaults();
     SetMouseDefaults();
     SetToolbarDefaults();
+    SetToldDefaults();
     SetScreenDefaults();
     SetStatisticsDefaults();
     SetSolutionsDefaults();

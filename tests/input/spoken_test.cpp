@@ -1,8 +1,11 @@
+#include "board/look.h"
 #include "game/clock.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
-#include "input/mouse.h"
+#include "input/number_keys.h"
+#include "input/selection.h"
 #include "input/spoken.h"
+#include "input/toolbar.h"
 #include "support/outside_double.h"
 #include "support/play.h"
 
@@ -20,31 +23,97 @@ protected:
     }
 };
 
-TEST_F(Spoken, CellTellsNameNumbersAndMarks)
+TEST_F(Spoken, CellTellsNumbersAndThenItsMarks)
 {
-    EXPECT_EQ(SpokenCell({1, 1}), "[A1]: 5, given");
+    EXPECT_EQ(SpokenCell({1, 1}), "5, given");
     Grid[3][1] = BitTable[2] | BitTable[7];
-    EXPECT_EQ(SpokenCell({3, 1}), "[C1]: pencilmarks 2 7");
+    EXPECT_EQ(SpokenCell({3, 1}), "pencilmarks 2 7");
     Grid[3][1] = BitTable[7] | AlertBit;
-    EXPECT_EQ(SpokenCell({3, 1}), "[C1]: 7, alert");
+    EXPECT_EQ(SpokenCell({3, 1}), "7, alert");
     Grid[3][1] = 0;
-    EXPECT_EQ(SpokenCell({3, 1}), "[C1]: empty");
+    EXPECT_EQ(SpokenCell({3, 1}), "empty");
+    HighlightColours[4] = Rgb(250, 10, 10);
+    Grid[3][1] =
+        BitTable[7] | GivenBit | AlertBit | HintCellBit | HintDomainBit | 4U << ColourShift;
+    EXPECT_EQ(SpokenCell({3, 1}), "7, given, red, alert, hint");
+    Grid[3][1] = HintDomainBit;
+    EXPECT_EQ(SpokenCell({3, 1}), "empty, hint area");
+}
+
+TEST_F(Spoken, FrozenHintMarksAreNoColours)
+{
+    Grid[3][1] = 10U << ColourShift;
+    EXPECT_EQ(SpokenCell({3, 1}), "empty, frozen hint");
+    Grid[3][1] = 11U << ColourShift;
+    EXPECT_EQ(SpokenCell({3, 1}), "empty, frozen hint area");
+    Grid[3][1] = 12U << ColourShift;
+    EXPECT_EQ(SpokenCell({3, 1}), "empty");
 }
 
 TEST_F(Spoken, NumbersOutOfViewAreNotTold)
 {
     Grid[3][1] = BitTable[2] | BitTable[7];
     NumberFilter = BitTable[7];
-    EXPECT_EQ(SpokenCell({3, 1}), "[C1]: pencilmarks 7");
+    EXPECT_EQ(SpokenCell({3, 1}), "pencilmarks 7");
     NumberFilter = BitTable[3];
-    EXPECT_EQ(SpokenCell({3, 1}), "[C1]: nothing in view");
+    EXPECT_EQ(SpokenCell({3, 1}), "nothing in view");
 }
 
 TEST_F(Spoken, PausedGameKeepsItsNumbers)
 {
     ResetSolveTime();
     mnuPauseTime();
-    EXPECT_EQ(SpokenCell({1, 1}), "[A1]: hidden while the clock is paused, given");
+    EXPECT_EQ(SpokenCell({1, 1}), "hidden while the clock is paused, given");
+}
+
+TEST_F(Spoken, PlaceOfACellIsToldInFull)
+{
+    EXPECT_EQ(SpokenWhere({1, 3}), "[A3], row 3 of 9, column 1 of 9, upper-left box");
+    EXPECT_EQ(SpokenWhere({9, 5}), "[J5], row 5 of 9, column 9 of 9, center-right box");
+}
+
+TEST_F(Spoken, SelectionIsToldByItsHouse)
+{
+    EXPECT_EQ(SpokenSelection(), "no cells selected");
+    WordAt({2, 2}) |= SelectedBit;
+    EXPECT_EQ(SpokenSelection(), "[B2] selected");
+    mnuSelectRow();
+    EXPECT_EQ(SpokenSelection(), "9 cells selected, row 2");
+    WordAt({2, 2}) &= ~SelectedBit;
+    EXPECT_EQ(SpokenSelection(), "8 cells selected");
+    WordAt({1, 1}) |= SelectedBit;
+    EXPECT_EQ(SpokenSelection(), "9 cells selected");
+    ClearCellBits(SelectedBit);
+    WordAt({8, 8}) |= SelectedBit;
+    mnuSelectBox();
+    EXPECT_EQ(SpokenSelection(), "9 cells selected, the lower-right box");
+    mnuSelectWholeGrid();
+    EXPECT_EQ(SpokenSelection(), "81 cells selected");
+}
+
+TEST_F(Spoken, ToolsKeepTheirNamesWhateverTheSign)
+{
+    for (const std::int32_t sign : {Replace, TakeAway, Add}) {
+        ToolSign = sign;
+        EXPECT_EQ(SpokenTool(EscapeButton), "Esc");
+        EXPECT_EQ(SpokenTool(3), "3");
+        EXPECT_EQ(SpokenTool(AllButton), "All");
+    }
+    EXPECT_EQ(SpokenTool(SignButton), "+/- add");
+    EXPECT_EQ(SpokenToolUse(3), "Add #3 to selected cells");
+    EXPECT_EQ(SpokenToolUse(EditButton), "what the numbers do now");
+    EXPECT_EQ(SpokenToolUse(ViewButton), "");
+}
+
+TEST_F(Spoken, ToolsOfTheHighlightModeTellTheirColours)
+{
+    HighlightColours[3] = Rgb(0, 250, 250);
+    ProcessToolbar(EditButton);
+    EXPECT_EQ(SpokenTool(3), "3");
+    EXPECT_EQ(SpokenToolUse(3), "Highlight selected cells with this color: cyan");
+    EXPECT_EQ(SpokenTool(AllButton), "Clr");
+    EXPECT_EQ(SpokenTool(SignButton), "Frz");
+    EXPECT_EQ(SpokenTool(EditButton), "Highlight");
 }
 
 TEST_F(Spoken, PlaceIsTheCursorOrTheOnlySelectedCell)
@@ -57,20 +126,6 @@ TEST_F(Spoken, PlaceIsTheCursorOrTheOnlySelectedCell)
     CursorColumn = 2;
     CursorRow = 8;
     EXPECT_EQ(SpokenPlace(), (Cell{2, 8}));
-}
-
-TEST_F(Spoken, StepsAndEntriesAreToldOnce)
-{
-    NextSpokenChange();
-    StepSelection(Arrow::Down, 0);
-    EXPECT_EQ(NextSpokenChange(), SpokenChange::Place);
-    EXPECT_EQ(NextSpokenChange(), SpokenChange::None);
-    WordAt(*SpokenPlace()) ^= BitTable[6];
-    EXPECT_EQ(NextSpokenChange(), SpokenChange::Text);
-    EXPECT_EQ(NextSpokenChange(), SpokenChange::None);
-    ClearPointerState();
-    ClearCellBits(SelectedBit);
-    EXPECT_EQ(NextSpokenChange(), SpokenChange::None);
 }
 
 } // namespace

@@ -416,5 +416,42 @@ TEST_F(Toolbar, PressDuringASearchOnlyAsks)
     }
 }
 
+TEST_F(Toolbar, FingerMeansTheNearestButton)
+{
+    LayoutToolbar(758);
+    for (std::int32_t index = EscapeButton; index <= ViewButton; ++index) {
+        const Rectangle &place = ToolButtons[static_cast<std::size_t>(index)].Place;
+        for (const int x : {place.X, place.X + place.Width - 1}) {
+            for (const int y : {place.Y, place.Y + place.Height - 1}) {
+                EXPECT_EQ(ToolUnderFinger(x, y), index);
+            }
+        }
+    }
+    const Rectangle &one = ToolButtons[1].Place;
+    EXPECT_EQ(ToolUnderFinger(one.X - 1, 10), 1);
+    EXPECT_EQ(ToolUnderFinger(one.X - 5, 10), 0);
+    EXPECT_EQ(ToolUnderFinger(0, 10), std::nullopt) << "beside the row";
+    EXPECT_EQ(ToolUnderFinger(757, 40), std::nullopt);
+    EXPECT_EQ(ToolUnderFinger(one.X, -1), std::nullopt);
+    EXPECT_EQ(ToolUnderFinger(one.X, ToolbarHeight), std::nullopt);
+}
+
+TEST_F(Toolbar, NoButtonIsTooLowForAFinger)
+{
+    constexpr int enough = 24;
+    for (const int width : {760, 500, 300}) {
+        LayoutToolbar(width);
+        for (std::int32_t index = EscapeButton; index <= ViewButton; ++index) {
+            const Rectangle &place = ToolButtons[static_cast<std::size_t>(index)].Place;
+            int hits = 0;
+            for (int y = 0; y < ToolbarHeight; ++y) {
+                hits += ToolUnderFinger(place.X + place.Width / 2, y) == index ? 1 : 0;
+            }
+            EXPECT_GE(hits, enough) << index;
+            EXPECT_GE(place.Width, enough) << index;
+        }
+    }
+}
+
 } // namespace
 } // namespace kelvarine::testing

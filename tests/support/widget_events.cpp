@@ -42,9 +42,9 @@ QPoint PlaceOf(int column, int row, int number)
             CellY(row) + CellHeight * (2 * ((number - 1) / 3) + 1) / 6};
 }
 
-QPushButton *ToolButtonOf(const MainWindow &window, int index)
+ToolButtonWidget *ToolButtonOf(const MainWindow &window, int index)
 {
-    return window.findChild<QPushButton *>(QStringLiteral("cmdTool%1").arg(index));
+    return window.findChild<ToolButtonWidget *>(QStringLiteral("cmdTool%1").arg(index));
 }
 
 std::vector<std::string> CloseModals(const std::function<void()> &action)

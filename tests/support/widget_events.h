@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/window/main_window.h"
+#include "ui/window/toolbar_widget.h"
 
 #include <QEvent>
 #include <QPoint>
@@ -9,8 +10,6 @@
 #include <functional>
 #include <string>
 #include <vector>
-
-class QPushButton;
 
 namespace kelvarine::testing {
 
@@ -30,7 +29,7 @@ QPoint CentreOf(int column, int row);
 QPoint PlaceOf(int column, int row, int number);
 
 // Button of the toolbar by its index.
-QPushButton *ToolButtonOf(const MainWindow &window, int index);
+ToolButtonWidget *ToolButtonOf(const MainWindow &window, int index);
 
 // Runs an action, closes every modal window that it opens as Escape would, and tells them in
 // turn: a box as "title: text", any other as its title.

@@ -2,6 +2,7 @@
 
 #include "game/screens.h"
 #include "ui/configure/tab_strip.h"
+#include "ui/window/part_accessible.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -13,7 +14,7 @@ namespace kelvarine {
 
 namespace {
 
-class TabAccess : public QAccessibleInterface, public QAccessibleActionInterface {
+class TabAccess : public PartAccessible, public QAccessibleActionInterface {
 public:
     TabAccess(TabStrip *tabStrip, int tabNumber) : strip(tabStrip), tab(tabNumber)
     {
@@ -23,36 +24,13 @@ public:
     {
         return true;
     }
-    [[nodiscard]] QObject *object() const override
-    {
-        return nullptr;
-    }
-    [[nodiscard]] QAccessibleInterface *childAt(int /*x*/, int /*y*/) const override
-    {
-        return nullptr;
-    }
     [[nodiscard]] QAccessibleInterface *parent() const override
     {
         return QAccessible::queryAccessibleInterface(strip);
     }
-    [[nodiscard]] QAccessibleInterface *child(int /*index*/) const override
-    {
-        return nullptr;
-    }
-    [[nodiscard]] int childCount() const override
-    {
-        return 0;
-    }
-    int indexOfChild(const QAccessibleInterface * /*child*/) const override
-    {
-        return -1;
-    }
     [[nodiscard]] QString text(QAccessible::Text kind) const override
     {
         return kind == QAccessible::Name ? strip->TextOfTab(tab) : QString();
-    }
-    void setText(QAccessible::Text /*kind*/, const QString & /*text*/) override
-    {
     }
     [[nodiscard]] QRect rect() const override
     {

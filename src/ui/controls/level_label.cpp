@@ -42,6 +42,7 @@ LevelLabel::LevelLabel(QWidget *parent, std::function<void()> openMenu)
     // The press and the keys below are all that opens the menu.
     setContextMenuPolicy(Qt::PreventContextMenu);
     setContentsMargins(3, 0, ArrowRoom, 0);
+    setAccessibleDescription("The menu key or Shift+F10 opens the levels");
 }
 
 QSize LevelLabel::sizeHint() const

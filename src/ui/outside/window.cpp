@@ -5,10 +5,10 @@
 #include "paint/board_painter.h"
 #include "paint/text.h"
 #include "ui/configure/print_tab.h"
-#include "ui/window/board_accessible.h"
 #include "ui/window/board_widget.h"
 #include "ui/window/front.h"
 #include "ui/window/main_window.h"
+#include "ui/window/teller.h"
 #include "ui/window/toolbar_widget.h"
 
 namespace kelvarine {
@@ -41,6 +41,7 @@ void SetWindowTitle(std::string_view title)
 void UpdateCaptions()
 {
     Window()->UpdateMenuCaptions();
+    TellChanges();
 }
 
 void RefreshWindow()
@@ -51,6 +52,7 @@ void RefreshWindow()
 void UpdateToolbar()
 {
     Window()->Client->Toolbar->Update();
+    TellChanges();
 }
 
 void FocusBoard()
@@ -68,7 +70,7 @@ void ResizeWindow()
 void ShowBoardPicture()
 {
     Window()->Client->Board->update();
-    AnnounceBoard();
+    TellChanges();
     RefreshPrintPreview();
 }
 

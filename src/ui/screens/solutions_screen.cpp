@@ -10,6 +10,7 @@
 #include "outside/screens.h"
 #include "paint/text.h"
 #include "ui/window/main_window.h"
+#include "ui/window/notices.h"
 #include "ui/window/placing.h"
 
 #include <QButtonGroup>
@@ -226,6 +227,9 @@ void ShowSolutionsScreen()
 
 void RefreshSolutionsScreen()
 {
+    if (SearchKind == ListingSolutions) {
+        Tell(Text(SolutionCountText)); // the listing has come to its end
+    }
     if (solutionsScreen != nullptr) {
         solutionsScreen->Refresh();
     }

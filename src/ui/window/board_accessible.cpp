@@ -1,117 +1,107 @@
 #include "ui/window/board_accessible.h"
 
 #include "board/geometry.h"
+#include "game/search.h"
 #include "grid/grid.h"
+#include "input/mouse.h"
+#include "input/pattern.h"
 #include "input/spoken.h"
+#include "outside/events.h"
 #include "paint/text.h"
 #include "ui/window/board_widget.h"
+#include "ui/window/cell_accessible.h"
 #include "ui/window/main_window.h"
+#include "ui/window/teller.h"
 
 #include <QAccessibleWidget>
 
+#include <algorithm>
 #include <array>
 
 namespace kelvarine {
 
 namespace {
 
-constexpr int CellCount = 81;
+constexpr int Lines = 9;
+constexpr int CellCount = Lines * Lines;
+constexpr int PartCount = CellCount + 2 * Lines; // the cells, then the headers
+
+constexpr std::string_view NextAction = "Next cell of the pattern";
+constexpr std::string_view PreviousAction = "Previous cell of the pattern";
 
 // Tools read row by row.
 Cell CellOfChild(int child)
 {
-    return MakeCell(child % 9 + 1, child / 9 + 1);
+    return MakeCell(child % Lines + 1, child / Lines + 1);
 }
 
-int ChildOf(Cell cell)
+bool IsSelected(Cell cell)
 {
-    return (cell.Row - 1) * 9 + cell.Column - 1;
+    return (WordAt(cell) & SelectedBit) != 0;
 }
 
-QAccessibleInterface *BoardInterface()
+bool IsLineSelected(HouseKind kind, int index)
 {
-    return Window() == nullptr ? nullptr
-                               : QAccessible::queryAccessibleInterface(Window()->Client->Board);
+    if (index < 0 || index >= Lines) {
+        return false;
+    }
+    const int house = kind == HouseKind::Column ? index : Lines + index;
+    return std::ranges::all_of(Houses[static_cast<std::size_t>(house)].Cells, IsSelected);
 }
 
-// The toolkit wants an object of this kind for each thing that it tells tools about.
-class CellAccessible : public QAccessibleInterface {
-public:
-    explicit CellAccessible(Cell cell) : place(cell)
-    {
+QList<int> SelectedLines(HouseKind kind)
+{
+    QList<int> lines;
+    for (int index = 0; index < Lines; ++index) {
+        if (IsLineSelected(kind, index)) {
+            lines.append(index);
+        }
     }
+    return lines;
+}
 
-    [[nodiscard]] bool isValid() const override
-    {
-        return Window() != nullptr;
+// Takes a line into the selection or out of it, as a drag along it would.
+bool SelectLine(HouseKind kind, int index, bool on)
+{
+    if (index < 0 || index >= Lines) {
+        return false;
     }
-    [[nodiscard]] QObject *object() const override
-    {
-        return nullptr;
-    }
-    [[nodiscard]] QAccessibleInterface *parent() const override
-    {
-        return BoardInterface();
-    }
-    [[nodiscard]] QAccessibleInterface *child(int /*index*/) const override
-    {
-        return nullptr;
-    }
-    [[nodiscard]] QAccessibleInterface *childAt(int /*x*/, int /*y*/) const override
-    {
-        return nullptr;
-    }
-    [[nodiscard]] int childCount() const override
-    {
-        return 0;
-    }
-    int indexOfChild(const QAccessibleInterface * /*child*/) const override
-    {
-        return -1;
-    }
-    [[nodiscard]] QAccessible::Role role() const override
-    {
-        return QAccessible::Cell;
-    }
+    const int house = kind == HouseKind::Column ? index : Lines + index;
+    const std::array<Cell, 9> &cells = Houses[static_cast<std::size_t>(house)].Cells;
+    DragOverCells(cells.front(), cells.back(), on ? CtrlKey : ShiftKey);
+    return true;
+}
 
-    [[nodiscard]] QString text(QAccessible::Text kind) const override
-    {
-        return kind == QAccessible::Name ? Text(SpokenCell(place)) : QString();
+// Goes along the chain or pattern that is on the board, as soon as the tool that asks for it has
+// its answer.
+void WalkPattern(bool onward)
+{
+    CallFromEventLoop([onward] {
+        if (ReadyForCommand()) {
+            Window()->Client->Board->setFocus(Qt::OtherFocusReason);
+            StepInPattern(onward);
+            TellChanges();
+        }
+    });
+}
+
+QAccessible::Id RegisterPart(int child)
+{
+    if (child < CellCount) {
+        return QAccessible::registerAccessibleInterface(DescribeCell(CellOfChild(child)));
     }
+    const int header = child - CellCount;
+    return QAccessible::registerAccessibleInterface(
+        header < Lines ? DescribeHeader(HouseKind::Column, header + 1)
+                       : DescribeHeader(HouseKind::Row, header - Lines + 1));
+}
 
-    void setText(QAccessible::Text /*kind*/, const QString & /*text*/) override
-    {
-    }
-
-    [[nodiscard]] QRect rect() const override
-    {
-        const QRect inBoard(CellX(place.Column), CellY(place.Row), CellWidth, CellHeight);
-        return inBoard.translated(Window()->Client->Board->mapToGlobal(QPoint(0, 0)));
-    }
-
-    [[nodiscard]] QAccessible::State state() const override
-    {
-        QAccessible::State state;
-        state.selectable = true;
-        state.multiSelectable = true;
-        state.focusable = true;
-        state.readOnly = (WordAt(place) & GivenBit) != 0;
-        state.selected = (WordAt(place) & SelectedBit) != 0;
-        state.focused = Window()->Client->Board->hasFocus() && SpokenPlace() == place;
-        return state;
-    }
-
-private:
-    Cell place;
-};
-
-class BoardAccessible : public QAccessibleWidget {
+class BoardAccessible : public QAccessibleWidget, public QAccessibleTableInterface {
 public:
     explicit BoardAccessible(QWidget *board) : QAccessibleWidget(board, QAccessible::Table)
     {
-        for (int child = 0; child < CellCount; ++child) {
-            cells[static_cast<std::size_t>(child)] =
-                QAccessible::registerAccessibleInterface(new CellAccessible(CellOfChild(child)));
+        for (int child = 0; child < PartCount; ++child) {
+            parts[static_cast<std::size_t>(child)] = RegisterPart(child);
         }
     }
 
@@ -120,26 +110,34 @@ public:
 
     ~BoardAccessible() override
     {
-        for (const QAccessible::Id cell : cells) {
-            QAccessible::deleteAccessibleInterface(cell);
+        for (const QAccessible::Id part : parts) {
+            QAccessible::deleteAccessibleInterface(part);
         }
     }
 
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::TableInterface ? static_cast<QAccessibleTableInterface *>(this)
+                                                   : QAccessibleWidget::interface_cast(type);
+    }
+
+    // ---- Parts ---------------------------------------------------------------------------------
+
     [[nodiscard]] int childCount() const override
     {
-        return CellCount;
+        return PartCount;
     }
 
     [[nodiscard]] QAccessibleInterface *child(int index) const override
     {
-        return index >= 0 && index < CellCount
-                   ? QAccessible::accessibleInterface(cells[static_cast<std::size_t>(index)])
+        return index >= 0 && index < PartCount
+                   ? QAccessible::accessibleInterface(parts[static_cast<std::size_t>(index)])
                    : nullptr;
     }
 
     int indexOfChild(const QAccessibleInterface *child) const override
     {
-        for (int index = 0; index < CellCount; ++index) {
+        for (int index = 0; index < PartCount; ++index) {
             if (this->child(index) == child) {
                 return index;
             }
@@ -160,8 +158,120 @@ public:
         return widget()->hasFocus() && place ? child(ChildOf(*place)) : nullptr;
     }
 
+    // ---- The pattern on view
+    // ---------------------------------------------------------------------
+
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return QAccessibleWidget::actionNames() +
+               QStringList{Text(NextAction), Text(PreviousAction)};
+    }
+
+    void doAction(const QString &name) override
+    {
+        if (name == Text(NextAction) || name == Text(PreviousAction)) {
+            WalkPattern(name == Text(NextAction));
+        } else {
+            QAccessibleWidget::doAction(name);
+        }
+    }
+
+    // ---- The table -----------------------------------------------------------------------------
+
+    [[nodiscard]] QAccessibleInterface *caption() const override
+    {
+        return nullptr;
+    }
+    [[nodiscard]] QAccessibleInterface *summary() const override
+    {
+        return nullptr;
+    }
+    [[nodiscard]] QAccessibleInterface *cellAt(int row, int column) const override
+    {
+        return IsLine(row + 1) && IsLine(column + 1) ? child(row * Lines + column) : nullptr;
+    }
+    [[nodiscard]] int rowCount() const override
+    {
+        return Lines;
+    }
+    [[nodiscard]] int columnCount() const override
+    {
+        return Lines;
+    }
+    [[nodiscard]] QString rowDescription(int row) const override
+    {
+        return IsLine(row + 1)
+                   ? child(ChildOfHeader(HouseKind::Row, row + 1))->text(QAccessible::Name)
+                   : QString();
+    }
+    [[nodiscard]] QString columnDescription(int column) const override
+    {
+        return IsLine(column + 1)
+                   ? child(ChildOfHeader(HouseKind::Column, column + 1))->text(QAccessible::Name)
+                   : QString();
+    }
+
+    [[nodiscard]] int selectedCellCount() const override
+    {
+        return static_cast<int>(std::ranges::count_if(Cells, IsSelected));
+    }
+    [[nodiscard]] QList<QAccessibleInterface *> selectedCells() const override
+    {
+        QList<QAccessibleInterface *> selected;
+        for (int index = 0; index < CellCount; ++index) {
+            if (IsSelected(CellOfChild(index))) {
+                selected.append(child(index));
+            }
+        }
+        return selected;
+    }
+    [[nodiscard]] int selectedColumnCount() const override
+    {
+        return static_cast<int>(selectedColumns().size());
+    }
+    [[nodiscard]] int selectedRowCount() const override
+    {
+        return static_cast<int>(selectedRows().size());
+    }
+    [[nodiscard]] QList<int> selectedColumns() const override
+    {
+        return SelectedLines(HouseKind::Column);
+    }
+    [[nodiscard]] QList<int> selectedRows() const override
+    {
+        return SelectedLines(HouseKind::Row);
+    }
+    [[nodiscard]] bool isColumnSelected(int column) const override
+    {
+        return IsLineSelected(HouseKind::Column, column);
+    }
+    [[nodiscard]] bool isRowSelected(int row) const override
+    {
+        return IsLineSelected(HouseKind::Row, row);
+    }
+    bool selectRow(int row) override
+    {
+        return SelectLine(HouseKind::Row, row, true);
+    }
+    bool selectColumn(int column) override
+    {
+        return SelectLine(HouseKind::Column, column, true);
+    }
+    bool unselectRow(int row) override
+    {
+        return SelectLine(HouseKind::Row, row, false);
+    }
+    bool unselectColumn(int column) override
+    {
+        return SelectLine(HouseKind::Column, column, false);
+    }
+    void modelChange(QAccessibleTableModelChangeEvent * /*event*/) override
+    {
+        // The board has always the same cells.
+    }
+
 private:
-    std::array<QAccessible::Id, CellCount> cells{};
+    std::array<QAccessible::Id, PartCount> parts{};
 };
 
 QAccessibleInterface *Describe(const QString & /*kind*/, QObject *object)
@@ -172,25 +282,22 @@ QAccessibleInterface *Describe(const QString & /*kind*/, QObject *object)
 
 } // namespace
 
+int ChildOf(Cell cell)
+{
+    return (cell.Row - 1) * Lines + cell.Column - 1;
+}
+
+int ChildOfHeader(HouseKind kind, int line)
+{
+    return CellCount + (kind == HouseKind::Column ? 0 : Lines) + line - 1;
+}
+
 void DescribeBoardToTools()
 {
     [[maybe_unused]] static const bool done = [] {
         QAccessible::installFactory(Describe);
         return true;
     }();
-}
-
-void AnnounceBoard()
-{
-    const SpokenChange change = NextSpokenChange();
-    if (change == SpokenChange::None || Window() == nullptr) {
-        return;
-    }
-    QAccessibleEvent event(Window()->Client->Board, change == SpokenChange::Place
-                                                        ? QAccessible::Focus
-                                                        : QAccessible::NameChanged);
-    event.setChild(ChildOf(*SpokenPlace()));
-    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace kelvarine

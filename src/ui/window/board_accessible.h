@@ -1,14 +1,17 @@
 // The board as assistive tools see it: a table of 81 cells with their words, of which one has the
-// player's attention.
+// player's attention, and a header for each column and row.
 #pragma once
+
+#include "grid/houses.h"
 
 namespace kelvarine {
 
 // Makes the toolkit describe the board widget this way. Further calls do nothing.
 void DescribeBoardToTools();
 
-// Tells listening tools when the cell that has the attention, or what it shows, has changed. Cheap
-// when nobody listens.
-void AnnounceBoard();
+// Places among the children of the board: the cells row by row, then the headers of the columns,
+// then those of the rows. A line is 1..9.
+int ChildOf(Cell cell);
+int ChildOfHeader(HouseKind kind, int line);
 
 } // namespace kelvarine

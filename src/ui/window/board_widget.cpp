@@ -4,6 +4,7 @@
 #include "game/search.h"
 #include "input/keys.h"
 #include "input/mouse.h"
+#include "input/told.h"
 #include "input/toolbar.h"
 #include "outside/events.h"
 #include "outside/window.h"
@@ -11,11 +12,13 @@
 #include "paint/device_axis.h"
 #include "ui/window/board_accessible.h"
 #include "ui/window/key_decoder.h"
+#include "ui/window/teller.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTouchEvent>
 
 #include <utility>
 
@@ -36,7 +39,8 @@ bool IsTabulator(int key)
 
 } // namespace
 
-BoardWidget::BoardWidget(QWidget *parent) : QWidget(parent)
+BoardWidget::BoardWidget(QWidget *parent)
+    : QWidget(parent), touch(this, [this](const QPointF &place) { return PixelAt(place); })
 {
     DescribeBoardToTools(); // before anything asks for the description, because that is kept
     setFocusPolicy(Qt::StrongFocus);
@@ -100,7 +104,16 @@ bool BoardWidget::event(QEvent *event)
         !ReadyForCommand()) {
         return true;
     }
-    return QWidget::event(event);
+    switch (event->type()) {
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+        touch.Take(static_cast<QTouchEvent *>(event));
+        return true;
+    default:
+        return QWidget::event(event);
+    }
 }
 
 void BoardWidget::TakeKeyPress(QKeyEvent *event)
@@ -122,6 +135,11 @@ void BoardWidget::TakeKeyRelease(const QKeyEvent &event)
     // Another key that comes up leaves the modifier down.
     modifierHeld = modifierHeld && !IsSignKey(code);
     KeyUp(code);
+}
+
+bool BoardWidget::SignFollowsKey() const
+{
+    return modifierHeld;
 }
 
 void BoardWidget::TakeModifiers()
@@ -161,6 +179,9 @@ void BoardWidget::focusInEvent(QFocusEvent *event)
 {
     QWidget::focusInEvent(event);
     TakeModifiers();
+    // The toolkit names the table; where the player is in it comes afterwards.
+    TellPlaceAgain();
+    TellChanges();
 }
 
 void BoardWidget::focusOutEvent(QFocusEvent *event)

@@ -1,6 +1,8 @@
 // picBoard: the visible board. It shows the finished picture and hands mouse and keys on.
 #pragma once
 
+#include "ui/window/board_touch.h"
+
 #include <QWidget>
 
 namespace kelvarine {
@@ -17,6 +19,9 @@ public:
 
     // The toolbar shows the sign of the modifiers that are down at this moment.
     void TakeModifiers();
+
+    // The sign that the toolbar shows is that of a modifier that is down.
+    [[nodiscard]] bool SignFollowsKey() const;
 
     // It shows no sign of a modifier any more: none is watched from now on.
     void LetModifiersGo();
@@ -36,6 +41,7 @@ private:
     // The pixel of the board that is painted at a place of the widget.
     [[nodiscard]] QPoint PixelAt(const QPointF &position) const;
 
+    BoardTouch touch;
     bool modifierHeld = false; // Shift or Ctrl went down and has not come up yet
 };
 

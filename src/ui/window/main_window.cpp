@@ -20,6 +20,7 @@
 #include "ui/window/key_decoder.h"
 #include "ui/window/menu_bar.h"
 #include "ui/window/menus.h"
+#include "ui/window/notices.h"
 #include "ui/window/placing.h"
 #include "ui/window/session.h"
 #include "ui/window/toolbar_widget.h"
@@ -66,6 +67,7 @@ MainWindow *Window()
 ClientArea::ClientArea(QWidget *parent)
     : QWidget(parent), Toolbar(new ToolbarWidget(this)), Board(new BoardWidget(this))
 {
+    DescribeNoticesToTools(); // before anything asks for the description, because that is kept
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusProxy(Board);
 }

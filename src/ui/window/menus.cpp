@@ -163,4 +163,13 @@ void UpdateMenus(QMenuBar *bar)
     }
 }
 
+void UpdateMenuStates(const QMenuBar &bar)
+{
+    for (const QAction *action : bar.actions()) {
+        if (action->menu() != nullptr) {
+            UpdateStates(*action->menu());
+        }
+    }
+}
+
 } // namespace kelvarine

@@ -15,4 +15,8 @@ void BuildMenus(MenuBar *bar);
 // player does in the menus is disturbed.
 void UpdateMenus(QMenuBar *bar);
 
+// Brings check marks and enabled states of all entries up to date, for tools that choose an entry
+// without opening its menu.
+void UpdateMenuStates(const QMenuBar &bar);
+
 } // namespace kelvarine

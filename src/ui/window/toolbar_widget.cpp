@@ -1,14 +1,19 @@
 #include "ui/window/toolbar_widget.h"
 
+#include "input/spoken.h"
 #include "input/toolbar.h"
 #include "paint/text.h"
 #include "paint/toolkit_colour.h"
 #include "ui/window/key_decoder.h"
+#include "ui/window/tool_accessible.h"
+#include "ui/window/tools_listen.h"
 
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTouchEvent>
 
 #include <cmath>
 
@@ -37,20 +42,12 @@ QColor InkOn(const QColor &background)
     return Lightness(background) < even ? Qt::white : Qt::black;
 }
 
-// A button without a caption has its colour for one; for those who don't see it, its number.
-QString SpokenName(std::int32_t index, const ToolButton &button)
-{
-    if (!button.Caption.empty()) {
-        return Text(button.Caption);
-    }
-    return Text("Highlight color %1").arg(index);
-}
-
 } // namespace
 
 ToolButtonWidget::ToolButtonWidget(std::int32_t index, QWidget *parent)
-    : QPushButton(parent), number(index)
+    : QPushButton(parent), number(index), toldName(Text(SpokenTool(index)))
 {
+    DescribeToolsToTools(); // before anything asks for the description, because that is kept
     setObjectName(Text("cmdTool%1").arg(index));
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
@@ -62,10 +59,12 @@ ToolButtonWidget::ToolButtonWidget(std::int32_t index, QWidget *parent)
 void ToolButtonWidget::Update()
 {
     const ToolButton &button = ToolButtons[static_cast<std::size_t>(number)];
-    setText(Text(button.Caption));
+    if (const QString words = Text(button.Caption); caption != words) {
+        caption = words;
+        update();
+    }
     setToolTip(Text(button.Tip));
-    setAccessibleName(SpokenName(number, button));
-    setAccessibleDescription(Text(button.Tip));
+    TellWords();
     const QColor background = ToolkitColour(button.Background);
     QPalette colours = palette();
     colours.setColor(QPalette::Button, background);
@@ -87,7 +86,7 @@ void ToolButtonWidget::paintEvent(QPaintEvent * /*event*/)
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Rounding, Rounding);
     painter.setPen(ink);
     painter.setFont(CaptionFont());
-    painter.drawText(rect(), Qt::AlignCenter, text());
+    painter.drawText(rect(), Qt::AlignCenter, caption);
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 1, 1);
@@ -109,7 +108,38 @@ QFont ToolButtonWidget::CaptionFont() const
 QSize ToolButtonWidget::CaptionSize(const QFont &letters) const
 {
     const QFontMetrics measure(letters);
-    return {measure.horizontalAdvance(text()), measure.height()};
+    return {measure.horizontalAdvance(caption), measure.height()};
+}
+
+QString ToolButtonWidget::Caption() const
+{
+    return caption;
+}
+
+// What a button is called changes with few presses, what it would do with nearly all of them; that
+// is read by whoever comes to the button.
+void ToolButtonWidget::TellWords()
+{
+    if (!ToolsListen()) {
+        return;
+    }
+    const auto tell = [this](QString &told, const std::string &words, QAccessible::Event kind) {
+        if (told != Text(words)) {
+            told = Text(words);
+            QAccessibleEvent event(this, kind);
+            QAccessible::updateAccessibility(&event);
+        }
+    };
+    tell(toldName, SpokenTool(number), QAccessible::NameChanged);
+    if (hasFocus()) {
+        tell(toldUse, SpokenToolUse(number), QAccessible::DescriptionChanged);
+    }
+}
+
+void ToolButtonWidget::focusInEvent(QFocusEvent *event)
+{
+    QPushButton::focusInEvent(event);
+    TellWords();
 }
 
 void ToolButtonWidget::mousePressEvent(QMouseEvent * /*event*/)
@@ -150,10 +180,25 @@ void ToolButtonWidget::keyReleaseEvent(QKeyEvent * /*event*/)
 ToolbarWidget::ToolbarWidget(QWidget *parent) : QWidget(parent)
 {
     setObjectName("picToolbar");
+    setAttribute(Qt::WA_AcceptTouchEvents); // also those of its buttons
     setAutoFillBackground(true);
     for (std::size_t index = 0; index < ToolButtonCount; ++index) {
         buttons.push_back(new ToolButtonWidget(static_cast<std::int32_t>(index), this));
     }
+}
+
+bool ToolbarWidget::event(QEvent *event)
+{
+    if (event->type() == QEvent::TouchBegin) {
+        const QPoint place =
+            static_cast<QTouchEvent *>(event)->points().front().position().toPoint();
+        if (const std::optional<std::int32_t> tool = ToolUnderFinger(place.x(), place.y())) {
+            event->accept();
+            ToolPressed(*tool);
+            return true;
+        }
+    }
+    return QWidget::event(event);
 }
 
 void ToolbarWidget::Update()

@@ -19,6 +19,16 @@ public:
     // Shows the button's caption, colour, tip and place as they are now.
     void Update();
 
+    // What stands on the button. It is no text of the toolkit's, which would tell listening tools
+    // of each sign that comes and goes.
+    [[nodiscard]] QString Caption() const;
+
+    // Which of the toolbar's buttons this is.
+    [[nodiscard]] std::int32_t Number() const
+    {
+        return number;
+    }
+
     // The font in which the caption fits on the button.
     [[nodiscard]] QFont CaptionFont() const;
 
@@ -30,11 +40,16 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
 
 private:
     [[nodiscard]] QSize CaptionSize(const QFont &letters) const;
+    void TellWords();
 
     std::int32_t number;
+    QString caption;
+    QString toldName; // to listening tools
+    QString toldUse;
 };
 
 class ToolbarWidget : public QWidget {
@@ -45,6 +60,10 @@ public:
 
     // Shows all buttons as they are now.
     void Update();
+
+protected:
+    // A finger presses the button that it means, which may stand a little beside it.
+    bool event(QEvent *event) override;
 
 private:
     std::vector<ToolButtonWidget *> buttons;

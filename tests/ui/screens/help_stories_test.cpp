@@ -68,13 +68,13 @@ struct HelpStory : ::testing::Test {
     // Selects the empty cells by the toolbar and gives them all pencilmarks.
     void FillEmptyCells()
     {
-        QPushButton *select = ToolButtonOf(*Game.Main, SelectButton);
-        for (int press = 0; press < 4 && select->text() != QStringLiteral("Select # of digits");
+        ToolButtonWidget *select = ToolButtonOf(*Game.Main, SelectButton);
+        for (int press = 0; press < 4 && select->Caption() != QStringLiteral("Select # of digits");
              ++press) {
             select->click();
         }
-        EXPECT_EQ(select->text().toStdString(), "Select # of digits");
-        EXPECT_EQ(ToolButtonOf(*Game.Main, AllButton)->text().toStdString(), "0");
+        EXPECT_EQ(select->Caption().toStdString(), "Select # of digits");
+        EXPECT_EQ(ToolButtonOf(*Game.Main, AllButton)->Caption().toStdString(), "0");
         ToolButtonOf(*Game.Main, AllButton)->click();
         Press(Qt::Key_0);
     }

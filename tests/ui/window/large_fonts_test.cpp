@@ -155,7 +155,7 @@ TEST_P(LargeFonts, CutNoCaptionOfTheToolbar)
         QCoreApplication::processEvents();
         for (const auto *button : program->Main->findChildren<ToolButtonWidget *>()) {
             const QFontMetrics measure(button->CaptionFont());
-            EXPECT_LE(measure.horizontalAdvance(button->text()), button->width())
+            EXPECT_LE(measure.horizontalAdvance(button->Caption()), button->width())
                 << NameOf(*button);
             EXPECT_LE(measure.height(), button->height() + 1) << NameOf(*button);
         }

@@ -1,0 +1,13 @@
+// Colours in words, for those who have them read to them.
+#pragma once
+
+#include "grid/colour.h"
+
+#include <string_view>
+
+namespace kelvarine {
+
+// The everyday name of the colour that looks most like this one, such as "dark green".
+std::string_view ColourName(Colour colour);
+
+} // namespace kelvarine

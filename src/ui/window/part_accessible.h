@@ -1,0 +1,37 @@
+// What all parts of a widget that are no widgets themselves have in common when they are described
+// to assistive tools: no object and no parts of their own.
+#pragma once
+
+#include <QAccessibleInterface>
+
+namespace kelvarine {
+
+// The toolkit wants an object of this kind for each thing that it tells tools about.
+class PartAccessible : public QAccessibleInterface {
+public:
+    [[nodiscard]] QObject *object() const override
+    {
+        return nullptr;
+    }
+    [[nodiscard]] QAccessibleInterface *child(int /*index*/) const override
+    {
+        return nullptr;
+    }
+    [[nodiscard]] QAccessibleInterface *childAt(int /*x*/, int /*y*/) const override
+    {
+        return nullptr;
+    }
+    [[nodiscard]] int childCount() const override
+    {
+        return 0;
+    }
+    int indexOfChild(const QAccessibleInterface * /*child*/) const override
+    {
+        return -1;
+    }
+    void setText(QAccessible::Text /*kind*/, const QString & /*text*/) override
+    {
+    }
+};
+
+} // namespace kelvarine

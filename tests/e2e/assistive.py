@@ -1,0 +1,121 @@
+"""The program as assistive tools meet it, on a session bus of its own: what it says is written down,
+and what it offers is found by role and name and used by the actions that tools are given."""
+
+import os
+import sys
+
+from desktop import expect, wait_for
+
+OWN_BUS = "KELVARINE_OWN_BUS"
+
+
+def on_own_bus():
+    """Begins the script again under a session bus that ends with it. On the bus of the machine there
+    may be tools and programs of others."""
+    if os.environ.pop(OWN_BUS, None) is None:
+        os.environ[OWN_BUS] = "yes"
+        os.execvp("dbus-run-session", ["dbus-run-session", "--", sys.executable, *sys.argv])
+
+
+class Ear:
+    """Listens to everything that programs tell assistive tools, from when it is made."""
+
+    KINDS = "object:state-changed:focused", "object:state-changed:showing", "object:state-changed:selected", \
+        "object:property-change", "object:selection-changed", "window:activate"
+
+    def __init__(self, desktop):
+        self.desktop = desktop
+        os.environ.update({name: desktop.environment[name]
+                           for name in ("DISPLAY", "XDG_RUNTIME_DIR", "HOME")})
+        desktop.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        import pyatspi  # finds its bus by the environment
+        from gi.repository import GLib
+        self.tools = pyatspi
+        self.loop = GLib.MainContext.default()
+        self.events = []
+        self.transcript = []
+        self.application = None
+        for kind in self.KINDS:
+            pyatspi.Registry.registerEventListener(self.hear, kind)
+
+    def hear(self, event):
+        try:
+            source = event.source.getRoleName(), event.source.name
+        except Exception:  # a box that has closed meanwhile, told by an error of the bindings
+            source = "gone", ""
+        self.events.append((event.type, event.detail1, *source))
+
+    def pump(self):
+        while self.loop.pending():
+            self.loop.iteration(False)
+        return True
+
+    def meet(self, name):
+        """Waits until the program is on the bus."""
+        def there():
+            self.pump()
+            return next((one for one in self.tools.Registry.getDesktop(0)
+                         if one and one.name == name), None)
+        self.application = wait_for(there, "the program to be known to assistive tools")
+
+    def find(self, role, name, where=None):
+        """The one thing of a role whose name, without the key that it shows, is this."""
+        def fits(item):
+            return item.getRoleName() == role and item.name.split("\t")[0].strip() == name
+
+        def there():
+            self.pump()
+            return self.tools.findDescendant(where or self.application, fits)
+        return wait_for(there, f"a {role} called {name}")
+
+    @staticmethod
+    def do(item, action):
+        """Has an action done. What opens a box answers only when it has been closed, and is not
+        waited for."""
+        actions = item.queryAction()
+        names = [actions.getName(place) for place in range(actions.nActions)]
+        expect(action in names, f"{item.name} has the action {action}")
+        try:
+            actions.doAction(names.index(action))
+        except Exception as reason:  # of a kind that only the bindings know
+            print(f"not waited for: {reason}", flush=True)
+
+    # ---- What is heard ---------------------------------------------------------------------------
+
+    def spoken(self):
+        """What a screen reader would say to the events so far."""
+        words = []
+        for kind, detail, role, name in self.events:
+            if kind.startswith("object:state-changed:focused") and detail:
+                words.append(f"{role} {name}")
+            elif kind.startswith("object:state-changed:showing") and role == "notification":
+                words.append(name)
+            elif kind.startswith("window:activate"):
+                if words and words[-1].startswith("window "):
+                    words.pop()  # of windows that come up at once the last is told
+                words.append(f"window {name}")
+        return words
+
+    def at_rest(self):
+        """Waits until the program has done what it was told, and everything that it said is here:
+        what it sent comes before its answer."""
+        self.desktop.settle()
+        self.application.clearCache()
+        self.application.get_toolkit_name()
+        self.pump()
+
+    def expect(self, deed, *words, events=None):
+        """Does a deed and holds what is heard against the words, in full: none missing, none twice,
+        none empty. In between them the window manager's news come when it gets to them."""
+        self.at_rest()
+        self.events.clear()
+        deed()
+        wait_for(lambda: self.pump() and len(self.spoken()) >= len(words),
+                 f"the words {words}, heard are {self.spoken()}")
+        self.at_rest()
+        heard = self.spoken()
+        expect(sorted(heard) == sorted(words), f"heard {heard}, to be {list(words)}")
+        expect(all(heard), "nothing empty is said")
+        if events is not None:
+            expect(len(self.events) <= events, f"at most {events} events: {self.events}")
+        self.transcript += heard

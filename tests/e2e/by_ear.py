@@ -1,0 +1,137 @@
+#!/usr/bin/python3
+"""An evening by ear: the program played by assistive interfaces alone, without a place of the mouse
+or a picture, and what it says held against what a player should hear."""
+
+import sys
+
+from assistive import Ear, on_own_bus
+from desktop import Desktop, Game, expect, wait_for
+
+PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
+
+
+class Evening:
+    """The program and its parts, as they are found by role and name."""
+
+    def __init__(self, desktop, program):
+        self.desktop = desktop
+        self.ear = Ear(desktop)
+        self.game = Game(desktop, program)
+        self.ear.meet("kelvarine")
+        self.board = self.ear.find("table", "Sudoku board")
+        self.table = self.board.queryTable()
+
+    def cell(self, column, row):
+        return self.table.getAccessibleAt(row - 1, column - 1)
+
+    def go(self, column, row):
+        self.cell(column, row).queryComponent().grabFocus()
+
+    def tool(self, name):
+        self.ear.do(self.ear.find("push button", name), "Press")
+
+    def menu(self, name):
+        self.ear.do(self.ear.find("menu item", name), "Press")
+
+    def box(self, title, words=""):
+        """Waits for a box that says some words, and gives it."""
+        def there():
+            self.ear.pump()
+            return next((window for window in self.ear.application
+                         if window and window.name == title and window.getRoleName() != "frame"
+                         and words in self.words_of(window)), None)
+        return wait_for(there, f"a box called {title} that says {words}")
+
+    def press(self, box, name):
+        self.ear.do(self.ear.find("push button", name, box), "Press")
+
+    def words_of(self, box):
+        labels = self.ear.tools.findAllDescendants(box, lambda item: item.getRoleName() == "label")
+        return " ".join(label.name for label in labels if label.name)
+
+
+def finds_the_board(evening):
+    table = evening.table
+    expect((table.nRows, table.nColumns) == (9, 9), "the board is a table of nine by nine")
+    expect([table.getColumnDescription(n) for n in range(9)] == list("ABCDEFGHJ"),
+           "its columns bear the player's names")
+    expect([table.getRowDescription(n) for n in range(9)] == list("123456789"), "and its rows")
+    header = table.getColumnHeader(3)
+    expect((header.getRoleName(), header.name) == ("table column header", "D"),
+           "and headers of their own")
+
+
+def makes_a_game(evening):
+    evening.menu("From text string")
+    box = evening.box("Kelvarine")
+    field = evening.ear.tools.findDescendant(box, lambda item: item.getRoleName() == "text")
+    field.queryEditableText().setTextContents(PUZZLE)
+    evening.ear.expect(lambda: evening.press(box, "OK"), "window Kelvarine", "table Sudoku board",
+                       "game with 30 givens, easy")
+
+
+def walks(evening):
+    for column, row, words in ((1, 1, "5, given"), (2, 1, "3, given"), (3, 1, "empty")):
+        evening.ear.expect(lambda: evening.go(column, row), f"table cell {words}")
+    evening.ear.expect(lambda: evening.ear.do(evening.cell(3, 1), "Tell where this is"),
+                       "[C1], row 1 of 9, column 3 of 9, upper-left box")
+
+
+def enters_by_the_toolbar(evening):
+    evening.ear.expect(lambda: evening.tool("4"), "4", events=3)
+    expect(evening.cell(3, 1).name == "4", "the cell shows the number")
+    evening.ear.expect(lambda: evening.menu("UnDo (Page Up)"), "undone: [C1] was 4; no cells selected")
+    evening.ear.expect(lambda: evening.menu("ReDo (Page Dn)"), "redone: 4")
+    evening.ear.expect(lambda: evening.menu("Select column"), "9 cells selected, column C")
+    expect(evening.table.getSelectedColumns() == [2], "the column is selected")
+
+
+def asks_for_a_hint(evening):
+    ear = evening.ear
+    ear.expect(lambda: evening.menu("Hint"), "window Hint", "push button No")
+    first = evening.box("Hint", "There's an unplaced naked single.")
+    ear.expect(lambda: evening.press(first, "Yes"), "window Hint", "push button No")
+    second = evening.box("Hint", "It's in")
+    ear.expect(lambda: evening.press(second, "Yes"), "[E5] selected; pattern: [E5]",
+               "window Unplaced naked single", "push button OK")
+    reason = evening.box("Unplaced naked single",
+                         "Cell [E5] must contain a 5 because it's the \nonly unused number in its domain.")
+    ear.expect(lambda: evening.press(reason, "OK"), "window Kelvarine", "table Sudoku board",
+               "table cell 4")
+    ear.expect(lambda: ear.do(evening.board, "Next cell of the pattern"), "table cell empty, hint")
+    expect(evening.cell(5, 5).description == "cell 1 of 1 of the pattern",
+           "the cell tells its place in the pattern")
+    ear.expect(lambda: evening.tool("5"), "5")
+
+
+def keeps_a_snapshot(evening):
+    evening.ear.expect(lambda: evening.menu("Take snapshot"), "snapshot taken")
+    evening.ear.expect(lambda: evening.go(1, 1), "table cell 5, given")
+    evening.ear.expect(lambda: evening.go(6, 5), "table cell 3, given")
+    evening.ear.expect(lambda: evening.go(4, 1), "table cell empty")
+    evening.ear.expect(lambda: evening.tool("2"), "2")
+    evening.ear.expect(lambda: evening.menu("Use snapshot"), "empty; [E5] selected; pattern: [E5]")
+
+
+def pauses(evening):
+    evening.ear.expect(lambda: evening.menu("Pause"), "paused")
+    expect(evening.cell(1, 1).name == "hidden while the clock is paused, given", "nothing is told")
+    evening.ear.expect(lambda: evening.menu("Resume"), "resumed")
+
+
+def main(program):
+    with Desktop() as desktop:
+        evening = Evening(desktop, program)
+        finds_the_board(evening)
+        makes_a_game(evening)
+        walks(evening)
+        enters_by_the_toolbar(evening)
+        asks_for_a_hint(evening)
+        keeps_a_snapshot(evening)
+        pauses(evening)
+        print("\n".join(["what was heard:", *evening.ear.transcript]))
+
+
+if __name__ == "__main__":
+    on_own_bus()
+    main(sys.argv[1])
