@@ -8,7 +8,7 @@
 
 namespace kelvarine::testing {
 
-SystemCalls *SystemCalls::Current = nullptr;
+thread_local SystemCalls *SystemCalls::Current = nullptr;
 
 SystemCalls::SystemCalls()
 {

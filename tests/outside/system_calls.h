@@ -43,7 +43,8 @@ public:
     int FileOf(int descriptor);
     int OpenFile(int descriptor);
 
-    static SystemCalls *Current;
+    // Of the thread that it is made in: what waits for a lock elsewhere is another's.
+    static thread_local SystemCalls *Current;
 
 private:
     std::vector<int> files_; // by descriptor, -1 for none
