@@ -1,4 +1,5 @@
 #include "game/lifecycle.h"
+#include "game/solutions.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
 #include "grid/history.h"
@@ -111,6 +112,20 @@ TEST_F(Givens, HidingAllMakesManySolutions)
     EXPECT_EQ(GivensOf(Grid), Dots(81));
     EXPECT_EQ(GameRating, 6);
     EXPECT_EQ(GivenCount, 0);
+}
+
+TEST_F(Givens, OpenListOfSolutionsFollows)
+{
+    mnuShowSolution();
+    Select({{1, 1}});
+    SolutionsOnView = "of before";
+    mnuHideSelectedCellsForce();
+    EXPECT_NE(SolutionsOnView, "of before");
+    WordAt({1, 1}) = BitTable[5] | SelectedBit;
+    SolutionsOnView = "of before";
+    Seen.YesNoAnswers = {true};
+    mnuMakeGiven();
+    EXPECT_NE(SolutionsOnView, "of before");
 }
 
 TEST_F(Givens, HidingOpenCellsOnlyRates)
