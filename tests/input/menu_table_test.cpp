@@ -297,6 +297,16 @@ TEST_F(Menus, ViewEntriesChangeTheFilterAndPaintOnce)
     }
 }
 
+TEST_F(Menus, StrongLinksAreChosenAndPaintedOnce)
+{
+    for (const std::int32_t mode : {2, 0, 1}) {
+        SetScenario(AllInView);
+        Choose("mnuStrongLinks", mode);
+        EXPECT_EQ(StrongLinkMode, mode);
+        EXPECT_EQ(Seen.Calls, Texts{"board: "});
+    }
+}
+
 TEST_F(Menus, PauseIsNoKeyOfTheBoard)
 {
     EXPECT_EQ(EntryNamed("mnuPauseTime").Shortcut, "F12");
