@@ -80,6 +80,11 @@ class Ear:
         except Exception as reason:  # of a kind that only the bindings know
             print(f"not waited for: {reason}", flush=True)
 
+    def state(self, item, name):
+        """Whether a thing is in a state now."""
+        item.clearCache()
+        return item.getState().contains(getattr(self.tools, "STATE_" + name))
+
     # ---- What is heard ---------------------------------------------------------------------------
 
     def spoken(self):
@@ -104,16 +109,19 @@ class Ear:
         self.application.get_toolkit_name()
         self.pump()
 
-    def expect(self, deed, *words, events=None):
+    def expect(self, deed, *words, events=None, between=()):
         """Does a deed and holds what is heard against the words, in full: none missing, none twice,
-        none empty. In between them the window manager's news come when it gets to them."""
+        none empty. In between them the window manager's news come when it gets to them, and where one
+        box follows another, the window behind them may come up or not."""
+        def said():
+            return [word for word in self.spoken() if word in words or word not in between]
+
         self.at_rest()
         self.events.clear()
         deed()
-        wait_for(lambda: self.pump() and len(self.spoken()) >= len(words),
-                 f"the words {words}, heard are {self.spoken()}")
+        wait_for(lambda: self.pump() and len(said()) >= len(words), f"the words {words}")
         self.at_rest()
-        heard = self.spoken()
+        heard = said()
         expect(sorted(heard) == sorted(words), f"heard {heard}, to be {list(words)}")
         expect(all(heard), "nothing empty is said")
         if events is not None:

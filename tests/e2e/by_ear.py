@@ -45,6 +45,12 @@ class Evening:
     def press(self, box, name):
         self.ear.do(self.ear.find("push button", name, box), "Press")
 
+    def name_file(self, path):
+        """Answers the file dialog."""
+        name = self.ear.find("text", "File name")
+        name.queryEditableText().setTextContents(str(path))
+        self.press(None, "OK")
+
     def words_of(self, box):
         labels = self.ear.tools.findAllDescendants(box, lambda item: item.getRoleName() == "label")
         return " ".join(label.name for label in labels if label.name)
@@ -88,12 +94,13 @@ def enters_by_the_toolbar(evening):
 
 def asks_for_a_hint(evening):
     ear = evening.ear
-    ear.expect(lambda: evening.menu("Hint"), "window Hint", "push button No")
+    behind = "window Kelvarine", "table Sudoku board", "table cell 4"
+    ear.expect(lambda: evening.menu("Hint"), "window Hint", "push button No", between=behind)
     first = evening.box("Hint", "There's an unplaced naked single.")
-    ear.expect(lambda: evening.press(first, "Yes"), "window Hint", "push button No")
+    ear.expect(lambda: evening.press(first, "Yes"), "window Hint", "push button No", between=behind)
     second = evening.box("Hint", "It's in")
     ear.expect(lambda: evening.press(second, "Yes"), "[E5] selected; pattern: [E5]",
-               "window Unplaced naked single", "push button OK")
+               "window Unplaced naked single", "push button OK", between=behind)
     reason = evening.box("Unplaced naked single",
                          "Cell [E5] must contain a 5 because it's the \nonly unused number in its domain.")
     ear.expect(lambda: evening.press(reason, "OK"), "window Kelvarine", "table Sudoku board",
@@ -113,6 +120,58 @@ def keeps_a_snapshot(evening):
     evening.ear.expect(lambda: evening.menu("Use snapshot"), "empty; [E5] selected; pattern: [E5]")
 
 
+def is_warned(evening):
+    ear = evening.ear
+    evening.menu("Alerts ...")
+    screen = evening.box("Configure")
+    ear.do(ear.find("check box", "Alert: Naked singles", screen), "Toggle")
+    wait_for(lambda: ear.state(ear.find("check box", "Alert: Naked singles", screen), "CHECKED"),
+             "the alerts of naked singles to be on")
+    ear.at_rest()
+    evening.go(4, 1)
+    wait_for(lambda: ear.pump() and ear.state(evening.cell(4, 1), "FOCUSED"), "the cell to be reached")
+    ear.expect(lambda: evening.tool("5"), "5; alert: conflict with naked single", events=3)
+    expect(evening.cell(4, 1).name == "5, alert", "the cell tells its alert")
+    ear.expect(lambda: evening.menu("Show reason for alert in selected cell"),
+               "window Conflict with naked single", "push button OK", "pattern: [A1]",
+               between=("window Kelvarine", "table Sudoku board", "table cell 5, alert"))
+    reason = evening.box("Conflict with naked single")
+    print(evening.words_of(reason))
+    ear.expect(lambda: evening.press(reason, "OK"), "window Kelvarine", "table Sudoku board",
+               "table cell 5, alert, hint area")
+    ear.expect(lambda: evening.menu("UnDo (Page Up)"), "undone: [D1] was 5; [E5] selected; pattern: [E5]")
+
+
+def saves_and_reopens(evening):
+    ear = evening.ear
+    path = evening.desktop.home / "evening.sdk"
+    evening.menu("Save As")
+    evening.name_file(path)
+    wait_for(lambda: ear.pump() and path.exists(), "the game to be saved")
+    ear.at_rest()
+    evening.menu("Open")
+    ear.events.clear()
+    evening.name_file(path)
+    wait_for(lambda: ear.pump() and "window Kelvarine" in " ".join(ear.spoken()),
+             "the player to be back at the board")
+    ear.at_rest()
+    expect(evening.cell(3, 1).name.startswith("4"), "the game is as it was saved")
+
+
+def prints(evening):
+    path = evening.desktop.home / "evening.pdf"
+    evening.menu("Print")
+    screen = evening.box("Configure")
+    evening.press(screen, "Print")
+    dialog = evening.ear.find("dialog", "Print")
+    field = evening.ear.find("text", "Output file:", dialog)
+    field.queryEditableText().setTextContents(str(path))
+    evening.press(dialog, "Print")
+    wait_for(lambda: evening.ear.pump() and path.exists()
+             and path.read_bytes().rstrip().endswith(b"%%EOF"), "the game on paper")
+    evening.ear.at_rest()
+
+
 def pauses(evening):
     evening.ear.expect(lambda: evening.menu("Pause"), "paused")
     expect(evening.cell(1, 1).name == "hidden while the clock is paused, given", "nothing is told")
@@ -128,7 +187,10 @@ def main(program):
         enters_by_the_toolbar(evening)
         asks_for_a_hint(evening)
         keeps_a_snapshot(evening)
+        is_warned(evening)
+        saves_and_reopens(evening)
         pauses(evening)
+        prints(evening)
         print("\n".join(["what was heard:", *evening.ear.transcript]))
 
 
