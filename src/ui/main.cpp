@@ -36,6 +36,17 @@ bool AsksForAnOption(int argc, char **argv)
     return std::any_of(argv + 1, argv + argc, [](const char *word) { return *word == '-'; });
 }
 
+bool running = false;
+
+// When its display goes, the toolkit ends the program where it stands, in the middle of its work,
+// and taking down what is at work crashes. The game in hand is in its file for the next start.
+void LeaveWithTheDisplay()
+{
+    if (running) {
+        std::_Exit(EXIT_FAILURE);
+    }
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -51,7 +62,10 @@ int main(int argc, char **argv)
     QApplication::setDesktopFileName("kelvarine");
     QApplication::setWindowIcon(kelvarine::ProgramIcon());
     kelvarine::SetDefaults();
+    std::atexit(LeaveWithTheDisplay);
+    running = true;
     const int result = kelvarine::RunProgram(GivenFile(argc, argv));
+    running = false;
     // Everything is kept by now. On its way off Wayland the toolkit now and then waits for ever for
     // a thread of its own, and the player would be left with a program that nobody sees.
     if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {

@@ -1,0 +1,55 @@
+#!/usr/bin/python3
+"""A display that dies under the program: it ends without a crash, and the next start offers the game."""
+
+import shutil
+import sys
+
+from desktop import Desktop, Game, expect, wait_for
+
+GAME = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
+MIRRORED = "".join(GAME[row:row + 9][::-1] for row in range(0, 81, 9))
+
+
+class LostDisplay(Desktop):
+    """A desktop whose display is taken away before the end."""
+
+    def lose(self):
+        self.screen_process.stdin.close()
+        self.screen_process.wait()
+
+    def __exit__(self, failure, *_):
+        for process in self.processes:
+            if process.poll() is None:
+                process.kill()
+            process.wait()
+
+
+def kept(desktop):
+    return any(name.endswith(".sdk") for name in desktop.recovery())
+
+
+def main():
+    program = sys.argv[1]
+    with LostDisplay() as lost, Desktop() as desktop:
+        game = Game(lost, program)
+        game.paste(GAME)
+        lost.key("shift+m")
+        wait_for(lambda: game.copy_line() == MIRRORED, "the game to be mirrored")
+        wait_for(lambda: kept(lost), "the game to be kept for a crash")
+        lost.key("ctrl+o")  # in the middle of something
+        lost.lose()
+        wait_for(lambda: game.process.poll() is not None, "the program to end")
+        expect(game.process.returncode == 1, "the program ends without a crash")
+        shutil.copytree(lost.home, desktop.home, dirs_exist_ok=True)
+        game = Game(desktop, program, behind_a_box=True)
+        desktop.answer("alt+y", other_than=[game.window])
+        game.focus()
+        wait_for(lambda: game.copy_line() in (GAME, MIRRORED), "the game as it was kept last")
+        expect(game.end(save_first="alt+n") == 0, "and the program plays on")
+        shutil.rmtree(lost.home)
+        shutil.rmtree(lost.evidence)
+    print("lost display: all as it should be")
+
+
+if __name__ == "__main__":
+    main()
