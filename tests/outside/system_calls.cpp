@@ -1,23 +1,42 @@
 #include "outside/system_calls.h"
 
+#include <atomic>
 #include <cstdarg>
 #include <cstdlib>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/types.h>
+#include <thread>
 
 namespace kelvarine::testing {
 
-thread_local SystemCalls *SystemCalls::Current = nullptr;
+namespace {
+
+std::atomic<SystemCalls *> current = nullptr;
+std::atomic<int> made = 0;
+std::thread::id maker; // of the current one
+
+} // namespace
 
 SystemCalls::SystemCalls()
 {
-    Current = this;
+    maker = std::this_thread::get_id();
+    ++made;
+    current = this;
 }
 
 SystemCalls::~SystemCalls()
 {
-    Current = nullptr;
+    current = nullptr;
+}
+
+SystemCalls *SystemCalls::OfThisThread()
+{
+    thread_local const int madeAtFirstCall = made;
+    SystemCalls *calls = current;
+    const bool isOurs =
+        calls != nullptr && (madeAtFirstCall == made || std::this_thread::get_id() == maker);
+    return isOurs ? calls : nullptr;
 }
 
 void SystemCalls::Fail(int number, int error, const std::string &name)
@@ -83,7 +102,7 @@ namespace {
 template <typename Do>
 auto Through(SystemCall call, const Do &doIt) -> decltype(doIt())
 {
-    SystemCalls *calls = SystemCalls::Current;
+    SystemCalls *calls = SystemCalls::OfThisThread();
     if (calls == nullptr) {
         return doIt();
     }
@@ -102,7 +121,8 @@ auto Through(SystemCall call, const Do &doIt) -> decltype(doIt())
 
 int FileOf(int descriptor)
 {
-    return SystemCalls::Current != nullptr ? SystemCalls::Current->FileOf(descriptor) : -1;
+    SystemCalls *calls = SystemCalls::OfThisThread();
+    return calls != nullptr ? calls->FileOf(descriptor) : -1;
 }
 
 // The file behind a name such as "/proc/self/fd/7".
@@ -190,7 +210,7 @@ int __wrap_unlinkat(int folder, const char *path, int flags)
 
 int __wrap_flock(int file, int operation)
 {
-    const SystemCalls *calls = SystemCalls::Current;
+    const SystemCalls *calls = SystemCalls::OfThisThread();
     if (calls != nullptr && calls->LocksNeedWriting && (operation & LOCK_EX) != 0 &&
         (::fcntl(file, F_GETFL) & O_ACCMODE) == O_RDONLY) {
         errno = EBADF;

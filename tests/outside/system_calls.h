@@ -43,8 +43,9 @@ public:
     int FileOf(int descriptor);
     int OpenFile(int descriptor);
 
-    // Of the thread that it is made in: what waits for a lock elsewhere is another's.
-    static thread_local SystemCalls *Current;
+    // What the calls of this thread are recorded in, or nothing: those of a thread that was at work
+    // before it was made, such as one that still waits for the lock of an earlier test, are not.
+    static SystemCalls *OfThisThread();
 
 private:
     std::vector<int> files_; // by descriptor, -1 for none
