@@ -45,6 +45,7 @@ MeasureBox *AddMeasure(QFormLayout *form, const char *name, const char *caption,
         refresh();
     });
     auto *line = new QHBoxLayout;
+    line->setSpacing(6); // not that of the rows
     line->addWidget(box, 1);
     line->addWidget(new QLabel("in", form->parentWidget()));
     auto *label = new QLabel(caption, form->parentWidget());
@@ -53,10 +54,20 @@ MeasureBox *AddMeasure(QFormLayout *form, const char *name, const char *caption,
     return box;
 }
 
+// Its rows are close together, so that the panel needs no scroll bar in wide letters either.
+QFormLayout *MakeForm(QGroupBox *frame)
+{
+    auto *form = new QFormLayout(frame);
+    const QMargins room = form->contentsMargins();
+    form->setContentsMargins(room.left(), 5, room.right(), 5);
+    form->setVerticalSpacing(3);
+    return form;
+}
+
 void MakePlaceFrame(PrintControls &on, QWidget *panel, const Refresh &refresh)
 {
     on.PlaceFrame = Named(new QGroupBox("This game", panel), "framePrintPlace", "Place and size");
-    auto *form = new QFormLayout(on.PlaceFrame);
+    QFormLayout *form = MakeForm(on.PlaceFrame);
     on.Left = AddMeasure(
         form, "txtPrintLeft", "Left", [](double inches) { PrintLeft = inches; }, refresh);
     on.Top = AddMeasure(
@@ -88,7 +99,7 @@ QStringList LayoutEntries()
 void MakeBatchFrame(PrintControls &on, QWidget *panel, const Refresh &refresh)
 {
     on.BatchFrame = Named(new QGroupBox("Batch of new games", panel), "framePrintBatch", "Batch");
-    auto *form = new QFormLayout(on.BatchFrame);
+    QFormLayout *form = MakeForm(on.BatchFrame);
     on.GamesPerPageList = MakeList(on.BatchFrame, "cmbGamesPerPage", "Games per page",
                                    LayoutEntries(), PrintGamesPerPage, [refresh](int index) {
                                        PrintGamesPerPage = index;
@@ -141,7 +152,7 @@ QPushButton *MakePrintButton(QWidget *panel)
 void Arrange(const PrintControls &on, QWidget *panel)
 {
     auto *settings = new QVBoxLayout;
-    settings->setSpacing(4); // with which the panel needs no scroll bar in wide letters either
+    settings->setSpacing(4);
     settings->addWidget(on.Modes[PrintCurrent]);
     settings->addWidget(on.PlaceFrame);
     settings->addWidget(on.Modes[PrintNewGames]);
