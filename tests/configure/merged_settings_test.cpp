@@ -94,9 +94,9 @@ TEST_F(TwoPrograms, WholeGoesFromItsFirstElementToItsLast)
                                               {7, 1, 4},
                                               {7, 6, 7},
                                               {10, 0, 4}}) {
-        const auto changed = [&](std::size_t element) {
+        const auto changed = [&common, at = record](std::size_t element) {
             std::string bytes = common;
-            ++bytes[(record - 1) * BytesInRecord + 4 * element];
+            ++bytes[(at - 1) * BytesInRecord + 4 * element];
             return bytes;
         };
         EXPECT_EQ(MergedSettings(common, changed(first), changed(last)), changed(first)) << record;

@@ -33,7 +33,7 @@ void ExpectNothingMore()
 // What is told now, and told once.
 std::string Words()
 {
-    const std::string words = NextTold(false).Words;
+    std::string words = NextTold(false).Words;
     ExpectNothingMore();
     return words;
 }

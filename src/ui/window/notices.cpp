@@ -99,6 +99,8 @@ public:
             QAccessible::deleteAccessibleInterface(place);
         }
         ++said;
+        // Registered, it belongs to the toolkit until it is deleted above.
+        // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
         place = QAccessible::registerAccessibleInterface(new NoticeAccessible(words));
         QAccessibleEvent event(QAccessible::accessibleInterface(place), QAccessible::ObjectShow);
         QAccessible::updateAccessibility(&event);
