@@ -5,8 +5,10 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QHelpContentWidget>
 #include <QHelpEngineCore>
 #include <QHelpLink>
+#include <QThread>
 
 #include <array>
 
@@ -37,6 +39,19 @@ std::unique_ptr<QHelpEngine> OpenEngine(const QString &collection, bool readOnly
 }
 
 } // namespace
+
+// Contents and index are gathered by threads of the engine, which takes away what they read before
+// it waits for them.
+HelpCollection::~HelpCollection()
+{
+    if (Engine == nullptr) {
+        return;
+    }
+    for (QThread *gathering :
+         Engine->contentModel()->QObject::parent()->findChildren<QThread *>()) {
+        gathering->wait();
+    }
+}
 
 QString HelpFolder()
 {

@@ -13,6 +13,13 @@ namespace kelvarine {
 // both go into a folder that lives as long as this, so that no two programs and no player's home
 // are touched by it.
 struct HelpCollection {
+    HelpCollection() = default;
+    HelpCollection(const HelpCollection &) = delete;
+    HelpCollection &operator=(const HelpCollection &) = delete;
+    HelpCollection(HelpCollection &&) = delete;
+    HelpCollection &operator=(HelpCollection &&) = delete;
+    ~HelpCollection(); // waits for what is still being gathered
+
     QTemporaryDir Folder;
     std::unique_ptr<QHelpEngine> Engine;
     bool Searchable = false; // false when there was no room for the index of words

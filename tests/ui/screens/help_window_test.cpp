@@ -13,7 +13,6 @@
 
 #include <QAccessible>
 #include <QDialog>
-#include <QFile>
 #include <QHelpContentWidget>
 #include <QHelpIndexWidget>
 #include <QLineEdit>
@@ -22,9 +21,6 @@
 #include <QToolBar>
 #include <QtTest>
 #include <gtest/gtest.h>
-
-#include <csignal>
-#include <sys/resource.h>
 
 namespace kelvarine::testing {
 
@@ -57,35 +53,6 @@ struct HelpWindowTest : ::testing::Test {
 
     Program Game;
 };
-
-// As long as this lives no file can grow, as on a disk without room.
-class FullDisk {
-public:
-    FullDisk() : handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit nothing{0, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &nothing);
-    }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handler);
-    }
-
-private:
-    rlimit before{};
-    void (*handler)(int);
-};
-
-QByteArray BytesOf(const QString &path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
 
 QAction *ActionOf(const QString &text)
 {
@@ -381,48 +348,6 @@ TEST_F(HelpWindowTest, MissingHelpIsToldInPlainWords)
               "The help can't be shown, because its files are missing or damaged.\n\n"
               "Installing Kelvarine again brings them back.");
     EXPECT_EQ(OpenHelpWindow(), nullptr);
-}
-
-TEST(HelpCollection, DamagedFileIsNoHelp)
-{
-    const QTemporaryDir folder;
-    for (const char *name : {"kelvarine.qch", "kelvarine.qhc"}) {
-        QFile file(folder.filePath(QLatin1String(name)));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("This is no database.");
-    }
-    EXPECT_EQ(OpenHelp(folder.path() + u'/'), nullptr);
-}
-
-TEST(HelpCollection, FullDiskStillShowsHelpButHasNoSearch)
-{
-    const QString collection = HelpFolder() + QStringLiteral("kelvarine.qhc");
-    const QByteArray bytes = BytesOf(collection);
-    {
-        const FullDisk disk;
-        const std::unique_ptr<HelpCollection> help = OpenHelp(HelpFolder());
-        ASSERT_NE(help, nullptr);
-        EXPECT_FALSE(help->Searchable);
-        EXPECT_FALSE(help->Engine->fileData(PageOfContext(*help->Engine, 208)).isEmpty());
-        HelpWindow window(OpenHelp(HelpFolder()));
-        EXPECT_FALSE(window.SearchText->isEnabled());
-        EXPECT_EQ(window.SearchResults->count(), 1);
-        window.ShowTopic(208);
-        EXPECT_EQ(window.Browser->documentTitle(), QStringLiteral("Settings: Logic"));
-    }
-    EXPECT_EQ(BytesOf(collection), bytes) << "the installed collection is left alone";
-}
-
-TEST(HelpCollection, LeavesNothingBehind)
-{
-    QString folder;
-    {
-        const std::unique_ptr<HelpCollection> help = OpenHelp(HelpFolder());
-        ASSERT_NE(help, nullptr);
-        folder = help->Folder.path();
-        EXPECT_TRUE(QFile::exists(folder));
-    }
-    EXPECT_FALSE(QFile::exists(folder));
 }
 
 } // namespace kelvarine::testing
