@@ -1,6 +1,7 @@
 // What the logic costs on games of every level: counting, rating, the alert scan, the first stage
 // of a hint, and each technique alone. Each benchmark goes through a sample of positions; the
 // counters tell the median, the mean and the worst of one position in microseconds.
+#include "benchmarks/counter_beside.h"
 #include "benchmarks/sample.h"
 #include "game/alert_scan.h"
 #include "generator/random_source.h"
@@ -159,6 +160,8 @@ void RegisterAll()
     Register("count, games that need chains or trial", hard, count);
     Register("count by the walk, 18 to 30 givens", sparse, walk);
     Register("count by the walk, games that need chains or trial", hard, walk);
+    RegisterCounterBeside("count by qqwing, 18 to 30 givens", sparse);
+    RegisterCounterBeside("count by qqwing, games that need chains or trial", hard);
     Register("rate, games that need chains or trial", hard, RateGame);
     Register("rate, games of all levels", all, RateGame);
     AlertMask = RatingMask;

@@ -11,11 +11,24 @@
 #include <functional>
 #include <numeric>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kelvarine {
 
 using Sample = std::vector<GridTable>;
+
+// What is told of the times of the positions, a time a position.
+inline void TellTimes(benchmark::State &state, std::vector<double> times)
+{
+    std::ranges::sort(times);
+    state.counters["median_us"] = times[times.size() / 2];
+    state.counters["mean_us"] =
+        std::accumulate(times.begin(), times.end(), 0.0) / static_cast<double>(times.size());
+    state.counters["99%_us"] = times[(times.size() - 1) * 99 / 100];
+    state.counters["worst_us"] = times.back();
+    state.counters["positions"] = static_cast<double>(times.size());
+}
 
 // Of several rounds through the sample the best time of each position counts.
 inline void Measure(benchmark::State &state, const Sample &sample,
@@ -32,13 +45,7 @@ inline void Measure(benchmark::State &state, const Sample &sample,
             times[k] = std::min(times[k], time.count());
         }
     }
-    std::ranges::sort(times);
-    state.counters["median_us"] = times[times.size() / 2];
-    state.counters["mean_us"] =
-        std::accumulate(times.begin(), times.end(), 0.0) / static_cast<double>(times.size());
-    state.counters["99%_us"] = times[(times.size() - 1) * 99 / 100];
-    state.counters["worst_us"] = times.back();
-    state.counters["positions"] = static_cast<double>(times.size());
+    TellTimes(state, std::move(times));
 }
 
 // Registers a benchmark that puts each position on Grid and does the work there.
