@@ -143,7 +143,9 @@ void mnuApplyLogic()
         ScanAlerts(ModeAlert);
         break;
     }
-    DrawBoard();
+    if (!TakeBannerAway()) {
+        DrawBoard();
+    }
 }
 
 void mnuSolveGame()

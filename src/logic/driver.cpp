@@ -370,13 +370,16 @@ void SetDriverDefaults()
     RunIsLong = False;
     RunUnderWay = False;
     AfterRun = nullptr;
+    bannerStands = false;
 }
 
-void TakeBannerAway()
+bool TakeBannerAway()
 {
-    if (std::exchange(bannerStands, false)) {
+    const bool stands = std::exchange(bannerStands, false);
+    if (stands) {
         DrawBoard();
     }
+    return stands;
 }
 
 void StartRun()

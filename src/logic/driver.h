@@ -56,8 +56,8 @@ std::int32_t ApplyLogic(std::int32_t mode);
 // The same, but after mostPasses passes it ends as a search that has tried everything.
 std::int32_t ApplyLogicWithin(std::int64_t mostPasses, std::int32_t mode);
 
-// Paints the board anew when a long run has left a banner there.
-void TakeBannerAway();
+// Paints the board anew when a long run has left a banner there, and tells whether it has.
+bool TakeBannerAway();
 
 // Parts of a run, for those that are not walked: the state that a run starts with and ends with,
 // the grid as it was at the start, and the numbers on the grid as one more solution of

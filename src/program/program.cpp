@@ -90,7 +90,8 @@ void KeepBeforeAsking()
 
 bool MayEndRun()
 {
-    if (SearchActive != False && (SearchKind != NotStoppable || RunIsLong != False)) {
+    const bool isStopped = SearchKind == SearchingGame && StopRequested != False;
+    if (!isStopped && SearchActive != False && (SearchKind != NotStoppable || RunIsLong != False)) {
         QueryStopSearch();
         return SearchActive == False;
     }

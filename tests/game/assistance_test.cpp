@@ -4,6 +4,7 @@
 #include "game/win_display.h"
 #include "grid/grid.h"
 #include "grid/history.h"
+#include "logic/rating.h"
 #include "logic/technique_masks.h"
 #include "support/outside_double.h"
 #include "support/play.h"
@@ -289,6 +290,23 @@ TEST_F(Assistance, LongRunShowsTheBannerAndLeavesTheGameWhenStopped)
     EXPECT_EQ(Grid, before);
     EXPECT_EQ(HistoryCount, levels);
     EXPECT_EQ(WinDisplayRunning, False);
+}
+
+TEST_F(Assistance, BannerOfALongRunIsTakenAwayOnce)
+{
+    StartLongRun();
+    Seen.OnYield = [] {
+        Seen.Steady += 3;
+        if (Seen.Yields == 2) {
+            SearchActive = False;
+        }
+    };
+    mnuApplyLogic();
+    EXPECT_EQ(Acts(), (Texts{"banner:  Standby ", "board: "}));
+    Seen.OnYield = nullptr;
+    ForgetRecord();
+    RateGame();
+    EXPECT_EQ(Acts(), Texts{}) << "a game that is rated for itself is on no board";
 }
 
 TEST_F(Assistance, NothingIsLetInBetweenTheYesAndTheEndOfTheRun)

@@ -234,6 +234,21 @@ TEST_F(WholeProgram, QuestionsOfASessionDuringARunCloseNothingLater)
     EXPECT_TRUE(Seen.LaterDeeds.empty());
 }
 
+TEST_F(WholeProgram, SearchThatThePlayerHasStoppedIsNotAskedAboutAgain)
+{
+    StartProgram("");
+    SearchKind = SearchingGame;
+    StopRequested = False;
+    StartRun();
+    Seen.YesNoAnswers = {true};
+    EXPECT_TRUE(MayEndRun());
+    EndRun();
+    StartRun(); // the rest of a rating
+    EXPECT_TRUE(MayEndRun());
+    EXPECT_EQ(Seen.Questions.size(), 1U);
+    EndRun();
+}
+
 TEST_F(WholeProgram, SignalAfterTheAnswerKeepsNothingMore)
 {
     StatisticsOpen = True;

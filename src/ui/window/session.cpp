@@ -173,7 +173,11 @@ bool EndAsAgreed()
         return false;
     }
     if (RunUnderWay != False && !wasAsked) {
-        SearchActive = False; // it ends with the program
+        // It ends with the program, and all that would follow with it: a search for a game, or what
+        // is done with a grid that the run has left half way.
+        SearchActive = False;
+        StopRequested = True;
+        RunIsLong = True;
     } else if (RunUnderWay != False || answeredGame != Grid) {
         return false;
     }
