@@ -21,11 +21,13 @@ fail() {
 }
 
 # wait_until WHAT COMMAND [ARGUMENT ...]: runs the command again and again until it succeeds; when it
-# has not within the limit, fails with what was waited for.
+# has not within the limit, fails with what was waited for. What the command complains of on the way
+# counts for nothing; where it knows that it never will succeed it sets hopeless to a sentence for fail.
 wait_until() {
-    local what=$1 end=$((SECONDS + WAIT_LIMIT))
+    local what=$1 end=$((SECONDS + WAIT_LIMIT)) hopeless=''
     shift
     until "$@" 2>/dev/null; do
+        [ -z "$hopeless" ] || fail "$hopeless"
         [ "$SECONDS" -lt "$end" ] || fail "Waited $WAIT_LIMIT s in vain for $what."
         sleep 0.05
     done

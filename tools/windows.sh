@@ -22,7 +22,7 @@ start_program() {
 }
 
 main_window() {
-    ended "$game" && fail "The program ended before its window was there."
+    ended "$game" && hopeless="The program ended before its window was there."
     new_window '^Kelvarine'
 }
 
