@@ -38,8 +38,12 @@ new_window() {
     return 1
 }
 
+# window_gone WINDOW: whether a window beside the main one has gone. A search that fails finds nothing at
+# all, so what it finds counts only with the main window among it.
 window_gone() {
-    ! xdotool search --onlyvisible --name '.' 2>/dev/null | grep -qx "$1"
+    local seen
+    seen=$(xdotool search --onlyvisible --name '.')
+    grep -qx "$board" <<<"$seen" && ! grep -qx "$1" <<<"$seen"
 }
 
 # Gives the window the focus and waits until it has it: a key that is sent before gets lost.

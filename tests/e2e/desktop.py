@@ -144,7 +144,7 @@ class Desktop:
     def name_evidence(self):
         try:
             self.screen().save(self.evidence / "screen.png")
-        except (OSError, error.XError) as reason:
+        except (OSError, error.XError, error.ConnectionClosedError) as reason:
             print(f"no picture of the screen: {reason}")
         print("what the failed run left:", *sorted(map(str, self.evidence.iterdir())), flush=True)
 
@@ -264,15 +264,22 @@ class Desktop:
         its text."""
         return self.run("xclip", "-selection", "clipboard", "-out", "-t", "TIMESTAMP", check=False)
 
+    def search(self, *words):
+        """The windows that a search finds. One that finds none says nothing; one that complains, as where
+        a window goes while it looks, has found out nothing and is made again."""
+        def found():
+            done = subprocess.run(["xdotool", "search", *words], env=self.environment,
+                                  capture_output=True, timeout=PATIENCE, check=False)
+            return None if done.stderr else [done.stdout.decode().split()]
+        return wait_for(found, "a search for windows that comes to its end")[0]
+
     def windows(self, name):
-        found = self.run("xdotool", "search", "--onlyvisible", "--name", name, check=False)
-        return found.decode().split()
+        return self.search("--onlyvisible", "--name", name)
 
     def boxes(self):
         """The boxes that the programs have made, also those that the manager has yet to bring into
         view."""
-        found = self.run("xdotool", "search", "--name", "^Kelvarine$", check=False).decode().split()
-        return [window for window in found if self.is_box(window)]
+        return [window for window in self.search("--name", "^Kelvarine$") if self.is_box(window)]
 
     def managed_windows(self):
         """The windows that the window manager holds, whatever their names: no menus, no lists."""
