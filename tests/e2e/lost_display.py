@@ -18,6 +18,8 @@ class LostDisplay(Desktop):
         self.screen_process.wait()
 
     def __exit__(self, failure, *_):
+        if failure:
+            self.name_evidence()
         for process in self.processes:
             if process.poll() is None:
                 process.kill()
