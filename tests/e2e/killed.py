@@ -17,16 +17,20 @@ import sys
 import tempfile
 import time
 
+from desktop import wait_for
+
 GAME_SIZE = 41360
 HEADER = b"Kelvarine game file v1.0".ljust(32)
 PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 
-# How long a program is left alone before it is killed, in seconds; at most.
-LONGEST_LIFE = 6.0
-PATIENCE = 150
+# What a life lasts for, by the lines that the program tells: how many of them, at least and at most.
+LIVES = {"state": (0, 300), "kept": (1, 2), "run": (1, 1)}
+# And how much longer at most, in seconds, so that the kill falls anywhere between two lines.
+LONGEST_REST = 0.5
 
 
 def expect(condition, what):
+    """Without a word of what is as it should be: that comes with every kill."""
     if not condition:
         raise AssertionError(what)
 
@@ -63,8 +67,10 @@ class Home:
             process = subprocess.Popen([self.program, str(self.draws.randrange(1 << 30)), self.game],
                                        env=self.environment, stdout=told,
                                        stderr=subprocess.DEVNULL)
-            self.wait_for_the_begin(process, log)
-            time.sleep(self.draws.uniform(0, LONGEST_LIFE))
+            kind = self.draws.choice(list(LIVES))
+            self.wait_for_lines(process, log, "begin", 1)
+            self.wait_for_lines(process, log, kind, self.draws.randint(*LIVES[kind]))
+            time.sleep(self.draws.uniform(0, LONGEST_REST))
             expect(process.poll() is None, "the program lives until it is killed")
             killed = time.monotonic() * 1000
             process.kill()
@@ -73,20 +79,21 @@ class Home:
         log.replace(self.path / "log of the one before")
         self.check_files(before)
 
-    def wait_for_the_begin(self, process, log):
-        end = time.monotonic() + PATIENCE
-        while "begin" not in log.read_text():
-            expect(process.poll() is None, "the program starts")
-            expect(time.monotonic() < end, "the program begins in time")
-            time.sleep(0.01)
+    @staticmethod
+    def wait_for_lines(process, log, kind, count):
+        def told():
+            expect(process.poll() is None, "the program lives until it is killed")
+            return sum(line.startswith(kind) for line in log.read_text().splitlines()) >= count
+        wait_for(told, f"{count} lines of the kind {kind}")
 
     def read(self, told, killed):
         lines = [line.split() for line in told.splitlines()]
         states = []  # time of its coming, state
         kept = 0     # index of the state at the last look that has come to the disk
-        looked, on_its_way = 0, False
+        looked, on_its_way, in_a_run = 0, False, False
         self.saves = self.keeps = 0
         for words in lines:
+            in_a_run = words[0] == "run" or (in_a_run and words[0] != "state")
             if words[0] in ("begin", "state"):
                 states.append((float(words[1]), words[2]))
             elif words[0] == "offered":
@@ -99,11 +106,10 @@ class Home:
                 self.keeps += 1
             elif words[0] == "busy":
                 self.busy += 1
-            elif words[0] == "run":
-                self.runs += 1
             elif words[0] == "saved":
                 kept = looked = len(states) - 1
                 self.saves += 1
+        self.runs += in_a_run
         self.check_begin(states[0][1])
         self.acceptable = [state for _, state in states[kept:]]
         self.times = states[kept:] + [(killed, None)]
@@ -158,7 +164,7 @@ def main():
     runs = sum(home.runs for home in homes)
     expect(runs > 0, "runs of the logic are killed, too")
     print(f"{kills} kills: {offers} games offered, all others were saved;",
-          f"{runs} runs of the logic; {sum(home.busy for home in homes)} looks came while the disk",
+          f"{runs} in runs of the logic; {sum(home.busy for home in homes)} looks came while the disk",
           "was still at work;",
           f"{sum(home.in_saves for home in homes)} kills left a name, for the next save to remove;",
           f"lost: median {lags[len(lags) // 2]:.2f} s, most {lags[-1]:.2f} s")
