@@ -24,7 +24,7 @@ LINKS = re.compile(r"^\| `(\w+)` \| (engine|engine and desktop|neither) \|$", re
 FOREIGN = {"LikeThis", "likeThis", "likeThis_", "mnu", "cmd", "opt", "chk", "txt", "cmb", "hsb", "vsb",
            "lbl", "tmr", "pic", "frm",
            "extern", "constexpr", "static_assert", "closeEvent", "ctest", "debug", "sanitize", "fuzz",
-           "player", "release", "Signature: N"}
+           "player", "release"}
 
 
 def rooms():

@@ -1,6 +1,6 @@
 // Makes what the pages of the help cannot hold as words: the table of keys, from the table that the
-// menus are built from, and the examples of the techniques, drawn by what
-// the game's own hint marks and says. Run by the build.
+// menus are built from, the reference, from menus and other pages, and the examples of techniques
+// and lessons, drawn by what the game's own hint marks and says. Run by the build.
 //
 //   make_help keyboard PAGE OUTPUT            PAGE with the table of keys in place of @KEYS@
 //   make_help reference PAGE OUTPUT           PAGE with tables of menus and of the pages beside it
