@@ -1,59 +1,44 @@
-#include "board/geometry.h"
 #include "commands/file_commands.h"
 #include "commands/new_games.h"
 #include "commands/restart.h"
 #include "commands/screen_commands.h"
 #include "commands/text_commands.h"
-#include "files/text_format.h"
 #include "game/alert_scan.h"
 #include "game/assistance.h"
-#include "game/check_state.h"
-#include "game/clock.h"
-#include "game/event_sound.h"
 #include "game/lifecycle.h"
 #include "game/logic_report.h"
 #include "game/transforms.h"
 #include "game/undo.h"
-#include "game/win_display.h"
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "input/givens.h"
 #include "input/keys.h"
+#include "input/keys_fixture.h"
 #include "input/mouse.h"
 #include "input/number_keys.h"
 #include "input/selection.h"
 #include "input/toolbar.h"
-#include "logic/driver.h"
 #include "outside/board.h"
-#include "outside/messages.h"
 #include "outside/window.h"
 #include "support/outside_double.h"
 #include "support/play.h"
-#include "support/positions.h"
 #include "support/scenario.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <functional>
 #include <map>
-#include <random>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace kelvarine::testing {
 namespace {
 
-using Texts = std::vector<std::string>;
 using Command = std::function<void()>;
 
 constexpr std::int32_t Any = -1;
-constexpr CellWord AllInView = 0x3FE;
-constexpr CellWord OnlyThree = 0x8;
-
-class Keys : public ::testing::Test {
-protected:
-    void SetUp() override
-    {
-        Restart();
-    }
-};
 
 // ---- What the keys do, told anew -----------------------------------------------------------
 
@@ -267,315 +252,6 @@ TEST_F(Keys, CodesStandForTheirKeys)
     EXPECT_EQ(KeypadCode, 96);
     EXPECT_EQ(KeypadMinusCode, 109);
     EXPECT_EQ(MinusCode, 189);
-}
-
-// ---- Single keys ---------------------------------------------------------------------------
-
-TEST_F(Keys, CtrlShiftSNeitherSavesNorTakesASnapshot)
-{
-    SetScenario(AllInView);
-    SnapshotAvailable = False;
-    const std::string before = ProgramState();
-    KeyDown('S', 3);
-    EXPECT_EQ(ProgramState(), before);
-    KeyDown('S', 0);
-    EXPECT_EQ(Acts(), Texts{"sound: snapshot.wav"});
-}
-
-TEST_F(Keys, AltWithADigitEntersIt)
-{
-    SetScenario(AllInView);
-    KeyDown('1', 4);
-    EXPECT_EQ(Grid[3][1] & CandidateMask, BitTable[1]);
-    EXPECT_EQ(Grid[4][1] & CandidateMask, BitTable[1]);
-    EXPECT_EQ(NumberFilter, AllInView);
-}
-
-TEST_F(Keys, ShiftZSolvesAndPlainZDoesNothing)
-{
-    SetScenario(AllInView);
-    KeyDown('Z', 0);
-    EXPECT_EQ(IsGridSolved(), False);
-    KeyDown('Z', 1);
-    EXPECT_EQ(IsGridSolved(), True);
-}
-
-TEST_F(Keys, HintKeyWithCtrlShiftDoesNothing)
-{
-    SetScenario(AllInView);
-    KeyDown('H', 3);
-    EXPECT_EQ(Seen.Calls, Texts{});
-}
-
-TEST_F(Keys, CtrlDActsAsD)
-{
-    SetScenario(AllInView);
-    const std::string before = ProgramState();
-    KeyDown('D', 0);
-    const std::string domain = ProgramState();
-    EXPECT_NE(domain, before);
-    SetScenario(AllInView);
-    KeyDown('D', 2);
-    EXPECT_EQ(ProgramState(), domain);
-}
-
-TEST_F(Keys, KeypadMinusCopiesTheLineAsTheMainMinusDoes)
-{
-    for (const std::int32_t code : {109, 189}) {
-        SetScenario(AllInView);
-        KeyDown(code, 2);
-        EXPECT_EQ(Seen.Clipboard, SingleLineText());
-    }
-}
-
-TEST_F(Keys, SnapshotKeyNeedsASnapshot)
-{
-    SetScenario(AllInView);
-    SnapshotAvailable = False;
-    const std::string before = ProgramState();
-    KeyDown('U', 0);
-    EXPECT_EQ(ProgramState(), before);
-}
-
-TEST_F(Keys, DeleteTakesTheNumbersInViewOrAll)
-{
-    SetScenario(OnlyThree);
-    Grid[3][1] = SelectedBit | BitTable[3] | BitTable[4];
-    KeyDown(46, 0);
-    EXPECT_EQ(Grid[3][1] & CandidateMask, BitTable[4]);
-    EXPECT_EQ(Grid[5][1] & CandidateMask, BitTable[7]) << "a given stays";
-    ForgetRecord();
-    KeyDown(46, 2);
-    EXPECT_EQ(Seen.Calls, Texts{}) << "no repaint without a change";
-    KeyDown(46, 1);
-    EXPECT_EQ(Grid[3][1] & CandidateMask, 0U);
-    EXPECT_EQ(Seen.Calls, (Texts{"board: ", "refresh: "}));
-}
-
-TEST_F(Keys, InsertAddsTheNumbersInViewOrAll)
-{
-    SetScenario(OnlyThree);
-    Grid[3][1] = SelectedBit;
-    KeyDown(45, 1);
-    EXPECT_EQ(Grid[3][1] & CandidateMask, BitTable[3]);
-    KeyDown(45, 2);
-    EXPECT_EQ(Grid[3][1] & CandidateMask, CandidateMask);
-    KeyDown(46, 0);
-    EXPECT_EQ(Grid[3][1] & CandidateMask, CandidateMask & ~BitTable[3]);
-}
-
-TEST_F(Keys, ZeroWithModifiersConcernsAllNumbers)
-{
-    SetScenario(OnlyThree);
-    KeyDown('0', 0);
-    EXPECT_EQ(Grid[3][1] & CandidateMask, CandidateMask);
-    KeyDown('0', 1);
-    EXPECT_EQ(Grid[3][1] & CandidateMask, 0U);
-    KeyDown('0', 2);
-    EXPECT_EQ(Grid[3][1] & CandidateMask, CandidateMask);
-    KeyDown('0', 3);
-    EXPECT_EQ(NumberFilter, AllInView);
-}
-
-TEST_F(Keys, LastNumberWinsTheGame)
-{
-    SetGivens(EasySolution);
-    Grid[1][1] = CandidateMask;
-    StartGame(0);
-    Grid[1][1] |= SelectedBit;
-    WinFiles = {"", "tune.win"};
-    WinSound = 1;
-    ForgetRecord();
-    KeyDown('5', 0);
-    EXPECT_EQ(Acts(), (Texts{"sound loop: tune.win", "board: ", "refresh: "}));
-    EXPECT_EQ(WinDisplayRunning, True);
-    EXPECT_EQ(StatsCounted, True);
-    EXPECT_EQ(HistoryCount, 2);
-}
-
-TEST_F(Keys, EntryIsFollowedByAScanForAlerts)
-{
-    SetGivens(EasySolution);
-    Grid[1][1] = CandidateMask;
-    Grid[5][5] = CandidateMask;
-    StartGame(0);
-    Grid[1][1] |= SelectedBit;
-    AlertMask = 0x2;
-    AlertFiles = {"", "new.alr"};
-    AlertSound = 1;
-    ForgetRecord();
-    KeyDown('1', 1);
-    EXPECT_EQ(CellsWith(AlertBit), "A1 E5");
-    EXPECT_EQ(Acts(), (Texts{"sound: new.alr", "board: ", "refresh: "}));
-}
-
-// ---- First steps of every key --------------------------------------------------------------
-
-TEST_F(Keys, KeyDuringTheWinDisplayStopsItAndThenActs)
-{
-    SetScenario(AllInView);
-    StartWinDisplay();
-    KeyDown('S', 0);
-    EXPECT_EQ(WinDisplayRunning, False);
-    EXPECT_EQ(Acts(), (Texts{"stop sound: ", "board: ", "sound: snapshot.wav"}));
-}
-
-TEST_F(Keys, EveryKeyStopsTheWinDisplay)
-{
-    for (const std::int32_t code : {7, 16, 17, 27, 33, 34, 48, 68, 83, 81, 112, 123}) {
-        SetScenario(AllInView);
-        StartWinDisplay();
-        KeyDown(code, 0);
-        EXPECT_EQ(WinDisplayRunning, False) << code;
-        EXPECT_FALSE(Seen.WinTimerOn);
-    }
-}
-
-TEST_F(Keys, KeyDuringAGameSearchOnlyBringsTheQuestion)
-{
-    for (const bool answer : {false, true}) {
-        SetScenario(AllInView);
-        StartWinDisplay();
-        SearchActive = True;
-        SearchKind = 1;
-        Seen.YesNoAnswers = {answer};
-        const GridTable before = Grid;
-        KeyDown('5', 0);
-        EXPECT_EQ(Seen.Calls,
-                  (Texts{"stop sound: ", "question: Would you like to stop searching?"}));
-        EXPECT_EQ(SearchActive, answer ? False : True);
-        EXPECT_EQ(Grid, before);
-        EXPECT_EQ(WinDisplayRunning, True);
-    }
-}
-
-TEST_F(Keys, KeyDuringAnyOtherSearchDoesNothing)
-{
-    for (const std::int32_t kind : {0, 4}) {
-        SetScenario(AllInView);
-        SearchActive = True;
-        SearchKind = kind;
-        const std::string before = ProgramState();
-        for (const std::int32_t code : {33, 45, 46, 48, 72, 83}) {
-            KeyDown(code, 0);
-        }
-        EXPECT_EQ(ProgramState(), before);
-        EXPECT_EQ(SearchActive, True);
-    }
-}
-
-// ---- Random play ---------------------------------------------------------------------------
-
-class RandomPlay : public Keys {
-protected:
-    std::mt19937 random{20240};
-
-    std::uint32_t Below(std::uint32_t limit)
-    {
-        return static_cast<std::uint32_t>(random() % limit);
-    }
-
-    template <std::size_t N>
-    std::int32_t OneOf(const std::array<std::int32_t, N> &codes)
-    {
-        return codes[Below(N)];
-    }
-
-    void PressAnyKey()
-    {
-        constexpr std::array<std::int32_t, 8> edits{45, 46, 33, 34, 37, 38, 39, 40};
-        switch (Below(6)) {
-        case 0:
-            KeyDown(static_cast<std::int32_t>(Below(256)), static_cast<std::int32_t>(Below(8)));
-            break;
-        case 1:
-        case 2:
-            KeyDown(OneOf(edits), static_cast<std::int32_t>(Below(4)));
-            break;
-        default:
-            KeyDown(48 + static_cast<std::int32_t>(Below(10)), static_cast<std::int32_t>(Below(3)));
-        }
-    }
-
-    void UseTheMouse()
-    {
-        const int x = static_cast<int>(Below(700)) - 50;
-        const int y = static_cast<int>(Below(750)) - 50;
-        const auto shift = static_cast<std::int32_t>(Below(8));
-        if (Below(3) == 0) {
-            BoardPressed(static_cast<std::int32_t>(Below(4)), shift, x, y);
-        } else {
-            BoardMoved(static_cast<std::int32_t>(Below(3)), shift, x, y);
-        }
-    }
-
-    void AnswerAnyhow()
-    {
-        const std::array<std::string, 5> texts{std::string(EasyGame), "", "5 12 9",
-                                               std::string(80, '3'), std::string(EasySolution)};
-        Seen.YesNoAnswers = {Below(2) == 0, Below(2) == 0};
-        Seen.SaveAnswers = {static_cast<Answer>(Below(3))};
-        Seen.Clipboard = texts[Below(5)];
-        Seen.TextAnswers = {texts[Below(5)]};
-        SolveMask = Below(2) == 0 ? 0 : 0x6;
-        AlertMask = Below(2) == 0 ? 0 : 0x6;
-    }
-
-    static void ExpectSoundHistory(int step)
-    {
-        ASSERT_GE(HistoryPosition, 1) << step;
-        ASSERT_LE(HistoryPosition, HistoryCount) << step;
-        ASSERT_LE(HistoryCount, 100) << step;
-        ASSERT_TRUE(SameCells(Grid, Level(HistoryPosition), LastingFields)) << step;
-    }
-};
-
-TEST_F(RandomPlay, NeverBreaksTheHistory)
-{
-    StartSavedGame(EasyGame);
-    for (int step = 0; step < 6000; ++step) {
-        AnswerAnyhow();
-        switch (Below(8)) {
-        case 0:
-        case 1:
-            UseTheMouse();
-            break;
-        case 2:
-            Seen.Now += 1;
-            ClockTick();
-            if (WinDisplayRunning != False) {
-                WinDisplayTick();
-            }
-            break;
-        default:
-            PressAnyKey();
-        }
-        ASSERT_NO_FATAL_FAILURE(ExpectSoundHistory(step));
-        ASSERT_EQ(CheckState(), "") << "after step " << step;
-        ForgetRecord();
-    }
-}
-
-TEST_F(RandomPlay, UndoThenRedoIsIdentity)
-{
-    StartSavedGame(EasyGame);
-    int undone = 0;
-    for (int step = 0; step < 1500; ++step) {
-        UseTheMouse();
-        PressAnyKey();
-        const std::int32_t position = HistoryPosition;
-        const GridTable before = Grid;
-        if (position < HistoryCount) {
-            KeyDown(33, 0);
-            ASSERT_EQ(HistoryPosition, position + 1);
-            KeyDown(34, 0);
-            ++undone;
-        }
-        ASSERT_EQ(HistoryPosition, position);
-        ASSERT_TRUE(SameCells(Grid, before, LastingFields | CellColour));
-        ForgetRecord();
-    }
-    EXPECT_GT(undone, 500);
 }
 
 } // namespace
