@@ -1,0 +1,62 @@
+// Game files written by the program into a folder of the test, and laid out by hand, word by word.
+#pragma once
+
+#include "files/game_file.h"
+#include "game/lifecycle.h"
+#include "support/outside_double.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace kelvarine::testing {
+
+class GameFile : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        Restart();
+    }
+
+    // The game as WriteGameFile leaves it on the disk.
+    std::string Written(const std::string &name = "game.sdk")
+    {
+        GameFilePath = Folder.Path(name);
+        EXPECT_TRUE(WriteGameFile());
+        return Folder.Read(name);
+    }
+
+    bool Open(std::string_view contents, const std::string &name = "given.sdk")
+    {
+        Folder.Write(name, contents);
+        return ReadGameFile(Folder.Path(name));
+    }
+
+    TemporaryFolder Folder;
+};
+
+// Puts a word, lowest byte first, at an element of a record.
+inline void PutWord(std::string &file, std::size_t record, std::size_t element, std::uint32_t word)
+{
+    const std::size_t place = 40 * (record - 1) + 4 * element;
+    file[place] = static_cast<char>(word % 256);
+    file[place + 1] = static_cast<char>(word / 256 % 256);
+    file[place + 2] = static_cast<char>(word / 65536 % 256);
+    file[place + 3] = static_cast<char>(word / 16777216);
+}
+
+inline constexpr std::string_view PaddedHeader = "Kelvarine game file v1.0        ";
+static_assert(PaddedHeader.size() == 32);
+
+// A file with the header and nothing else, to put words into.
+inline std::string BareFile()
+{
+    std::string file(41360, '\0');
+    file.replace(8, 32, PaddedHeader);
+    return file;
+}
+
+} // namespace kelvarine::testing
