@@ -7,7 +7,8 @@ import pathlib
 import subprocess
 import sys
 
-from desktop import Desktop, Game, expect, save_picture, wait_for
+from desktop import Desktop, expect, save_picture, wait_for
+from game import Game
 
 PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 ALMOST_DONE = "53467891267219534819834256785976142342685379171392485696153728428741963534528617."

@@ -8,7 +8,9 @@ import sys
 from PIL import Image
 from Xlib import X, Xutil
 
-from desktop import SELECTED_FILL, Board, Desktop, Game, expect, save_picture, wait_for
+from board import SELECTED_FILL, Board
+from desktop import Desktop, expect, save_picture, wait_for
+from game import Game
 
 PANEL = 40  # pixels that the panel takes
 

@@ -7,7 +7,8 @@ import os
 import subprocess
 import sys
 
-from desktop import Desktop, Game, expect, wait_for
+from desktop import Desktop, expect, wait_for
+from game import Game
 from long_run import GAME as LONG_RUN
 from over_boxes import MIRRORED, PUZZLE, Story, contents, make_files, walk, walk_back
 from random_game import banner_is_up

@@ -6,7 +6,8 @@ lost, whatever signal asked."""
 import signal
 import sys
 
-from desktop import Desktop, Game, expect, save_picture, wait_for
+from desktop import Desktop, expect, save_picture, wait_for
+from game import Game
 from over_boxes import MIRRORED, Story, contents, make_files, walk, walk_back
 
 

@@ -5,8 +5,9 @@ a game won and counted, the solutions of another one listed and saved."""
 import struct
 import sys
 
-from desktop import (Desktop, Game, SELECTED_FILL, expect, let_the_clock_tick, save_picture,
-                     wait_for)
+from board import SELECTED_FILL
+from desktop import Desktop, expect, let_the_clock_tick, save_picture, wait_for
+from game import Game
 
 SOLUTION = "534678912672195348198342567859761423426853791713924856961537284287419635345286179"
 

@@ -4,8 +4,9 @@
 import signal
 import sys
 
-from desktop import (Desktop, Game, GIVEN_FILL, SELECTED_FILL, UNKNOWN_FILL, expect, save_picture,
-                     wait_for)
+from board import GIVEN_FILL, SELECTED_FILL, UNKNOWN_FILL
+from desktop import Desktop, expect, save_picture, wait_for
+from game import Game
 
 PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 SOLUTION = "534678912672195348198342567859761423426853791713924856961537284287419635345286179"

@@ -5,7 +5,8 @@ unharmed by a broken file, and whole even when the program is killed while it sa
 import struct
 import sys
 
-from desktop import Desktop, Game, RECORD_SIZE, expect, save_picture, wait_for
+from desktop import Desktop, RECORD_SIZE, expect, save_picture, wait_for
+from game import Game
 
 PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 

@@ -6,7 +6,8 @@ import sys
 
 from Xlib import X
 
-from desktop import Configure, Desktop, Game, expect, wait_for
+from desktop import Desktop, expect, wait_for
+from game import Configure, Game
 
 PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 SIZE = 760, 830

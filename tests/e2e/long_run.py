@@ -5,7 +5,8 @@ work, No lets it go on, Yes brings the game back as it was, and a closing goes o
 import signal
 import sys
 
-from desktop import Desktop, Game, expect, save_picture, wait_for
+from desktop import Desktop, expect, save_picture, wait_for
+from game import Game
 from random_game import banner_is_up
 
 GAME = "1" + "." * 71 + "2......3."

@@ -4,7 +4,8 @@
 import shutil
 import sys
 
-from desktop import Desktop, Game, expect, wait_for
+from desktop import Desktop, expect, wait_for
+from game import Game
 
 GAME = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 MIRRORED = "".join(GAME[row:row + 9][::-1] for row in range(0, 81, 9))

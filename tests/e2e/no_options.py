@@ -5,7 +5,8 @@ nothing where there is no sound."""
 import subprocess
 import sys
 
-from desktop import Configure, Desktop, Game, expect
+from desktop import Desktop, expect
+from game import Configure, Game
 
 
 def refused(desktop, program):

@@ -1,7 +1,8 @@
 """Every dialog and every box that the program can stand behind, opened over a modified game with a
 file: what the stories of the program's end have in common."""
 
-from desktop import Configure, Game, expect, wait_for
+from desktop import expect, wait_for
+from game import Configure, Game
 
 PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 MIRRORED = "".join(PUZZLE[row:row + 9][::-1] for row in range(0, 81, 9))

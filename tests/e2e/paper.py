@@ -4,7 +4,8 @@ six games with its solutions, and a batch that cannot be met and is stopped."""
 
 import sys
 
-from desktop import Configure, Desktop, Game, expect, pictures, save_picture, wait_for
+from desktop import Desktop, expect, pictures, save_picture, wait_for
+from game import Configure, Game
 
 PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 

@@ -6,8 +6,9 @@ paused."""
 import pathlib
 import sys
 
-from desktop import (Desktop, Game, GIVEN_FILL, SELECTED_FILL, UNKNOWN_FILL, expect,
-                     save_picture, wait_for)
+from board import GIVEN_FILL, SELECTED_FILL, UNKNOWN_FILL
+from desktop import Desktop, expect, save_picture, wait_for
+from game import Game
 
 EASY = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 

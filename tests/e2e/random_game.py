@@ -4,7 +4,9 @@ finds the earlier game back."""
 
 import sys
 
-from desktop import Desktop, Game, GIVEN_FILL, expect, save_picture, wait_for
+from board import GIVEN_FILL
+from desktop import Desktop, expect, save_picture, wait_for
+from game import Game
 
 
 def answer(desktop, game, key):

@@ -4,7 +4,9 @@ found again when the program starts the next time."""
 
 import sys
 
-from desktop import Configure, Desktop, Game, GIVEN_FILL, expect, save_picture, wait_for
+from board import GIVEN_FILL
+from desktop import Desktop, expect, save_picture, wait_for
+from game import Configure, Game
 
 PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 

@@ -8,7 +8,9 @@ and from the files."""
 import signal
 import sys
 
-from desktop import Desktop, GIVEN_FILL, UNKNOWN_FILL, expect, expect_alive, save_picture, wait_for
+from board import GIVEN_FILL, UNKNOWN_FILL
+from desktop import Desktop, expect, save_picture, wait_for
+from game import expect_alive
 
 PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 GIVENS = 30
