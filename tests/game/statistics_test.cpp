@@ -162,7 +162,7 @@ TEST_F(Statistics, TotalSumsUpAndWeighsTheAverages)
 
 TEST_F(Statistics, BestTimeOfTheTotalIsTheLeastThatThereIs)
 {
-    StatisticsTable table{};
+    StatisticsTable table;
     FillStatisticsTable(table, {{{0, 1, 0, 0}, {0, 1, 9, 9}, {0, 1, 1, 1}, {0, 1, 2, 2}}},
                         PercentFormat::OneDecimal);
     EXPECT_EQ(table[TotalRow][3], "0:00:01 ");

@@ -10,10 +10,13 @@
 #include "ui/screens/time_bar.h"
 
 #include <QInputDialog>
+#include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QtTest>
+#include <gtest/gtest.h>
 
 namespace kelvarine::testing {
 namespace {
