@@ -54,6 +54,11 @@ QPoint ThumbAt(const QScrollBar &bar, int value)
 
 } // namespace
 
+QByteArray Name(const char *array, int k)
+{
+    return QByteArray(array) + QByteArray::number(k);
+}
+
 void ConfigureTest::SetUp()
 {
     Running = std::make_unique<Program>();

@@ -13,6 +13,13 @@
 
 namespace kelvarine::testing {
 
+// Two cells of the game on the board: a given, and one that is to be found.
+inline constexpr Cell Given{1, 1};
+inline constexpr Cell Unknown{3, 1};
+
+// The name of a control that is one of several, by its number.
+QByteArray Name(const char *array, int k);
+
 // A fresh program with a game on the board and the configuration screen open on a tab.
 class ConfigureTest : public ::testing::Test {
 protected:
