@@ -1,180 +1,31 @@
 #include "board/look.h"
 #include "commands/screen_commands.h"
-#include "files/text_format.h"
 #include "game/clock.h"
 #include "game/lifecycle.h"
 #include "game/solutions.h"
 #include "game/statistics.h"
-#include "game/undo.h"
 #include "game/win_display.h"
-#include "generator/game_number.h"
-#include "generator/random_source.h"
 #include "grid/grid.h"
 #include "grid/history.h"
-#include "input/menu_table.h"
 #include "input/toolbar.h"
-#include "logic/driver.h"
 #include "support/play.h"
 #include "support/positions.h"
 #include "support/widget_events.h"
-#include "support/widget_program.h"
+#include "support/widget_menus.h"
 #include "ui/window/board_widget.h"
 
-#include <QClipboard>
-#include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QtTest>
 #include <gtest/gtest.h>
 
-#include <map>
-#include <optional>
-#include <set>
-#include <sstream>
-
 namespace kelvarine::testing {
 namespace {
-
-using Texts = std::vector<std::string>;
-
-// ---- The table and the menus side by side --------------------------------------------------
-
-// An entry of the table, a row of numbers spread out, and the toolkit's action for it.
-struct Entry {
-    const MenuRow *Row = nullptr;
-    std::int32_t Number = 0;
-    int Level = 0; // where the action stands
-    QAction *Action = nullptr;
-    QMenu *Menu = nullptr; // that holds the action; null in a bar
-    QMenu *Top = nullptr;  // the top-level menu above it
-
-    [[nodiscard]] std::string Name() const
-    {
-        return std::string(Row->Name) + " " + std::to_string(Number);
-    }
-
-    // What an action named so and of that number is expected to say.
-    [[nodiscard]] std::string Text() const
-    {
-        const std::string shortcut = WithNumber(Row->Shortcut, Number);
-        const bool shown = !shortcut.empty() && shortcut != "F12";
-        return MenuCaption(*Row, Number) + (shown ? "\t" + shortcut : "");
-    }
-};
-
-void Walk(const QList<QAction *> &actions, const Entry &above, std::vector<Entry> &found)
-{
-    for (QAction *action : actions) {
-        Entry entry = above;
-        ++entry.Level;
-        entry.Action = action;
-        found.push_back(entry);
-        if (QMenu *menu = action->menu()) {
-            entry.Menu = menu;
-            entry.Top = entry.Top == nullptr ? menu : entry.Top;
-            Walk(menu->actions(), entry, found);
-        }
-    }
-}
-
-// The entries in the order of the screen; row and number of each from the order of the table.
-std::vector<Entry> EntriesOf(const MainWindow &window)
-{
-    std::vector<Entry> entries;
-    QList<QAction *> tops = window.menuBar()->actions();
-    tops.removeIf([](const QAction *action) { return action->isSeparator(); });
-    Walk(tops, {}, entries);
-    std::size_t k = 0;
-    for (const MenuRow &row : MenuTable) {
-        for (std::int32_t number = row.First; number <= row.Last && k < entries.size(); ++number) {
-            entries[k].Row = &row;
-            entries[k].Number = number;
-            ++k;
-        }
-    }
-    EXPECT_EQ(k, entries.size());
-    return entries;
-}
-
-Entry EntryNamed(const MainWindow &window, std::string_view name, std::int32_t number = 0)
-{
-    for (const Entry &entry : EntriesOf(window)) {
-        if (entry.Row->Name == name && entry.Number == number) {
-            return entry;
-        }
-    }
-    ADD_FAILURE() << "no entry " << name;
-    return {};
-}
 
 std::string NameOf(const QAction &action)
 {
     const QObject *named = action.menu() != nullptr ? static_cast<QObject *>(action.menu())
                                                     : const_cast<QAction *>(&action);
     return named->objectName().toStdString();
-}
-
-class MenuBar : public ::testing::Test {
-protected:
-    MenuBar()
-    {
-        program = std::make_unique<Program>();
-    }
-
-    void SetUp() override
-    {
-        Activate();
-    }
-
-    // A program as at the start.
-    void Renew()
-    {
-        program.reset();
-        program = std::make_unique<Program>();
-        Activate();
-    }
-
-    void Activate()
-    {
-        program->Main->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(program->Main.get(), Patience));
-    }
-
-    [[nodiscard]] MainWindow &Main() const
-    {
-        return *program->Main;
-    }
-
-    std::unique_ptr<Program> program;
-};
-
-void Open(QMenu *menu)
-{
-    menu->popup(QPoint(50, 50));
-    QCoreApplication::processEvents();
-}
-
-void CloseMenus()
-{
-    while (QWidget *menu = QApplication::activePopupWidget()) {
-        menu->close();
-    }
-    QCoreApplication::processEvents();
-}
-
-// Opens the menus above an entry and clicks on it, as a player does.
-void Choose(const Entry &entry)
-{
-    if (entry.Menu == nullptr) {
-        entry.Action->trigger(); // an entry of the bar itself
-        return;
-    }
-    Open(entry.Top);
-    if (entry.Menu != entry.Top) {
-        Open(entry.Menu);
-    }
-    Click(entry.Menu, entry.Menu->actionGeometry(entry.Action).center());
-    CloseMenus();
 }
 
 TEST_F(MenuBar, ShowsTheTableInItsOrder)
@@ -204,159 +55,6 @@ TEST_F(MenuBar, PauseAloneHasATrueAccelerator)
         accelerators += pause ? 1 : 0;
     }
     EXPECT_EQ(accelerators, 1);
-}
-
-// ---- What the entries do -------------------------------------------------------------------
-
-// A saved game in its middle: cells selected, levels to undo and redo, a snapshot, alerts, links
-// that none of the entries names, and so many numbers in view.
-void SetScene(CellWord filter = CandidateMask)
-{
-    init_genrand(1);
-    SetGame(EasyGame);
-    StartGame(NewGame);
-    AlertMask = 0x6;
-    mnuTakeSnapshot();
-    for (const CellWord candidates : {0x01EU, 0x2AAU, 0x0AAU}) {
-        Grid[3][1] = candidates | SelectedBit;
-        Grid[4][1] = (CandidateMask & ~candidates) | SelectedBit;
-        Grid[5][2] |= SelectedBit; // a given
-        PushUndoState();
-    }
-    Undo();
-    StrongLinkMode = 7;
-    SolveSeconds = 90;
-    NumberFilter = filter;
-    GameModified = False;
-    QGuiApplication::clipboard()->setText("a text");
-}
-
-// Everything that an entry may change and the windows that are open, as text.
-std::string StateNow()
-{
-    std::ostringstream text;
-    text << "history " << HistoryPosition << " of " << HistoryCount << "\nrating " << GameRating
-         << " givens " << GivenCount << "\nfilter " << NumberFilter << " links " << StrongLinkMode
-         << "\ntoolbar " << ToolbarVisible << ToolTipsVisible << ToolMode << ToolSign << "\nmargin "
-         << CoordinatesVisible << MarginThickness << "\nclock " << ClockRunning << PauseCaption
-         << (SolveSeconds >= 60) << "\nmodified " << GameModified << " snapshot "
-         << SnapshotAvailable << " number " << GameNumber << " win " << WinDisplayRunning
-         << "\nclipboard " << QGuiApplication::clipboard()->text().toStdString();
-    std::set<std::string> titles; // the toolkit lists the windows in no order
-    for (const QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->isVisible()) {
-            titles.insert(window->windowTitle().toStdString());
-        }
-    }
-    for (const std::string &title : titles) {
-        text << "\nwindow " << title;
-    }
-    text << '\n';
-    for (const Cell cell : Cells) {
-        text << WordAt(cell) << ' ' << History[SnapshotSlot][cell.Column][cell.Row] << ' ';
-    }
-    return text.str();
-}
-
-void CloseOtherWindows(const MainWindow &main)
-{
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window != &main) {
-            window->close();
-        }
-    }
-}
-
-struct KeyPress {
-    int Key = 0;
-    Qt::KeyboardModifiers Modifiers;
-};
-
-// The key that a shortcut text promises.
-std::optional<KeyPress> KeyOf(std::string shortcut)
-{
-    KeyPress key;
-    const auto take = [&](const std::string &prefix, Qt::KeyboardModifier modifier) {
-        if (shortcut.starts_with(prefix)) {
-            shortcut.erase(0, prefix.size());
-            key.Modifiers |= modifier;
-        }
-    };
-    take("Ctrl+", Qt::ControlModifier);
-    take("Shift+", Qt::ShiftModifier);
-    const std::map<std::string, int> named{{"Insert", Qt::Key_Insert},
-                                           {"Del", Qt::Key_Delete},
-                                           {"F12", Qt::Key_F12},
-                                           {" -", Qt::Key_Minus}};
-    if (const auto found = named.find(shortcut); found != named.end()) {
-        key.Key = found->second;
-    } else if (shortcut.size() == 1) {
-        key.Key = static_cast<unsigned char>(shortcut.front());
-    } else {
-        return std::nullopt;
-    }
-    return key;
-}
-
-using Act = std::function<void(const Entry &)>;
-
-class EntryOfMenu : public MenuBar {
-protected:
-    // The state after an act on the k-th entry of a fresh program, and the windows that came.
-    std::string After(std::size_t k, CellWord filter, const Act &act)
-    {
-        Renew();
-        SetScene(filter);
-        const Entry entry = EntriesOf(Main())[k];
-        std::string state;
-        const Texts windows = CloseModals([&] {
-            act(entry);
-            QCoreApplication::processEvents();
-            state = StateNow();
-        });
-        CloseOtherWindows(Main());
-        for (const std::string &window : windows) {
-            state += "\nmodal " + window;
-        }
-        return state;
-    }
-
-    void PressKey(const KeyPress &key)
-    {
-        QTest::keyClick(Main().Client->Board, static_cast<Qt::Key>(key.Key), key.Modifiers);
-    }
-
-    // Compares the three ways to an entry; true when the entry did something.
-    bool CompareWays(std::size_t k, CellWord filter)
-    {
-        const Entry entry = EntriesOf(Main())[k];
-        const std::string byMenu = After(k, filter, Choose);
-        EXPECT_EQ(byMenu, After(k, filter, [](const Entry &same) { same.Row->Run(same.Number); }))
-            << entry.Name();
-        if (const auto key = KeyOf(WithNumber(entry.Row->Shortcut, entry.Number))) {
-            EXPECT_EQ(byMenu, After(k, filter, [&](const Entry &) { PressKey(*key); }))
-                << entry.Name();
-            ++keysCompared;
-        }
-        return byMenu != After(k, filter, [](const Entry &) {});
-    }
-
-    int keysCompared = 0;
-};
-
-TEST_F(EntryOfMenu, DoesWhatItsRowAndItsKeyDo)
-{
-    const std::size_t count = EntriesOf(Main()).size();
-    for (std::size_t k = 0; k < count; ++k) {
-        const Entry entry = EntriesOf(Main())[k];
-        if (entry.Row->Run == nullptr) {
-            continue;
-        }
-        const bool acts = CompareWays(k, CandidateMask);
-        const bool actsOnThree = CompareWays(k, BitTable[3]);
-        EXPECT_TRUE(acts || actsOnThree) << entry.Name() << " does nothing";
-    }
-    EXPECT_GE(keysCompared, 100);
 }
 
 // ---- States when a menu opens --------------------------------------------------------------
@@ -473,76 +171,6 @@ TEST_F(MenuBar, OpeningAMenuEndsTheWinDisplay)
             EXPECT_EQ(WinDisplayRunning, False) << entry.Name();
             EXPECT_TRUE(entry.Action->menu()->isVisible());
             CloseMenus();
-        }
-    }
-}
-
-class MenuDuringASearch : public MenuBar {
-protected:
-    void SetUp() override
-    {
-        MenuBar::SetUp();
-        SearchActive = True;
-    }
-
-    void TearDown() override
-    {
-        SearchActive = False;
-        SearchKind = 0;
-    }
-};
-
-TEST_F(MenuDuringASearch, AsksAndHasNothingToOffer)
-{
-    const Texts question{"Kelvarine: Would you like to stop searching?"};
-    for (const Entry &entry : EntriesOf(Main())) {
-        if (entry.Level != 1 || entry.Action->menu() == nullptr) {
-            continue;
-        }
-        for (const std::int32_t kind : {0, 1, 4}) {
-            SearchKind = kind;
-            const Texts boxes = CloseModals([&] {
-                Open(entry.Action->menu());
-                QCoreApplication::processEvents();
-            });
-            EXPECT_EQ(boxes, kind == 1 ? question : Texts{}) << entry.Name();
-            EXPECT_FALSE(entry.Action->menu()->isVisible()) << entry.Name();
-            CloseMenus();
-        }
-    }
-}
-
-TEST_F(MenuDuringASearch, YesStopsTheSearchAndStillOffersNothing)
-{
-    SearchKind = 1;
-    QMenu *menu = EntryNamed(Main(), "mnuAction").Action->menu();
-    AnswerBoxes(
-        [&] {
-            Open(menu);
-            QCoreApplication::processEvents();
-        },
-        {QMessageBox::Yes});
-    EXPECT_EQ(SearchActive, False);
-    EXPECT_FALSE(menu->isVisible());
-    CloseMenus();
-}
-
-TEST_F(MenuDuringASearch, EntriesOnlyAsk)
-{
-    SearchActive = False;
-    SetScene();
-    SearchActive = True;
-    for (const Entry &entry : EntriesOf(Main())) {
-        if (entry.Row->Run == nullptr) {
-            continue;
-        }
-        for (const std::int32_t kind : {1, 4}) {
-            SearchKind = kind;
-            entry.Action->setEnabled(true);
-            const std::string before = StateNow();
-            const Texts boxes = CloseModals([&] { entry.Action->trigger(); });
-            EXPECT_EQ(boxes.size(), kind == 1 ? 1U : 0U) << entry.Name();
-            EXPECT_EQ(StateNow(), before) << entry.Name();
         }
     }
 }
