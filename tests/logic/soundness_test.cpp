@@ -192,8 +192,7 @@ TEST_F(Soundness, ThreeHintStagesSpeakOfOneConclusion)
         // The same technique explains the same cell in the same words when it is asked about it.
         Grid = position;
         AlertMask = RatingMask;
-        Grid[static_cast<std::size_t>(std::string_view("ABCDEFGHJ").find(target[0])) + 1]
-            [static_cast<std::size_t>(target[1] - '0')] |= SelectedBit;
+        WordAt(CellNamed(target)) |= SelectedBit;
         HintTitle.clear();
         ScanAlerts(ModeExplain);
         ASSERT_EQ(HintText, words);

@@ -24,29 +24,6 @@ struct Outcome {
     std::int32_t ChainNumber = 0;
 };
 
-// A cell as column letter and row, whatever the naming settings are.
-inline std::string PlainName(std::int32_t column, std::int32_t row)
-{
-    constexpr std::string_view letters = "ABCDEFGHJ";
-    return std::string(letters.substr(static_cast<std::size_t>(column) - 1, 1)) +
-           std::to_string(row);
-}
-
-inline Cell CellNamed(std::string_view name)
-{
-    constexpr std::string_view letters = "ABCDEFGHJ";
-    return MakeCell(static_cast<int>(letters.find(name[0])) + 1, name[1] - '0');
-}
-
-inline std::string DigitsOf(CellWord word)
-{
-    std::string digits;
-    for (std::size_t number = 1; number <= 9; ++number) {
-        digits += (word & BitTable[number]) != 0 ? std::to_string(number) : "";
-    }
-    return digits.empty() ? "." : digits;
-}
-
 inline std::string ChangesSince(const GridTable &before)
 {
     std::string text;
@@ -54,7 +31,7 @@ inline std::string ChangesSince(const GridTable &before)
         const CellWord now = WordAt(cell) & CandidateMask;
         if (now != (before[cell.Column][cell.Row] & CandidateMask)) {
             text += text.empty() ? "" : " ";
-            text += PlainName(cell.Column, cell.Row) + "=" + DigitsOf(now);
+            text += PlainName(cell) + "=" + DigitsOf(now);
         }
     }
     return text;

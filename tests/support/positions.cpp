@@ -8,6 +8,8 @@ namespace kelvarine::testing {
 
 namespace {
 
+constexpr std::string_view Letters = "ABCDEFGHJ";
+
 CellWord CandidatesOf(std::string_view digits)
 {
     CellWord word = 0;
@@ -17,17 +19,6 @@ CellWord CandidatesOf(std::string_view digits)
         }
     }
     return word;
-}
-
-std::string DigitsOf(CellWord word)
-{
-    std::string digits;
-    for (int number = 1; number <= 9; ++number) {
-        if ((word & BitTable[static_cast<std::size_t>(number)]) != 0) {
-            digits += std::to_string(number);
-        }
-    }
-    return digits.empty() ? "." : digits;
 }
 
 } // namespace
@@ -91,15 +82,39 @@ std::string NumbersOf(const GridTable &grid)
     return text;
 }
 
+std::string DigitsOf(CellWord word)
+{
+    std::string digits;
+    for (int number = 1; number <= 9; ++number) {
+        if ((word & BitTable[static_cast<std::size_t>(number)]) != 0) {
+            digits += std::to_string(number);
+        }
+    }
+    return digits.empty() ? "." : digits;
+}
+
+std::string PlainName(std::int32_t column, std::int32_t row)
+{
+    return Letters[static_cast<std::size_t>(column - 1)] + std::to_string(row);
+}
+
+std::string PlainName(Cell cell)
+{
+    return PlainName(cell.Column, cell.Row);
+}
+
+Cell CellNamed(std::string_view name)
+{
+    return MakeCell(static_cast<int>(Letters.find(name[0])) + 1, name[1] - '0');
+}
+
 std::string CellsWith(CellWord bits)
 {
-    constexpr std::string_view letters = "ABCDEFGHJ";
     std::string text;
     for (const Cell cell : Cells) {
         if ((WordAt(cell) & bits) != 0) {
             text += text.empty() ? "" : " ";
-            text += letters[cell.Column - 1U];
-            text += std::to_string(cell.Row);
+            text += PlainName(cell);
         }
     }
     return text;

@@ -3,6 +3,7 @@
 
 #include "grid/grid.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -25,8 +26,16 @@ std::string PencilmarksOf(const GridTable &grid);
 // The grid as 81 marks in a line: the number of a cell with one candidate, "." for any other.
 std::string NumbersOf(const GridTable &grid);
 
-// The cells whose word holds any of the bits, in scan order, such as "A1 A2 J9", columns as
-// letters without I and rows as digits whatever the naming settings are.
+// The candidates of a word as digits, "." for none.
+std::string DigitsOf(CellWord word);
+
+// Name of a cell, such as "J9", its column as a letter without I and its row as a digit whatever
+// the naming settings are, and the cell of a name.
+std::string PlainName(std::int32_t column, std::int32_t row);
+std::string PlainName(Cell cell);
+Cell CellNamed(std::string_view name);
+
+// The cells whose word holds any of the bits, in scan order, such as "A1 A2 J9".
 std::string CellsWith(CellWord bits);
 
 } // namespace kelvarine::testing

@@ -9,29 +9,6 @@ namespace kelvarine::testing {
 
 namespace {
 
-constexpr std::string_view Letters = "ABCDEFGHJ";
-
-std::string NameOfCell(int column, int row)
-{
-    return Letters[static_cast<std::size_t>(column - 1)] + std::to_string(row);
-}
-
-Cell CellNamed(std::string_view name)
-{
-    return MakeCell(static_cast<int>(Letters.find(name[0])) + 1, name[1] - '0');
-}
-
-std::string Candidates(CellWord word)
-{
-    std::string digits;
-    for (int number = 1; number <= 9; ++number) {
-        if ((word & BitTable[static_cast<std::size_t>(number)]) != 0) {
-            digits += std::to_string(number);
-        }
-    }
-    return digits.empty() ? "." : digits;
-}
-
 void Append(std::string &list, const std::string &item)
 {
     list += (list.empty() ? "" : " ") + item;
@@ -44,9 +21,9 @@ void DescribeChanges(const GridTable &before, Left &left)
     for (const Cell cell : Cells) {
         const CellWord was = before[cell.Column][cell.Row];
         const CellWord now = WordAt(cell);
-        const std::string name = NameOfCell(cell.Column, cell.Row);
+        const std::string name = PlainName(cell);
         if (((was ^ now) & CandidateMask) != 0) {
-            Append(left.Changed, name + " " + Candidates(was) + ">" + Candidates(now));
+            Append(left.Changed, name + " " + DigitsOf(was) + ">" + DigitsOf(now));
         }
         if (((was ^ now) & ~told) != 0) {
             Append(left.Other, name);
@@ -58,7 +35,7 @@ void DescribeList(Left &left)
 {
     for (std::size_t k = 1; k < ChainColumns.size(); ++k) {
         if (ChainColumns[k] != 0 || ChainRows[k] != 0) {
-            Append(left.List, NameOfCell(ChainColumns[k], ChainRows[k]));
+            Append(left.List, PlainName(ChainColumns[k], ChainRows[k]));
         }
     }
     if (ChainColumns[0] != 0 || ChainRows[0] != 0) {
@@ -72,7 +49,7 @@ bool IsInHouse(Cell cell, std::string_view house)
         const Cell other = CellNamed(house);
         return BoxIndex(cell.Column, cell.Row) == BoxIndex(other.Column, other.Row);
     }
-    return Letters[cell.Column - 1U] == house[0] || cell.Row == house[0] - '0';
+    return PlainName(cell).find(house[0]) != std::string::npos;
 }
 
 } // namespace
@@ -146,7 +123,7 @@ std::string CellsOf(std::string_view houses)
             inside = inside || IsInHouse(cell, house);
         }
         if (inside) {
-            Append(text, NameOfCell(cell.Column, cell.Row));
+            Append(text, PlainName(cell));
         }
     }
     return text;

@@ -6,32 +6,13 @@
 
 namespace kelvarine::testing {
 
-namespace {
-
-std::string NameOfCell(Cell cell)
-{
-    return std::string(1, "ABCDEFGHJ"[cell.Column - 1]) + std::to_string(cell.Row);
-}
-
-std::string CandidatesOfWord(CellWord word)
-{
-    std::string digits;
-    for (std::size_t number = 1; number <= 9; ++number) {
-        digits += (word & BitTable[number]) != 0 ? std::to_string(number) : "";
-    }
-    return digits.empty() ? "." : digits;
-}
-
-} // namespace
-
 std::string TracesSince(const GridTable &before, Flag found)
 {
     std::string text = found == True ? "found\n" : "";
     for (const Cell cell : Cells) {
         const CellWord old = before[cell.Column][cell.Row];
         if (((old ^ WordAt(cell)) & CandidateMask) != 0) {
-            text += NameOfCell(cell) + " " + CandidatesOfWord(old) + " -> " +
-                    CandidatesOfWord(WordAt(cell)) + "\n";
+            text += PlainName(cell) + " " + DigitsOf(old) + " -> " + DigitsOf(WordAt(cell)) + "\n";
         }
     }
     const auto line = [&](std::string_view name, CellWord bits) {
