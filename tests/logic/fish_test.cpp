@@ -1,4 +1,3 @@
-#include "grid/names.h"
 #include "logic/fish.h"
 #include "logic/technique.h"
 #include "support/outside_double.h"
@@ -15,16 +14,6 @@ protected:
     void SetUp() override
     {
         Restart();
-    }
-
-    // Cells are called (R4,6) in this style.
-    static void UseOtherNames()
-    {
-        ColumnFormat = 0;
-        RowFormat = 3;
-        CoordSeparator = 1;
-        CoordBrackets = 1;
-        CoordRowFirst = True;
     }
 };
 

@@ -1,5 +1,6 @@
 #include "support/technique_calls.h"
 
+#include "grid/names.h"
 #include "support/positions.h"
 
 #include <ostream>
@@ -111,6 +112,15 @@ Left Call(const Technique &technique, std::int32_t mode, std::string_view drawin
     DescribeChanges(before, left);
     DescribeList(left);
     return left;
+}
+
+void UseOtherNames()
+{
+    ColumnFormat = 0;
+    RowFormat = 3;
+    CoordSeparator = 1;
+    CoordBrackets = 1;
+    CoordRowFirst = True;
 }
 
 std::string CellsOf(std::string_view houses)

@@ -39,6 +39,9 @@ void SetPosition(std::string_view drawing);
 Left Call(const Technique &technique, std::int32_t mode, std::string_view drawing,
           std::string_view selected = "");
 
+// A style of names other than the one at the start: cells are called (R4,6) in it.
+void UseOtherNames();
+
 // The cells of some houses in scan order: "B" is a column, "4" a row, "B4" the box of that cell.
 std::string CellsOf(std::string_view houses);
 
