@@ -2,6 +2,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
+#include "logic/driver_fixture.h"
 #include "logic/technique_masks.h"
 #include "support/driver_games.h"
 #include "support/outside_double.h"
@@ -17,22 +18,7 @@
 namespace kelvarine::testing {
 namespace {
 
-class Driver : public ::testing::Test {
-protected:
-    void SetUp() override
-    {
-        Restart();
-        // SinglesMask are all that these tests build on, whatever other techniques there are.
-        LevelTable = {0, SinglesMask, 0, 0, 0, 0, 0, 0, 0, 0};
-    }
-
-    // Runs the driver with a mask and returns its result.
-    static std::int32_t Apply(std::int32_t mode, std::uint32_t mask)
-    {
-        SolveMask = mask;
-        return ApplyLogic(mode);
-    }
-};
+class Driver : public DriverOfSingles {};
 
 // First cell in scan order with more than one candidate.
 Cell FirstOpenCell()

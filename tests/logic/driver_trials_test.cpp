@@ -4,6 +4,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
+#include "logic/driver_fixture.h"
 #include "logic/technique_masks.h"
 #include "support/driver_games.h"
 #include "support/outside_double.h"
@@ -20,22 +21,7 @@
 namespace kelvarine::testing {
 namespace {
 
-class DriverTrials : public ::testing::Test {
-protected:
-    void SetUp() override
-    {
-        Restart();
-        // SinglesMask are all that these tests build on, whatever other techniques there are.
-        LevelTable = {0, SinglesMask, 0, 0, 0, 0, 0, 0, 0, 0};
-    }
-
-    // Runs the driver with a mask and returns its result.
-    static std::int32_t Apply(std::int32_t mode, std::uint32_t mask)
-    {
-        SolveMask = mask;
-        return ApplyLogic(mode);
-    }
-};
+class DriverTrials : public DriverOfSingles {};
 
 // ---- Trial and error -----------------------------------------------------------------------
 
