@@ -5,6 +5,7 @@
 #include "grid/grid.h"
 #include "logic/plain/forms.h"
 #include "logic/technique.h"
+#include "logic/technique_comparison.h"
 #include "logic/technique_masks.h"
 #include "logic/technique_table.h"
 #include "outside/clipboard.h"
@@ -79,36 +80,15 @@ bool Changes(const OperationList &operations)
     return found != False;
 }
 
-struct Outcome {
-    GridTable Words{};
-    Flag Found = False;
-    std::string Text;
-    std::string Title;
-    std::array<std::int32_t, 82> Columns{};
-    std::array<std::int32_t, 82> Rows{};
-
-    friend bool operator==(const Outcome &, const Outcome &) = default;
-};
-
-Outcome OutcomeOf(Operation operation, std::int32_t mode, const GridTable &start)
-{
-    Grid = start;
-    HintText.clear();
-    HintTitle.clear();
-    ChainColumns.fill(0);
-    ChainRows.fill(0);
-    Flag found = False;
-    operation(mode, found);
-    return {Grid, found, HintText, HintTitle, ChainColumns, ChainRows};
-}
-
 void Compare(const OperationList &fast, const OperationList &plain, std::int32_t mode,
              const GridTable &start)
 {
+    State before;
+    before.Words = start;
     for (std::size_t k = 0; k < fast.size(); ++k) {
         ASSERT_EQ(plain[k] == nullptr, fast[k] == nullptr) << "operation " << k;
         if (fast[k] != nullptr) {
-            ASSERT_EQ(OutcomeOf(fast[k], mode, start), OutcomeOf(plain[k], mode, start))
+            ASSERT_EQ(StateAfter(before, fast[k], mode), StateAfter(before, plain[k], mode))
                 << "operation " << k << " mode " << mode << " on\n"
                 << PencilmarksOf(start);
         }
