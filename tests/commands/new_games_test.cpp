@@ -47,18 +47,6 @@ protected:
     }
 };
 
-constexpr std::string_view Puzzle = R"(
-    53..7....
-    6..195...
-    .98....6.
-    8...6...3
-    4..8.3..1
-    7...2...6
-    .6....28.
-    ...419..5
-    ....8..79
-)";
-
 TEST_F(NewGames, NoLevelSelectedKeepsItsApostrophe)
 {
     DifficultySelection = 0;
@@ -128,7 +116,7 @@ TEST_F(NewGames, FewGivensAreAskedAboutAndNoEnds)
 
 TEST_F(NewGames, CancelInTheSaveQuestionChangesNothingAtAll)
 {
-    SetGivens(Puzzle);
+    SetGivens(EasyGame);
     StartGame(NewGame);
     const GridTable before = Grid;
     Seen.Calls.clear();
@@ -142,7 +130,7 @@ TEST_F(NewGames, CancelInTheSaveQuestionChangesNothingAtAll)
 
 TEST_F(NewGames, HopelessSearchRunsUntilItIsStopped)
 {
-    SetGivens(Puzzle);
+    SetGivens(EasyGame);
     StartGame(NewGame);
     GameFilePath = "/games/mine.sdk";
     SolveSeconds = 77;
@@ -178,7 +166,7 @@ TEST_F(NewGames, HopelessSearchRunsUntilItIsStopped)
 // search.
 TEST_F(NewGames, StopIsHeardAtEveryYield)
 {
-    SetGivens(Puzzle);
+    SetGivens(EasyGame);
     StartGame(NewGame);
     const GridTable before = Grid;
     MaxGivens = 40;
@@ -304,7 +292,7 @@ TEST_F(NewGames, NumberedGameMakesNoCheckOfTheSettings)
 
 TEST_F(NewGames, GivingUpTheNumberLeavesTheGame)
 {
-    SetGivens(Puzzle);
+    SetGivens(EasyGame);
     StartGame(NewGame);
     const GridTable before = Grid;
     Seen.Calls.clear();

@@ -319,7 +319,7 @@ TEST_F(Solutions, UndoAndRedoListAnew)
 
 TEST_F(Solutions, SolvedGridIsItsOnlySolution)
 {
-    SetGivens(SolvedGrid);
+    SetGivens(EasySolution);
     SolutionsFormat = 0;
     ListSolutions();
     EXPECT_EQ(SolutionsOnView,

@@ -1,6 +1,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "support/outside_double.h"
+#include "support/play.h"
 #include "support/positions.h"
 
 #include <gtest/gtest.h>
@@ -17,18 +18,6 @@ protected:
         Restart();
     }
 };
-
-constexpr std::string_view SolvedGrid = R"(
-    534678912
-    672195348
-    198342567
-    859761423
-    426853791
-    713924856
-    961537284
-    287419635
-    345286179
-)";
 
 // Rows and columns are permutations of 1..9, boxes are not.
 constexpr std::string_view BoxesClash = R"(
@@ -80,7 +69,7 @@ TEST_F(GridCore, CountCandidatesCountsEveryMask)
 
 TEST_F(GridCore, SolvedGridIsSolved)
 {
-    SetGivens(SolvedGrid);
+    SetGivens(EasySolution);
     EXPECT_EQ(IsGridSolved(), True);
 }
 
@@ -92,14 +81,14 @@ TEST_F(GridCore, EqualNumbersInABoxAreNoSolution)
 
 TEST_F(GridCore, SecondCandidateInACellIsNoSolution)
 {
-    SetGivens(SolvedGrid);
+    SetGivens(EasySolution);
     Grid[5][5] |= BitTable[1];
     EXPECT_EQ(IsGridSolved(), False);
 }
 
 TEST_F(GridCore, CellWithoutCandidatesIsNoSolution)
 {
-    SetGivens(SolvedGrid);
+    SetGivens(EasySolution);
     Grid[9][9] &= ~CandidateMask;
     EXPECT_EQ(IsGridSolved(), False);
 }
@@ -107,7 +96,7 @@ TEST_F(GridCore, CellWithoutCandidatesIsNoSolution)
 TEST_F(GridCore, EveryHouseCountsForASolution)
 {
     for (const House &house : Houses) {
-        SetGivens(SolvedGrid);
+        SetGivens(EasySolution);
         WordAt(house.Cells[0]) = WordAt(house.Cells[8]);
         EXPECT_EQ(IsGridSolved(), False);
     }
@@ -126,7 +115,7 @@ TEST_F(GridCore, EqualNumbersInARowAreNoSolution)
 
 TEST_F(GridCore, MarksDoNotMatterForASolution)
 {
-    SetGivens(SolvedGrid);
+    SetGivens(EasySolution);
     for (const Cell cell : Cells) {
         WordAt(cell) |= ~CandidateMask;
     }
@@ -198,7 +187,7 @@ TEST_F(GridCore, ClearCellBitsLeavesTheUnusedLinesAlone)
 
 TEST_F(GridCore, CountGivensCountsThemAnew)
 {
-    SetGivens(SolvedGrid);
+    SetGivens(EasySolution);
     Grid[1][1] &= ~GivenBit;
     GivenCount = 5;
     CountGivens();
@@ -207,7 +196,7 @@ TEST_F(GridCore, CountGivensCountsThemAnew)
 
 TEST_F(GridCore, SaveStartPositionCopiesTheCellsAlone)
 {
-    SetGivens(SolvedGrid);
+    SetGivens(EasySolution);
     Grid[0][0] = 1;
     SaveStartPosition();
     EXPECT_EQ(History[StartSlot][9][9], Grid[9][9]);

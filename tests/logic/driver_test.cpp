@@ -6,6 +6,7 @@
 #include "logic/technique_masks.h"
 #include "support/driver_games.h"
 #include "support/outside_double.h"
+#include "support/play.h"
 #include "support/positions.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +31,7 @@ Cell FirstOpenCell()
 
 TEST_F(Driver, SolvedGridInModeZeroNeedsNoUndoState)
 {
-    SetGivens(SolvedGrid);
+    SetGivens(EasySolution);
     EXPECT_EQ(Apply(SolveAsPlayer, SinglesMask), -1);
     EXPECT_EQ(SolutionCount, 1);
     EXPECT_EQ(HistoryCount, 0);
@@ -183,7 +184,7 @@ TEST_F(Driver, EveryPassClearsSelectionAndScratchMarksAlone)
 
 TEST_F(Driver, EveryRunBeginsItsRecordAnew)
 {
-    SetGivens(SolvedGrid);
+    SetGivens(EasySolution);
     UsedMask = 0xFFFFFFFF;
     SolutionCount = 17;
     SolutionList = "kept";
@@ -209,7 +210,7 @@ TEST_F(Driver, SafeCopyIsTheGridAtTheStart)
 TEST_F(Driver, LevelDecidesFirstAndNumberSecond)
 {
     const auto usedWith = [](std::uint32_t first, std::uint32_t second, std::uint32_t third) {
-        SetGivens(SolvedGrid);
+        SetGivens(EasySolution);
         Grid[1][1] = CandidateMask;
         LevelTable = {0, first, second, third, 0, 0, 0, 0, 0, 0};
         EXPECT_EQ(Apply(SolveForRating, RatingMask), -1);

@@ -5,6 +5,7 @@
 #include "logic/technique_masks.h"
 #include "support/driver_games.h"
 #include "support/outside_double.h"
+#include "support/play.h"
 #include "support/positions.h"
 
 #include <gtest/gtest.h>
@@ -80,7 +81,7 @@ protected:
 
 TEST_F(Rating, SolvedGameNeedsNothingAndRatesFive)
 {
-    EXPECT_EQ(RatingOf(SolvedGrid), 5);
+    EXPECT_EQ(RatingOf(EasySolution), 5);
     EXPECT_EQ(UsedMask, 0U);
     EXPECT_EQ(SolutionCount, 1);
 }
@@ -151,7 +152,7 @@ TEST_F(Rating, TrialOutsideTheLevelsIsRatedByTheOthers)
 TEST_F(Rating, WithoutTechniquesInTheLevelsTrialsSeeNoSolution)
 {
     LevelTable.fill(0);
-    EXPECT_EQ(RatingOf(SolvedGrid), 5);
+    EXPECT_EQ(RatingOf(EasySolution), 5);
     EXPECT_EQ(RatingOf(SinglesGame), 7);
     EXPECT_EQ(UsedMask, TrialBit);
 }
@@ -313,7 +314,7 @@ TEST_F(Rating, ReportPutsTrialAndErrorLast)
 
 TEST_F(Rating, ReportOfASolvedGameListsNothing)
 {
-    EXPECT_EQ(ReportOf(SolvedGrid), "Logic needed to solve:  \r\r\rRating: extreme");
+    EXPECT_EQ(ReportOf(EasySolution), "Logic needed to solve:  \r\r\rRating: extreme");
 }
 
 TEST_F(Rating, ReportOfSeveralSolutionsListsWhatTheCountUsed)

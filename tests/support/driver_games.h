@@ -16,18 +16,6 @@ namespace kelvarine::testing {
 inline constexpr std::uint32_t NakedSingleBit = MaskOf({NakedSingle});
 inline constexpr std::uint32_t HiddenSingleBit = MaskOf({HiddenSingle});
 
-inline constexpr std::string_view SolvedGrid = R"(
-    534678912
-    672195348
-    198342567
-    859761423
-    426853791
-    713924856
-    961537284
-    287419635
-    345286179
-)";
-
 // Naked singles alone solve it.
 inline constexpr std::string_view PlainGame = R"(
     ...31...5

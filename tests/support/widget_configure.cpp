@@ -8,6 +8,7 @@
 #include "outside/board.h"
 #include "outside/screens.h"
 #include "paint/board_painter.h"
+#include "support/play.h"
 #include "support/positions.h"
 #include "ui/controls/colour_swatches.h"
 
@@ -20,18 +21,6 @@
 namespace kelvarine::testing {
 
 namespace {
-
-constexpr std::string_view GameOnBoard = R"(
-    53..7....
-    6..195...
-    .98....6.
-    8...6...3
-    4..8.3..1
-    7...2...6
-    .6....28.
-    ...419..5
-    ....8..79
-)";
 
 // Middle of the thumb of a horizontal bar at a value.
 QPoint ThumbAt(const QScrollBar &bar, int value)
@@ -62,7 +51,7 @@ QByteArray Name(const char *array, int k)
 void ConfigureTest::SetUp()
 {
     Running = std::make_unique<Program>();
-    SetGame(GameOnBoard);
+    SetGame(EasyGame);
     StartGame(NewGame);
     GameModified = False;
     DrawBoard();
