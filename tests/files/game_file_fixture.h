@@ -3,12 +3,12 @@
 
 #include "files/game_file.h"
 #include "game/lifecycle.h"
+#include "support/file_words.h"
 #include "support/outside_double.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -37,16 +37,6 @@ protected:
 
     TemporaryFolder Folder;
 };
-
-// Puts a word, lowest byte first, at an element of a record.
-inline void PutWord(std::string &file, std::size_t record, std::size_t element, std::uint32_t word)
-{
-    const std::size_t place = 40 * (record - 1) + 4 * element;
-    file[place] = static_cast<char>(word % 256);
-    file[place + 1] = static_cast<char>(word / 256 % 256);
-    file[place + 2] = static_cast<char>(word / 65536 % 256);
-    file[place + 3] = static_cast<char>(word / 16777216);
-}
 
 inline constexpr std::string_view PaddedHeader = "Kelvarine game file v1.0        ";
 static_assert(PaddedHeader.size() == 32);

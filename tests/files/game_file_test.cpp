@@ -21,14 +21,6 @@ namespace {
 
 // ---- A file laid out by hand ---------------------------------------------------------------
 
-std::uint32_t WordOf(std::string_view file, std::size_t record, std::size_t element)
-{
-    const auto byte = [&](std::size_t i) {
-        return static_cast<unsigned char>(file[40 * (record - 1) + 4 * element + i]);
-    };
-    return byte(0) + 256U * byte(1) + 65536U * byte(2) + 16777216U * byte(3);
-}
-
 // A word that tells where it belongs, with bits in all four bytes.
 CellWord MarkedWord(std::size_t slot, std::size_t column, std::size_t row)
 {

@@ -6,6 +6,7 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "program/defaults.h"
+#include "support/file_words.h"
 #include "support/settings_folder.h"
 #include "support/widget_program.h"
 #include "ui/configure/configure_screen.h"
@@ -21,23 +22,10 @@
 namespace kelvarine::testing {
 namespace {
 
-// A word of a file, in its record 1..11 and element 0..9.
-std::int32_t WordOfFile(const std::string &bytes, std::size_t record, std::size_t element)
+// A word of a file, in its record 1..11 and element 0..9, as the number that it stands for.
+std::int32_t NumberOf(const std::string &bytes, std::size_t record, std::size_t element)
 {
-    std::uint32_t word = 0;
-    const std::size_t offset = (record - 1) * BytesInRecord + 4 * element;
-    for (std::size_t byte = 4; byte-- > 0;) {
-        word = word << 8 | static_cast<unsigned char>(bytes.at(offset + byte));
-    }
-    return static_cast<std::int32_t>(word);
-}
-
-void PutWordInFile(std::string &bytes, std::size_t record, std::size_t element, std::int32_t word)
-{
-    const std::size_t offset = (record - 1) * BytesInRecord + 4 * element;
-    for (std::size_t byte = 0; byte < 4; ++byte) {
-        bytes.at(offset + byte) = static_cast<char>(static_cast<std::uint32_t>(word) >> 8 * byte);
-    }
+    return static_cast<std::int32_t>(WordOf(bytes, record, element));
 }
 
 // The file of the defaults with one word changed.
@@ -45,7 +33,7 @@ std::string FileWith(std::size_t record, std::size_t element, std::int32_t word)
 {
     SetDefaults();
     std::string bytes = ConfigurationBytes();
-    PutWordInFile(bytes, record, element, word);
+    PutWord(bytes, record, element, static_cast<std::uint32_t>(word));
     return bytes;
 }
 
@@ -95,19 +83,19 @@ TEST_F(ProgramTest, ClosingAtOnceAsksNothing)
 TEST_F(ProgramTest, FileOfAnotherVersionLeavesTheDefaultsAndIsReplaced)
 {
     std::string file = FileWith(1, 1, 20);
-    PutWordInFile(file, 1, 0, 2);
+    PutWord(file, 1, 0, 2);
     Folders.PutSetting(FileName, file);
     Run([] { EXPECT_EQ(PrimaryThickness, 8); });
-    EXPECT_EQ(WordOfFile(File(), 1, 0), 1);
-    EXPECT_EQ(WordOfFile(File(), 1, 1), 8);
+    EXPECT_EQ(NumberOf(File(), 1, 0), 1);
+    EXPECT_EQ(NumberOf(File(), 1, 1), 8);
 }
 
 TEST_F(ProgramTest, WindowOnASecondScreenThatIsGoneComesBackAtTwoHundredTwips)
 {
     std::string file = FileWith(5, 1, 15 * 50'000);
-    PutWordInFile(file, 5, 2, -15 * 50'000);
-    PutWordInFile(file, 5, 3, 15 * 500);
-    PutWordInFile(file, 5, 4, 15 * 550);
+    PutWord(file, 5, 2, static_cast<std::uint32_t>(-15 * 50'000));
+    PutWord(file, 5, 3, 15 * 500);
+    PutWord(file, 5, 4, 15 * 550);
     Folders.PutSetting(FileName, file);
     Run([] {
         EXPECT_EQ(Window()->pos(), QPoint(200 / 15, 200 / 15));
@@ -121,7 +109,7 @@ TEST_F(ProgramTest, MaximisedWindowComesBackMaximised)
         Window()->showMaximized();
         QCoreApplication::processEvents();
     });
-    EXPECT_EQ(WordOfFile(File(), 5, 0), 2);
+    EXPECT_EQ(NumberOf(File(), 5, 0), 2);
     Run([] { EXPECT_TRUE(Window()->isMaximized()); });
 }
 
@@ -132,7 +120,7 @@ TEST_F(ProgramTest, SolutionsScreenIsNotReopened)
         EXPECT_EQ(ScreenOnView("frmSolutions"), nullptr);
         EXPECT_EQ(SolutionsOpen, False);
     });
-    EXPECT_EQ(WordOfFile(File(), 6, 5), 0);
+    EXPECT_EQ(NumberOf(File(), 6, 5), 0);
 }
 
 // ---- Screens beside the board --------------------------------------------------------------
@@ -143,8 +131,8 @@ TEST_F(ProgramTest, OpenScreensComeBackAndTheBoardHasTheKeys)
         Choose("mnuStatistics");
         Choose("mnuAlerts");
     });
-    EXPECT_EQ(WordOfFile(File(), 6, 0), -1) << "open when the closing began";
-    EXPECT_EQ(WordOfFile(File(), 7, 5), -1);
+    EXPECT_EQ(NumberOf(File(), 6, 0), -1) << "open when the closing began";
+    EXPECT_EQ(NumberOf(File(), 7, 5), -1);
     Run([] {
         ASSERT_NE(OpenConfigureScreen(), nullptr);
         EXPECT_TRUE(OpenConfigureScreen()->isVisible());
@@ -168,8 +156,8 @@ TEST_F(ProgramTest, ScreensClosedBeforeTheEndStayClosed)
         OpenConfigureScreen()->close();
         ScreenOnView("frmStatistics")->close();
     });
-    EXPECT_EQ(WordOfFile(File(), 6, 0), 0);
-    EXPECT_EQ(WordOfFile(File(), 7, 5), 0);
+    EXPECT_EQ(NumberOf(File(), 6, 0), 0);
+    EXPECT_EQ(NumberOf(File(), 7, 5), 0);
     Run([] {
         EXPECT_EQ(OpenConfigureScreen(), nullptr);
         EXPECT_EQ(ScreenOnView("frmStatistics"), nullptr);
@@ -199,8 +187,8 @@ TEST_F(ProgramTest, PlaceOfTheClosingCounts)
         MainPlace = {}; // as if no event had told of the window's place
         size = Window()->size();
     });
-    EXPECT_EQ(WordOfFile(File(), 5, 3), 15 * size.width());
-    EXPECT_EQ(WordOfFile(File(), 5, 4), 15 * size.height());
+    EXPECT_EQ(NumberOf(File(), 5, 3), 15 * size.width());
+    EXPECT_EQ(NumberOf(File(), 5, 4), 15 * size.height());
     EXPECT_LE(size.height(), QGuiApplication::primaryScreen()->availableSize().height());
 }
 
