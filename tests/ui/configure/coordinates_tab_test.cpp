@@ -23,7 +23,7 @@ protected:
 
     void ClickOption(const char *group, int k)
     {
-        Click(QByteArray(group) + QByteArray::number(k));
+        Click(Name(group, k));
     }
 };
 
@@ -47,7 +47,7 @@ TEST_F(CoordinatesTabTest, ShowsTheStateInItsFrames)
     Open(CoordinatesTab);
     for (const GroupRow &row : GroupRows) {
         for (int k = 0; k < row.Count; ++k) {
-            auto *option = Find<QAbstractButton>(QByteArray(row.Name) + QByteArray::number(k));
+            auto *option = Find<QAbstractButton>(Name(row.Name, k));
             EXPECT_EQ(option->isChecked(), k == *row.Setting) << row.Name << k;
             EXPECT_EQ(qobject_cast<QGroupBox *>(option->parentWidget())->title(), row.Frame);
         }

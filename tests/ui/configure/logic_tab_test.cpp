@@ -20,11 +20,6 @@ namespace {
 
 class LogicTabTest : public ConfigureTest {
 protected:
-    static QByteArray Name(const char *array, int k)
-    {
-        return QByteArray(array) + QByteArray::number(k);
-    }
-
     QString LevelShown(int k)
     {
         return Find<QLabel>(Name("lblDifficulty", k))->text();

@@ -26,7 +26,7 @@ TEST_F(NewGamesTabTest, CaptionsAndDefaults)
                                " None (expose cells manually)",
                                " Full rotation"};
     for (int k = 0; k < 10; ++k) {
-        auto *option = Find<QAbstractButton>(qPrintable(QString("optRevealPattern%1").arg(k)));
+        auto *option = Find<QAbstractButton>(Name("optRevealPattern", k));
         EXPECT_EQ(option->text(), patterns[k]);
         EXPECT_EQ(option->isChecked(), k == 5);
     }
@@ -52,9 +52,8 @@ TEST_F(NewGamesTabTest, ShowsTheState)
     SolveOnStart = True;
     Open(NewGamesTab);
     for (int level = 1; level <= 5; ++level) {
-        EXPECT_EQ(
-            Find<QAbstractButton>(qPrintable(QString("chkDifficulty%1").arg(level)))->isChecked(),
-            level == 3 || level == 5);
+        EXPECT_EQ(Find<QAbstractButton>(Name("chkDifficulty", level))->isChecked(),
+                  level == 3 || level == 5);
     }
     EXPECT_EQ(Find<QLineEdit>("txtMinNumGivens")->text(), "5");
     EXPECT_EQ(Find<QLineEdit>("txtMaxNumGivens")->text(), "81");
@@ -83,7 +82,7 @@ TEST_F(NewGamesTabTest, EveryPatternCanBeClicked)
 {
     Open(NewGamesTab);
     for (int k = 0; k < 10; ++k) {
-        Click(qPrintable(QString("optRevealPattern%1").arg(k)));
+        Click(Name("optRevealPattern", k));
         EXPECT_EQ(RevealPattern, k);
     }
 }

@@ -152,7 +152,7 @@ TEST_F(ScreenHabits, TextureInForceIsMarkedAndOthersDimmed)
     const auto marked = [&] {
         std::vector<int> numbers;
         for (int k = 0; k < 12; ++k) {
-            const auto *tile = Find<TextureTile>(QByteArray("tile") + QByteArray::number(k));
+            const auto *tile = Find<TextureTile>(Name("tile", k));
             if (tile->IsInForce()) {
                 numbers.push_back(k);
             }

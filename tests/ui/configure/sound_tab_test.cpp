@@ -93,7 +93,7 @@ TEST_F(SoundTabTest, BarsShowTheVolumesAndDraggingSetsThem)
     Drag("hsbVolume3", 0);
     EXPECT_EQ(SoundVolumes[3], 0);
     for (int k = 0; k < 4; ++k) {
-        const auto *bar = Find<QScrollBar>(QByteArray("hsbVolume") + QByteArray::number(k));
+        const auto *bar = Find<QScrollBar>(Name("hsbVolume", k));
         EXPECT_EQ(bar->minimum(), 0);
         EXPECT_EQ(bar->maximum(), 255);
         EXPECT_EQ(bar->pageStep(), 20);
@@ -104,7 +104,7 @@ TEST_F(SoundTabTest, BarsAreDisabledWhenNoVolumeCanBeRead)
 {
     OpenWithVolumes(false);
     for (int k = 0; k < 4; ++k) {
-        const QByteArray name = QByteArray("hsbVolume") + QByteArray::number(k);
+        const QByteArray name = Name("hsbVolume", k);
         EXPECT_FALSE(Find<QScrollBar>(name)->isEnabled());
         EXPECT_EQ(Find<QScrollBar>(name)->value(), 0) << "takes no value";
     }
