@@ -145,4 +145,16 @@ QImage PaintedNow()
     return BoardPicture().copy();
 }
 
+bool Holds(const QImage &picture, Colour colour)
+{
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if ((picture.pixel(x, y) & RGB_MASK) == colour) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 } // namespace kelvarine::testing

@@ -64,4 +64,7 @@ Colour PaintedIn(Cell cell);
 // The painted board as it is now, for comparison with a later one.
 QImage PaintedNow();
 
+// Whether some pixel of a picture has a colour.
+bool Holds(const QImage &picture, Colour colour);
+
 } // namespace kelvarine::testing

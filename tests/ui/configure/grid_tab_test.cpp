@@ -18,20 +18,6 @@ namespace {
 
 class GridTabTest : public ConfigureTest {};
 
-// True when some pixel of the painted board has a colour.
-bool IsPainted(Colour colour)
-{
-    const QImage board = PaintedNow();
-    for (int y = 0; y < board.height(); ++y) {
-        for (int x = 0; x < board.width(); ++x) {
-            if ((board.pixel(x, y) & RGB_MASK) == colour) {
-                return true;
-            }
-        }
-    }
-    return false;
-}
-
 struct BarRow {
     const char *Bar;
     const char *Label;
@@ -118,13 +104,13 @@ TEST_F(GridTabTest, ThicknessNullDrawsNoLines)
     SecondaryThickness = 3;
     Open(GridTab);
     Drag("hsbSecGridThick", 2);
-    EXPECT_TRUE(IsPainted(0xFF00FF));
-    EXPECT_TRUE(IsPainted(0x00FF00));
+    EXPECT_TRUE(Holds(PaintedNow(), 0xFF00FF));
+    EXPECT_TRUE(Holds(PaintedNow(), 0x00FF00));
     Drag("hsbPrimGridThick", 0);
-    EXPECT_FALSE(IsPainted(0xFF00FF));
-    EXPECT_TRUE(IsPainted(0x00FF00));
+    EXPECT_FALSE(Holds(PaintedNow(), 0xFF00FF));
+    EXPECT_TRUE(Holds(PaintedNow(), 0x00FF00));
     Drag("hsbSecGridThick", 0);
-    EXPECT_FALSE(IsPainted(0x00FF00));
+    EXPECT_FALSE(Holds(PaintedNow(), 0x00FF00));
 }
 
 TEST_F(GridTabTest, MarginBelowTwentyEightHasNoTexts)

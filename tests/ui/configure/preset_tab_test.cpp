@@ -138,22 +138,12 @@ TEST_F(PresetTabTest, PictureShowsTheColoursOfItsPreset)
     // Top left is a given cell, in its middle row beside the number.
     const QImage plain = PresetPicture(1, 130, 1);
     const QImage dark = PresetPicture(3, 130, 1);
-    const auto holds = [](const QImage &picture, Colour colour) {
-        for (int x = 0; x < picture.width(); ++x) {
-            for (int y = 0; y < picture.height(); ++y) {
-                if ((picture.pixel(x, y) & 0xFFFFFF) == colour) {
-                    return true;
-                }
-            }
-        }
-        return false;
-    };
-    EXPECT_TRUE(holds(plain, 0xFFFFFF)) << "cells";
-    EXPECT_TRUE(holds(plain, 0xCDCDCD)) << "the selected one";
-    EXPECT_TRUE(holds(plain, 0x00FE00)) << "the first hi-lite";
-    EXPECT_TRUE(holds(plain, 0x87FC87)) << "the second";
-    EXPECT_TRUE(holds(dark, 0x2B262A));
-    EXPECT_FALSE(holds(dark, 0xCDCDCD));
+    EXPECT_TRUE(Holds(plain, 0xFFFFFF)) << "cells";
+    EXPECT_TRUE(Holds(plain, 0xCDCDCD)) << "the selected one";
+    EXPECT_TRUE(Holds(plain, 0x00FE00)) << "the first hi-lite";
+    EXPECT_TRUE(Holds(plain, 0x87FC87)) << "the second";
+    EXPECT_TRUE(Holds(dark, 0x2B262A));
+    EXPECT_FALSE(Holds(dark, 0xCDCDCD));
 }
 
 } // namespace
