@@ -90,6 +90,8 @@ QWidget *MakeCoordinatesTab(QWidget *parent)
     auto *panel = new QWidget(parent);
     auto *rows = new QVBoxLayout(panel);
     auto *frames = new QHBoxLayout;
+    rows->setSpacing(PanelGap);
+    frames->setSpacing(PanelGap);
     auto *sample = new NameSample(panel);
     const auto add = [&](std::string_view name, std::string_view frame,
                          std::span<const std::string_view> captions, std::int32_t current,

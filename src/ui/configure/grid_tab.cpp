@@ -113,6 +113,7 @@ QWidget *MakeGridTab(QWidget *parent)
 {
     auto *panel = new QWidget(parent);
     auto *grid = new QGridLayout(panel);
+    grid->setSpacing(PanelGap);
     for (int k = 0; k < static_cast<int>(ThicknessRows.size()); ++k) {
         grid->addWidget(MakeThickness(panel, ThicknessRows[static_cast<std::size_t>(k)]), k / 2,
                         k % 2);

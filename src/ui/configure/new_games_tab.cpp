@@ -87,14 +87,15 @@ QWidget *MakeNewGamesTab(QWidget *parent)
     auto *rows = new QVBoxLayout(panel);
     auto *columns = new QHBoxLayout;
     auto *left = new QVBoxLayout;
+    rows->setSpacing(PanelGap);
+    columns->setSpacing(PanelGap);
+    left->setSpacing(PanelGap);
     left->addWidget(MakeDifficulties(panel));
-    left->addSpacing(8);
     left->addWidget(MakeGivens(panel));
     left->addStretch();
     columns->addLayout(left, 2);
     columns->addWidget(MakePatterns(panel), 3);
     rows->addLayout(columns);
-    rows->addSpacing(8);
     rows->addWidget(
         MakeStartFlag(panel, "chkFillPMs", " Fill unknown cells with pencilmarks", FillOnStart));
     rows->addWidget(MakeStartFlag(panel, "chkApplySolveLogic", " Apply selected \"Solve\" logic",

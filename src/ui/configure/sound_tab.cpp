@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QScopedValueRollback>
@@ -25,6 +26,7 @@ constexpr BarSteps VolumeSteps{VolumeBarMost, 1, 20};
 
 // What one event has on the tab. A row without a list of files has one that stays empty.
 struct SoundRow {
+    std::string_view Frame;
     std::string_view List;
     std::string_view Button;
     std::string_view Caption;
@@ -39,16 +41,17 @@ void TestNothing()
 }
 
 constexpr std::array SoundRows{
-    SoundRow{"cmbSoundAlert", "cmdTestAlert", "Alert", &AlertFiles, &AlertSound, TestAlertSound,
-             AlertVolume},
-    SoundRow{"cmbSoundWin", "cmdTestWin", "Win", &WinFiles, &WinSound, TestWinSound, WinVolume},
+    SoundRow{"When an alert is new", "cmbSoundAlert", "cmdTestAlert", "Alert", &AlertFiles,
+             &AlertSound, TestAlertSound, AlertVolume},
+    SoundRow{"When a game is solved", "cmbSoundWin", "cmdTestWin", "Win", &WinFiles, &WinSound,
+             TestWinSound, WinVolume},
 };
 
 // Out of the player's sight: the settings are kept, but no event plays these sounds.
 constexpr std::array HiddenSoundRows{
-    SoundRow{"cmbSoundAnnouncer", "cmdTestAnnouncer", "Announcer", &AnnouncerFiles, &AnnouncerSound,
-             TestNothing, 0},
-    SoundRow{"cmbDiceSound", "cmdTestClicks", "Cell Clicks", nullptr, nullptr, TestNothing, 1},
+    SoundRow{"", "cmbSoundAnnouncer", "cmdTestAnnouncer", "Announcer", &AnnouncerFiles,
+             &AnnouncerSound, TestNothing, 0},
+    SoundRow{"", "cmbDiceSound", "cmdTestClicks", "Cell Clicks", nullptr, nullptr, TestNothing, 1},
 };
 
 QStringList Entries(const SoundList *files)
@@ -63,29 +66,34 @@ QStringList Entries(const SoundList *files)
     return entries;
 }
 
-void AddRow(QGridLayout *grid, int row, const SoundRow &sound, bool visible)
+void AddLabelled(QGridLayout *grid, int row, const char *label, QWidget *control)
 {
-    QWidget *parent = grid->parentWidget();
+    auto *words = new QLabel(label, grid->parentWidget());
+    words->setBuddy(control);
+    grid->addWidget(words, row, 0);
+    grid->addWidget(control, row, 1);
+}
+
+QGroupBox *MakeSound(QWidget *panel, const SoundRow &sound)
+{
+    auto *frame = new QGroupBox(Text(sound.Frame), panel);
+    auto *grid = new QGridLayout(frame);
     const QString spoken = Text(sound.Caption);
-    auto *list =
-        MakeList(parent, Text(sound.List), spoken + " sound", Entries(sound.Files),
-                 sound.Setting != nullptr ? *sound.Setting : 0, [setting = sound.Setting](int k) {
-                     if (setting != nullptr) {
-                         *setting = k;
-                     }
-                 });
-    auto *button = MakeButton(parent, Text(sound.Button), sound.Caption, sound.Test);
-    auto *bar = MakeBar(parent, IndexedName("hsbVolume", static_cast<int>(sound.Volume)),
+    AddLabelled(grid, 0, "Sound",
+                MakeList(frame, Text(sound.List), spoken + " sound", Entries(sound.Files),
+                         sound.Setting != nullptr ? *sound.Setting : 0,
+                         [setting = sound.Setting](int k) {
+                             if (setting != nullptr) {
+                                 *setting = k;
+                             }
+                         }));
+    grid->addWidget(MakeButton(frame, Text(sound.Button), sound.Caption, sound.Test), 0, 2);
+    AddLabelled(grid, 1, "Volume",
+                MakeBar(frame, IndexedName("hsbVolume", static_cast<int>(sound.Volume)),
                         spoken + " volume", VolumeSteps, 0,
-                        [volume = sound.Volume](int value) { SetVolume(volume, value); });
-    if (visible) {
-        grid->addWidget(list, row, 0);
-        grid->addWidget(button, row, 1);
-        grid->addWidget(bar, row, 2);
-    }
-    for (QWidget *control : std::array<QWidget *, 3>{list, button, bar}) {
-        control->setVisible(visible);
-    }
+                        [volume = sound.Volume](int value) { SetVolume(volume, value); }));
+    grid->setColumnStretch(1, 1);
+    return frame;
 }
 
 } // namespace
@@ -94,22 +102,13 @@ QWidget *MakeSoundTab(QWidget *parent)
 {
     auto *panel = new QWidget(parent);
     auto *rows = new QVBoxLayout(panel);
-    auto *part = new QWidget(panel);
-    auto *grid = new QGridLayout(part);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setVerticalSpacing(12);
-    grid->addWidget(new QLabel("Volume", part), 0, 2, Qt::AlignHCenter);
-    int row = 1;
+    rows->setSpacing(PanelGap);
     for (const SoundRow &sound : SoundRows) {
-        AddRow(grid, row++, sound, true);
+        rows->addWidget(MakeSound(panel, sound));
     }
     for (const SoundRow &sound : HiddenSoundRows) {
-        AddRow(grid, row++, sound, false);
+        MakeSound(panel, sound)->hide();
     }
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(2, 1);
-    rows->addWidget(part);
-    rows->addSpacing(16);
     rows->addWidget(MakeCheckBox(panel, "chkDisableAllSound", " Disable all game sounds",
                                  SoundDisabled != False,
                                  [](bool on) { SoundDisabled = FlagOf(on); }));

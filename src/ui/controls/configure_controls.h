@@ -31,6 +31,10 @@ extern bool ShowingValues;   // controls are moved to values that were set elsew
 // True when the change of a control is the player's: no guard is on and no search is running.
 bool ChangesCount();
 
+// ---- Places ----------------------------------------------------------------------------------
+
+inline constexpr int PanelGap = 10; // between the groups of a panel, across and down
+
 // ---- Texts -----------------------------------------------------------------------------------
 
 // Name of a control of an array, such as "chkUseLogic3".
