@@ -16,10 +16,26 @@ namespace kelvarine {
 
 namespace {
 
-QImage TextureStrip()
+// A strip of tiles that were drawn for a device pixel ratio.
+struct Strip {
+    double Ratio;
+    const char *File;
+};
+
+constexpr std::array Strips{Strip{1, ":/textures.png"}, Strip{1.5, ":/textures-1.5.png"},
+                            Strip{2, ":/textures-2.png"}};
+
+// That of the ratio, or the next one below.
+const Strip &StripFor(double ratio)
 {
-    OpenResources();
-    return QImage(":/textures.png").convertToFormat(QImage::Format_RGB32);
+    const auto *above = std::ranges::find_if(
+        Strips.begin() + 1, Strips.end(), [&](const Strip &strip) { return strip.Ratio > ratio; });
+    return *(above - 1);
+}
+
+int SideAt(double ratio)
+{
+    return std::max(1, static_cast<int>(std::lround(TileSide * ratio)));
 }
 
 // The tiles at the size that they have on a screen, and for which device pixel ratio that is.
@@ -32,10 +48,13 @@ TileSet tileSet; // picture cache
 
 void CutTiles(double ratio)
 {
-    const QImage strip = TextureStrip();
-    const int side = std::max(1, static_cast<int>(std::lround(TileSide * ratio)));
+    OpenResources();
+    const Strip &strip = StripFor(ratio);
+    const QImage drawn = QImage(strip.File).convertToFormat(QImage::Format_RGB32);
+    const int drawnSide = SideAt(strip.Ratio);
+    const int side = SideAt(ratio);
     for (int tile = 0; tile < TileCount; ++tile) {
-        const QImage cut = strip.copy(0, tile * TileSide, TileSide, TileSide);
+        const QImage cut = drawn.copy(0, tile * drawnSide, drawnSide, drawnSide);
         // Not smoothed: greys between those of the tiles would tint the colours beneath.
         tileSet.Tiles[static_cast<std::size_t>(tile)] = cut.scaled(side, side);
     }
