@@ -23,6 +23,8 @@ namespace {
 
 using Refresh = std::function<void()>;
 
+constexpr int MostInk = 30; // percent of the page that need no advice
+
 QCheckBox *MakeFlagBox(QWidget *parent, const char *name, std::string_view caption, Flag &setting,
                        const Refresh &refresh)
 {
@@ -149,6 +151,31 @@ QPushButton *MakePrintButton(QWidget *panel)
     return button;
 }
 
+// Tells what a dark look costs on paper, and shows what a light one would look like.
+void MakeAdvice(PrintControls &on, QWidget *panel)
+{
+    on.Ink = Named(new QLabel(panel), "lblInk", {});
+    on.Ink->setWordWrap(true);
+    on.ShowLight =
+        Named(new QPushButton("Show a light look", panel), "cmdShowLight", "Show a light look");
+    on.ShowLight->setAutoDefault(false);
+    on.ShowLight->setCheckable(true);
+    on.Ink->hide();
+    on.ShowLight->hide();
+    QObject::connect(on.ShowLight, &QPushButton::toggled, on.Preview, &PrintPreview::ShowLight);
+    // In a turn of its own, since the ink is measured while the preview is painted.
+    QObject::connect(
+        on.Preview, &PrintPreview::InkChanged, panel,
+        [on](int percent) {
+            on.Ink->setText(Text("This look covers " + std::to_string(percent) +
+                                 " % of the page with ink. A light one needs far less."));
+            on.Ink->setVisible(percent > MostInk);
+            on.ShowLight->setVisible(percent > MostInk);
+            on.ShowLight->setChecked(on.ShowLight->isChecked() && percent > MostInk);
+        },
+        Qt::QueuedConnection);
+}
+
 void Arrange(const PrintControls &on, QWidget *panel)
 {
     auto *settings = new QVBoxLayout;
@@ -163,6 +190,9 @@ void Arrange(const PrintControls &on, QWidget *panel)
     auto *page = new QVBoxLayout;
     page->addWidget(on.Preview, 0, Qt::AlignHCenter);
     page->addWidget(on.Area, 0, Qt::AlignHCenter);
+    page->addSpacing(PanelGap);
+    page->addWidget(on.Ink);
+    page->addWidget(on.ShowLight, 0, Qt::AlignHCenter);
     page->addStretch();
     page->addWidget(on.Print, 0, Qt::AlignRight);
 
@@ -174,7 +204,7 @@ void Arrange(const PrintControls &on, QWidget *panel)
 // Goes through the controls as they are read, down the settings and then to the button.
 void OrderTabs(const PrintControls &on)
 {
-    const std::array<QWidget *, 14> order{on.Modes[PrintCurrent],
+    const std::array<QWidget *, 15> order{on.Modes[PrintCurrent],
                                           on.Left,
                                           on.Top,
                                           on.Width,
@@ -187,6 +217,7 @@ void OrderTabs(const PrintControls &on)
                                           on.Pages,
                                           on.Solutions,
                                           on.Grey,
+                                          on.ShowLight,
                                           on.Print};
     for (std::size_t k = 1; k < order.size(); ++k) {
         QWidget::setTabOrder(order[k - 1], order[k]);
@@ -204,6 +235,7 @@ PrintControls MakePrintControls(QWidget *panel, const std::function<void()> &ref
     on.Grey = MakeFlagBox(panel, "chkGreyScale", " Print in greyscale", PrintGreyScale, refresh);
     on.Area = Named(new QLabel(panel), "lblPrintableArea", {});
     on.Preview = new PrintPreview(panel);
+    MakeAdvice(on, panel);
     on.Print = MakePrintButton(panel);
     Arrange(on, panel);
     OrderTabs(on);

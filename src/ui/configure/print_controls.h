@@ -36,6 +36,8 @@ struct PrintControls {
     QCheckBox *Grey = nullptr;
     PrintPreview *Preview = nullptr;
     QLabel *Area = nullptr;
+    QLabel *Ink = nullptr;            // advice, hidden while there is no need of it
+    QPushButton *ShowLight = nullptr; // what would follow from it; shown with the advice
     QPushButton *Print = nullptr;
 };
 

@@ -46,6 +46,7 @@ constexpr std::array Tips{
     Tip{"txtNumPages", "How many pages of new games are printed"},
     Tip{"chkIncludeSolutions", "The solutions follow on pages of their own"},
     Tip{"chkGreyScale", "Kept while the program runs"},
+    Tip{"cmdShowLight", "Shows this page in a light look; the board keeps its own"},
     Tip{"cmdPrint", "Starts printing (Enter); pressed again it asks whether to stop"},
     // Logic
     Tip{"chkUseLogic", "Solving by logic may use this technique"},

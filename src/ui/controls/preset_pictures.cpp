@@ -7,12 +7,12 @@
 #include "game/win_display.h"
 #include "grid/grid.h"
 #include "paint/board_painter.h"
+#include "ui/controls/kept_painting.h"
 
 #include <array>
 #include <cmath>
 #include <map>
 #include <string_view>
-#include <tuple>
 
 namespace kelvarine {
 
@@ -36,38 +36,6 @@ constexpr Cell SelectedCell{4, 5};
 constexpr Cell AlertCell{2, 2};
 constexpr std::array HintCells{Cell{7, 1}, Cell{8, 2}};
 constexpr std::array DomainCells{Cell{8, 1}, Cell{9, 1}, Cell{7, 2}, Cell{9, 2}};
-
-// Everything that the painter of the board reads.
-auto PaintedState()
-{
-    return std::tie(Grid, NumberFilter, ChainColumns, ChainRows, ColourTable, GivenTexture,
-                    UnknownTexture, GridTexture, PrimaryThickness, SecondaryThickness,
-                    BorderThickness, MarginThickness, PrimaryGrid3D, SecondaryGrid3D, GivenCells3D,
-                    UnknownCells3D, SelectedCells3D, PencilmarkLayout, PencilmarkLines,
-                    StrongLinkMode, WinDisplayRunning, PauseCaption, CellWidth, CellHeight,
-                    GivenFontSize, PairFontSize, QuadFontSize, NineFontSize, BoardPlace);
-}
-
-// A copy of all that, put back when it goes out of scope.
-class KeptState {
-public:
-    KeptState() = default;
-    KeptState(const KeptState &) = delete;
-    KeptState &operator=(const KeptState &) = delete;
-    ~KeptState()
-    {
-        PaintedState() = kept;
-    }
-
-private:
-    template <typename... Types>
-    static std::tuple<Types...> CopyOf(const std::tuple<Types &...> &state)
-    {
-        return state;
-    }
-
-    decltype(CopyOf(PaintedState())) kept = CopyOf(PaintedState());
-};
 
 void SetSamplePosition()
 {
@@ -95,7 +63,7 @@ void SetSamplePosition()
 
 QImage PaintPreset(std::int32_t number, int side, double ratio)
 {
-    const KeptState kept;
+    const KeptPainting kept;
     LoadPreset(number);
     SetSamplePosition();
     NumberFilter = CandidateMask;

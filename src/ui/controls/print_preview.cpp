@@ -1,6 +1,7 @@
 #include "ui/controls/print_preview.h"
 
 #include "commands/print_run.h"
+#include "configure/presets.h"
 #include "generator/generator.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
@@ -8,11 +9,13 @@
 #include "paint/print_painter.h"
 #include "print/page_layout.h"
 #include "print/print_settings.h"
+#include "ui/controls/kept_painting.h"
 
 #include <QPainter>
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 namespace kelvarine {
 
@@ -21,6 +24,7 @@ namespace {
 constexpr QSize LargestPreview{210, 270};
 constexpr double BannerPoints = 18;
 constexpr double LinePoints = 8;
+constexpr std::int32_t LightPreset = 1; // white cells, thin lines
 
 // Draws a picture at a place, made smaller with care.
 void DrawSmall(QPainter &painter, const QImage &picture, const PagePlace &place)
@@ -41,21 +45,49 @@ bool GridIsAway()
     return SearchActive != False || SearchKind != NotStoppable;
 }
 
-void DrawCurrentGame(QPainter &painter, QSize page, const QImage &picture)
+// Where the page has pictures.
+std::vector<PagePlace> PlacesOn(QSize page)
 {
-    if (HasSize()) {
-        DrawSmall(painter, picture,
-                  CurrentGamePlace(page.width() / PrintableWidth, page.height() / PrintableHeight));
+    std::vector<PagePlace> places;
+    if (PrintMode == PrintNewGames) {
+        const auto index = static_cast<std::size_t>(PrintGamesPerPage);
+        const PageLayout layout = LayoutOfGames(index, page.width(), page.height());
+        for (int game = 0; game < GamesOnPage(); ++game) {
+            places.push_back(PlaceOf(layout, game));
+        }
+    } else if (HasSize()) {
+        places.push_back(
+            CurrentGamePlace(page.width() / PrintableWidth, page.height() / PrintableHeight));
     }
+    return places;
 }
 
-void DrawBatch(QPainter &painter, QSize page, const QImage &picture)
+QImage TakePicture()
 {
-    const auto index = static_cast<std::size_t>(PrintGamesPerPage);
-    const PageLayout layout = LayoutOfGames(index, page.width(), page.height());
-    for (int game = 0; game < GamesOnPage(); ++game) {
-        DrawSmall(painter, picture, PlaceOf(layout, game));
+    return PrintMode == PrintNewGames ? PictureOfGrid(false) : PictureOfBoard();
+}
+
+QImage TakeLightPicture()
+{
+    const KeptPainting kept;
+    LoadPreset(LightPreset);
+    MarginThickness = 0;
+    LayoutBoard(BoardPlace.Width, BoardPlace.Height, 0);
+    return TakePicture();
+}
+
+// Share of a picture that ink covers.
+double InkOf(const QImage &picture)
+{
+    double covered = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgb pixel = line[x];
+            covered += 255 - std::min({qRed(pixel), qGreen(pixel), qBlue(pixel)});
+        }
     }
+    return covered / (255.0 * picture.width() * picture.height());
 }
 
 void DrawProgress(QPainter &painter, QSize page)
@@ -80,19 +112,47 @@ void PrintPreview::FitPage()
     setFixedSize(size.expandedTo(QSize(1, 1)));
 }
 
+void PrintPreview::ShowLight(bool on)
+{
+    light = on;
+    update();
+}
+
+void PrintPreview::TakePictures()
+{
+    if (PrintRunning == False && !GridIsAway()) {
+        picture = TakePicture();
+        lightPicture = light ? TakeLightPicture() : QImage();
+        MeasureInk();
+    }
+}
+
+void PrintPreview::MeasureInk()
+{
+    double covered = 0;
+    for (const PagePlace &place : PlacesOn(size())) {
+        const QRectF onPage =
+            QRectF(place.Left, place.Top, place.Width, place.Height).intersected(rect());
+        covered += onPage.width() * onPage.height();
+    }
+    const double share = covered > 0 ? covered * InkOf(picture) / (width() * height()) : 0;
+    if (const int percent = qRound(share * 100); percent != ink) {
+        ink = percent;
+        emit InkChanged(percent);
+    }
+}
+
 void PrintPreview::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
-    if (PrintRunning == False && !GridIsAway()) {
-        picture = PrintMode == PrintNewGames ? PictureOfGrid(false) : PictureOfBoard();
-    }
+    TakePictures();
     if (PrintRunning != False) {
         DrawProgress(painter, size());
-    } else if (PrintMode == PrintNewGames) {
-        DrawBatch(painter, size(), picture);
     } else {
-        DrawCurrentGame(painter, size(), picture);
+        for (const PagePlace &place : PlacesOn(size())) {
+            DrawSmall(painter, lightPicture.isNull() ? picture : lightPicture, place);
+        }
     }
     painter.setPen(Qt::darkGray);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));

@@ -15,11 +15,25 @@ public:
     // Takes the proportions of the printable area.
     void FitPage();
 
+    // Shows the page in a light look instead of the player's, which stays as it is.
+    void ShowLight(bool on);
+
+signals:
+    // The player's look covers another share of the page with ink, in hundredths; of a colour
+    // counts the ink that there is most of.
+    void InkChanged(int percent);
+
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void TakePictures();
+    void MeasureInk();
+
     QImage picture; // of the game or of an empty grid, as it was when Grid was the player's last
+    QImage lightPicture;
+    bool light = false;
+    int ink = 0; // percent
 };
 
 } // namespace kelvarine
