@@ -1,5 +1,6 @@
 #include "files/file_address.h"
 #include "program/defaults.h"
+#include "ui/window/dark_outlines.h"
 #include "ui/window/program.h"
 #include "ui/window/program_icon.h"
 
@@ -61,6 +62,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(KELVARINE_VERSION));
     QApplication::setDesktopFileName("kelvarine");
     QApplication::setWindowIcon(kelvarine::ProgramIcon());
+    kelvarine::LightenDarkOutlines();
     kelvarine::SetDefaults();
     std::atexit(LeaveWithTheDisplay);
     running = true;

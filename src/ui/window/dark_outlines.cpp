@@ -1,0 +1,78 @@
+#include "ui/window/dark_outlines.h"
+
+#include <QApplication>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+namespace kelvarine {
+
+namespace {
+
+constexpr const char *PlainStyle = "fusion"; // the toolkit's own
+
+// How much of the text's colour an outline has.
+constexpr double TextShare = 0.45;
+
+// The style darkens the window's colour to that of an outline by this.
+constexpr double Darkening = 1.4;
+
+bool IsDark(const QPalette &palette)
+{
+    return palette.color(QPalette::Window).lightness() <
+           palette.color(QPalette::WindowText).lightness();
+}
+
+int Between(int window, int text)
+{
+    const double outline = window + TextShare * (text - window);
+    return std::min(255, static_cast<int>(outline * Darkening));
+}
+
+// A palette from which the style takes an outline that is lighter than the window.
+QPalette WithLightOutline(QPalette palette)
+{
+    const QColor window = palette.color(QPalette::Window);
+    const QColor text = palette.color(QPalette::WindowText);
+    palette.setColor(QPalette::Window, QColor(Between(window.red(), text.red()),
+                                              Between(window.green(), text.green()),
+                                              Between(window.blue(), text.blue())));
+    return palette;
+}
+
+class LightOutlines : public QProxyStyle {
+public:
+    LightOutlines() : QProxyStyle(QStyleFactory::create(PlainStyle))
+    {
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override
+    {
+        const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+        const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+        const bool isBox = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
+        if (isBox && button != nullptr && IsDark(option->palette)) {
+            QStyleOptionButton light = *button;
+            light.palette = WithLightOutline(light.palette);
+            QProxyStyle::drawPrimitive(element, &light, painter, widget);
+        } else if (element == PE_FrameLineEdit && frame != nullptr && IsDark(option->palette)) {
+            QStyleOptionFrame light = *frame;
+            light.palette = WithLightOutline(light.palette);
+            QProxyStyle::drawPrimitive(element, &light, painter, widget);
+        } else {
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+        }
+    }
+};
+
+} // namespace
+
+void LightenDarkOutlines()
+{
+    if (QApplication::style()->name() == PlainStyle) {
+        QApplication::setStyle(new LightOutlines);
+    }
+}
+
+} // namespace kelvarine
