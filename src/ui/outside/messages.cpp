@@ -9,6 +9,7 @@
 
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
@@ -70,6 +71,23 @@ void TakeIndentAway(const QMessageBox &box)
     grid->setColumnStretch(1, 1); // what the buttons need more is the text's
 }
 
+// The toolkit breaks a long text into lines of half a screen at most. Where the box is then higher
+// than the screen, as on a low one in large letters, its lines become longer.
+void WidenForHeight(QMessageBox &box)
+{
+    constexpr int step = 50; // pixels
+    auto *label = box.findChild<QLabel *>("qt_msgbox_label");
+    const QSize room = box.screen()->availableSize();
+    int width = 0;
+    while (SizeOnView(box).height() > room.height()) {
+        width = std::max(width, label->width()) + step;
+        if (width + RoomAroundLine > room.width()) {
+            return;
+        }
+        label->setMinimumWidth(width);
+    }
+}
+
 // A line of this many characters is read without scrolling; so long is a whole game.
 constexpr int CharactersInView = 81;
 
@@ -93,6 +111,7 @@ QMessageBox::StandardButton RunBox(QMessageBox::Icon icon, const QString &text,
     if (icon == QMessageBox::NoIcon) {
         TakeIndentAway(box);
     }
+    WidenForHeight(box);
     if (asker == Window()) {
         MoveBesideBoard(box);
     }

@@ -23,6 +23,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
@@ -174,8 +175,9 @@ void LookAtBox(const std::function<void()> &action, int controls)
         }
         ++seen;
         EXPECT_GE(ExpectRoomForTexts(*box), controls) << box->windowTitle().toStdString();
-        EXPECT_LE(box->width(), CommonScreen.width());
-        EXPECT_LE(box->height(), CommonScreen.height());
+        const QSize screen = box->screen()->availableSize().boundedTo(CommonScreen);
+        EXPECT_LE(box->width(), screen.width()) << box->windowTitle().toStdString();
+        EXPECT_LE(box->height(), screen.height()) << box->windowTitle().toStdString();
         box->reject();
     });
     watch.start(1);
