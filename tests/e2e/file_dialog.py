@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""The file dialog and the places that a player goes to with it: home and documents, hidden folders,
-names that are no text, ten thousand files, a folder without rights, one that vanishes and a volume that
-goes away while the dialog is open."""
+"""The file dialog and the places that a player goes to with it: home and documents, the whole system,
+folders that were used before, hidden folders, names that are no text, ten thousand files, a folder
+without rights, one that vanishes and a volume that goes away while the dialog is open."""
 
 import os
 import subprocess
@@ -80,6 +80,23 @@ def home_and_documents(desktop, game):
     fills(home, "above.sdk")
     box = opens(desktop, "alt+l", "BackSpace", name="above.sdk")
     enters(desktop, game, box, PUZZLE, "Backspace in the list leads to the folder above")
+
+
+def system_and_recent_folders(desktop, game):
+    home = desktop.home
+    fills(home / "far away", "kept.sdk")
+    box = opens(desktop, name=f"{home}/far away/kept.sdk")
+    enters(desktop, game, box, PUZZLE, "a path to a file opens it")
+    fills(home / "far away", "kept.sdk", OTHER)
+    box = opens(desktop, name="~/")
+    desktop.key("Return", "alt+p", "End")
+    types(desktop, "kept.sdk")
+    save_picture(desktop.picture_of(box), "file_dialog_recent")
+    enters(desktop, game, box, OTHER, "a folder that was used before is a place")
+    box = opens(desktop, "alt+p", "Home", "Down", "Down", name=f"{str(home)[1:]}/")
+    desktop.key("Return")
+    types(desktop, "above.sdk")
+    enters(desktop, game, box, PUZZLE, "the whole system is a place, from which a path leads on")
 
 
 def hidden_and_odd_names(desktop, game):
@@ -194,6 +211,7 @@ def main():
         game = Game(desktop, program)
         game.resize(900, 980)
         home_and_documents(desktop, game)
+        system_and_recent_folders(desktop, game)
         hidden_and_odd_names(desktop, game)
         ten_thousand_files(desktop, game)
         vanished_folder(desktop, game)
