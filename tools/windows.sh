@@ -1,5 +1,11 @@
 # The windows of the program on a display with a window manager, for scripts to source after
-# waiting.sh: started, found by name, brought to the front, seen to go.
+# waiting.sh, with tools as the folder of both: started, found by name, brought to the front, seen to go.
+
+# on_virtual_display SCRIPT [ARGUMENT ...]: begins the script again on a display of its own, unless it is
+# there already.
+on_virtual_display() {
+    [ -n "${ON_VIRTUAL_DISPLAY:-}" ] || ON_VIRTUAL_DISPLAY=yes exec "$tools/virtual_display" 1280x1024 "$@"
+}
 
 # Gives the program a home of its own, so that it neither reads nor writes anybody's files.
 use_home_of_its_own() {
