@@ -7,6 +7,7 @@
 #include "print/print_settings.h"
 #include "support/play.h"
 #include "support/positions.h"
+#include "support/widget_pace.h"
 #include "support/widget_paper.h"
 #include "support/widget_program.h"
 #include "ui/configure/print_tab.h"
@@ -417,9 +418,9 @@ TEST_F(PrintTabs, PreviewKeepsItsPictureWhileALongRunWorksOnTheGrid)
 TEST_F(PrintTabs, ButtonOfARunningBatchAsksAndThePreviewShowsItsProgress)
 {
     const QTemporaryDir folder;
+    const TurnAtEveryYield turns;
     Find<QRadioButton>("optPrintGame(1)")->click();
     Find<QComboBox>("cmbGamesPerPage")->setCurrentIndex(4);
-    DifficultySelection = BitTable[5]; // long enough to be stopped
     const QImage before = Preview();
     const GridTable game = Grid;
     QImage during;
@@ -449,6 +450,7 @@ TEST_F(PrintTabs, ButtonOfARunningBatchAsksAndThePreviewShowsItsProgress)
 TEST_F(PrintTabs, TabThatIsClosedDuringABatchDoesNoHarm)
 {
     const QTemporaryDir folder;
+    const TurnAtEveryYield turns;
     Find<QRadioButton>("optPrintGame(1)")->click();
     Find<QComboBox>("cmbGamesPerPage")->setCurrentIndex(4);
     QTimer close;
