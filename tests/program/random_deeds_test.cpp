@@ -186,8 +186,7 @@ protected:
         }
         if (second * 1000 % RecoveryInterval == 0) {
             RecoveryTick();
-            while (IsWriting()) {
-            }
+            EXPECT_EQ(EndWrite(), "");
         }
     }
 
