@@ -54,7 +54,8 @@ TEST_F(Configuration, NothingOfALongerFileSurvivesWriting)
     EXPECT_EQ(Folders.ReadSetting("config.sdu"), BytesOf(DefaultWords));
 }
 
-TEST_F(Configuration, EveryElementStandsAtItsPlace)
+// A value of its own for every setting, record by record.
+void ChangeTheLook()
 {
     PrimaryThickness = 11;
     SecondaryThickness = 12;
@@ -78,6 +79,10 @@ TEST_F(Configuration, EveryElementStandsAtItsPlace)
     for (std::uint32_t entry = 0; entry < 12; ++entry) {
         ColourTable.at(entry) = 0x010203U * (entry + 1);
     }
+}
+
+void ChangeNewGamesAndPlaces()
+{
     RevealPattern = 9;
     FillOnStart = True;
     SolveOnStart = True;
@@ -94,6 +99,10 @@ TEST_F(Configuration, EveryElementStandsAtItsPlace)
     FileDialogPlace = {7, 8, 303, 403};
     StatisticsOpen = True;
     StatisticsPlace = {9, 10, 304, 404};
+}
+
+void ChangeLogicPrintingViewAndSound()
+{
     SolveMask = 0x7FFFE;
     AlertMask = 0x80000001;
     PrintAspect = False;
@@ -120,6 +129,13 @@ TEST_F(Configuration, EveryElementStandsAtItsPlace)
     WinSound = 0;
     SoundVolumes = {0, 256, 4096, 65280};
     SoundDisabled = True;
+}
+
+TEST_F(Configuration, EveryElementStandsAtItsPlace)
+{
+    ChangeTheLook();
+    ChangeNewGamesAndPlaces();
+    ChangeLogicPrintingViewAndSound();
     const auto colour = [](std::int32_t times) {
         return FileColour(1 * times, 2 * times, 3 * times);
     };
