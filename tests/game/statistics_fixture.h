@@ -7,6 +7,7 @@
 #include "logic/driver.h"
 #include "outside/whole_file.h"
 #include "support/outside_double.h"
+#include "support/solved_game.h"
 
 #include <gtest/gtest.h>
 
@@ -26,14 +27,6 @@ protected:
     void SetUp() override
     {
         Restart();
-    }
-
-    static void Solve(std::int32_t rating, double seconds)
-    {
-        GameRating = rating;
-        SolveSeconds = seconds;
-        StatsCounted = False;
-        UpdateStatistics();
     }
 
     static std::string FileBytes()

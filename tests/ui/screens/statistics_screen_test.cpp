@@ -4,6 +4,7 @@
 #include "game/statistics.h"
 #include "grid/grid.h"
 #include "outside/whole_file.h"
+#include "support/solved_game.h"
 #include "support/widget_program.h"
 
 #include <QApplication>
@@ -33,14 +34,6 @@ protected:
     [[nodiscard]] std::string Shown(const char *name) const
     {
         return Label(name)->text().toStdString();
-    }
-
-    static void Solve(std::int32_t rating, double seconds)
-    {
-        GameRating = rating;
-        SolveSeconds = seconds;
-        StatsCounted = False;
-        UpdateStatistics();
     }
 
     Program program;

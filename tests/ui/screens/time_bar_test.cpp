@@ -6,6 +6,7 @@
 #include "outside/clipboard.h"
 #include "outside/messages.h"
 #include "outside/screens.h"
+#include "support/solved_game.h"
 #include "support/widget_program.h"
 #include "ui/screens/time_bar.h"
 
@@ -27,14 +28,6 @@ TEST(TimeBar, ReadsTimesOfTheTables)
     EXPECT_EQ(SecondsOf("2:00:00 "), 7200);
     EXPECT_EQ(SecondsOf("0"), 0);
     EXPECT_EQ(SecondsOf(""), 0);
-}
-
-void Solve(std::int32_t rating, double seconds)
-{
-    GameRating = rating;
-    SolveSeconds = seconds;
-    StatsCounted = False;
-    UpdateStatistics();
 }
 
 TEST(TimeBar, IsAsLongAsTheTimesBesideIt)
