@@ -437,14 +437,12 @@ int Run(std::span<char *> arguments)
     }
     SetDefaults();
     source.seed(static_cast<unsigned>(std::atoi(arguments[3])));
-    const auto row = std::find_if(Techniques.begin(), Techniques.end(), [&](const auto &one) {
-        return one.HelpPage == std::string_view(arguments[4]);
-    });
-    if (row == Techniques.end()) {
+    const TechniqueRow *row = TechniqueOfPage(arguments[4]);
+    if (row == nullptr) {
         std::cerr << "no technique " << arguments[4] << '\n';
         return EXIT_FAILURE;
     }
-    wish = {&*row, arguments[5], arguments[6], std::regex(arguments[6]), std::atoi(arguments[7])};
+    wish = {row, arguments[5], arguments[6], std::regex(arguments[6]), std::atoi(arguments[7])};
     PlayAll(arguments[1], std::atoi(arguments[2]));
     if (best.Text.empty()) {
         std::cerr << "none found\n";

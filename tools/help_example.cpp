@@ -123,15 +123,20 @@ std::int32_t TechniqueOfHint()
     return technique;
 }
 
+const TechniqueRow *TechniqueOfPage(std::string_view page)
+{
+    const auto row = std::find_if(Techniques.begin(), Techniques.end(),
+                                  [&](const TechniqueRow &one) { return one.HelpPage == page; });
+    return row == Techniques.end() ? nullptr : &*row;
+}
+
 std::uint32_t MaskOfPages(const std::string &pages)
 {
     std::uint32_t mask = 0;
     std::istringstream names(pages);
     for (std::string name; names >> name;) {
-        const auto row =
-            std::find_if(Techniques.begin(), Techniques.end(),
-                         [&](const TechniqueRow &one) { return one.HelpPage == name; });
-        mask |= row != Techniques.end() ? BitOf(row->Number) : 0;
+        const TechniqueRow *row = TechniqueOfPage(name);
+        mask |= row != nullptr ? BitOf(row->Number) : 0;
     }
     return mask;
 }

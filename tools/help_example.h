@@ -4,6 +4,7 @@
 
 #include "grid/cell_word.h"
 #include "grid/houses.h"
+#include "logic/technique_table.h"
 
 #include <cstdint>
 #include <string>
@@ -53,6 +54,9 @@ std::string HintWords(std::int32_t stage);
 
 // The technique of the first hint on Grid; 0 when there is none.
 std::int32_t TechniqueOfHint();
+
+// The technique whose page of the help has this name; null when none has.
+const TechniqueRow *TechniqueOfPage(std::string_view page);
 
 // ---- Games that are played along with a lesson -------------------------------------------------
 

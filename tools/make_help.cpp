@@ -210,9 +210,8 @@ const TechniqueRow &TechniqueOf(const QFileInfo &output, const std::string &page
 {
     const std::string named = HeadWord(page, "technique");
     const std::string name = named.empty() ? output.baseName().toStdString() : named;
-    const auto row = std::find_if(Techniques.begin(), Techniques.end(),
-                                  [&](const TechniqueRow &one) { return one.HelpPage == name; });
-    if (row == Techniques.end()) {
+    const TechniqueRow *row = TechniqueOfPage(name);
+    if (row == nullptr) {
         Fail("no technique has the page " + name);
     }
     return *row;
