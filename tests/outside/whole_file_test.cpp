@@ -1,5 +1,6 @@
 #include "outside/folders.h"
 #include "outside/whole_file.h"
+#include "support/empty_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -14,18 +15,6 @@ namespace {
 
 class WholeFile : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        std::string form = (std::filesystem::temp_directory_path() / "kelvarine-XXXXXX").string();
-        ASSERT_NE(::mkdtemp(form.data()), nullptr);
-        Folder = form;
-    }
-
-    void TearDown() override
-    {
-        std::filesystem::remove_all(Folder);
-    }
-
     [[nodiscard]] std::string Path(const std::string &name) const
     {
         return (Folder / name).string();
@@ -43,7 +32,8 @@ protected:
         return std::distance(std::filesystem::directory_iterator(folder), {});
     }
 
-    std::filesystem::path Folder;
+    const EmptyFolder Own;
+    const std::filesystem::path Folder = Own.Path();
     std::string Error;
 };
 

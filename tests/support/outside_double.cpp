@@ -15,6 +15,7 @@
 #include "outside/timers.h"
 #include "outside/window.h"
 #include "program/defaults.h"
+#include "support/empty_folder.h"
 #include "support/settings_folder.h"
 
 #include <cstdlib>
@@ -29,45 +30,23 @@ OutsideRecord Seen;
 
 namespace {
 
-// Folders of this process for what the program keeps, empty at every start.
-class OwnFolders {
-public:
-    OwnFolders()
-    {
-        std::string form = (std::filesystem::temp_directory_path() / "kelvarine-XXXXXX").string();
-        if (::mkdtemp(form.data()) == nullptr) {
-            std::abort(); // the tests must not touch the files of the person who runs them
-        }
-        home = form;
-    }
-    OwnFolders(const OwnFolders &) = delete;
-    OwnFolders &operator=(const OwnFolders &) = delete;
-    ~OwnFolders()
-    {
-        std::error_code failure;
-        std::filesystem::remove_all(home, failure);
-    }
-
-    void Use() const
-    {
-        std::filesystem::remove_all(home / "data");
-        std::filesystem::remove_all(home / "config");
-        ::setenv("HOME", home.c_str(), 1);
-        ::setenv("XDG_DATA_HOME", (home / "data").c_str(), 1);
-        ::setenv("XDG_CONFIG_HOME", (home / "config").c_str(), 1);
-    }
-
-private:
-    std::filesystem::path home;
-};
+// Makes a folder the home of this process, in which the program has kept nothing yet.
+void UseHome(const std::filesystem::path &home)
+{
+    std::filesystem::remove_all(home / "data");
+    std::filesystem::remove_all(home / "config");
+    ::setenv("HOME", home.c_str(), 1);
+    ::setenv("XDG_DATA_HOME", (home / "data").c_str(), 1);
+    ::setenv("XDG_CONFIG_HOME", (home / "config").c_str(), 1);
+}
 
 } // namespace
 
 void Restart()
 {
-    static const OwnFolders folders;
+    static const EmptyFolder home; // not the one of the person who runs the tests
     if (SettingsFolders::InUse == 0) {
-        folders.Use();
+        UseHome(home.Path());
     }
     SetDefaults();
     Seen = {};

@@ -26,31 +26,24 @@ int SettingsFolders::InUse = 0;
 
 SettingsFolders::SettingsFolders()
 {
-    std::string form = (std::filesystem::temp_directory_path() / "kelvarine-XXXXXX").string();
-    if (::mkdtemp(form.data()) == nullptr) {
-        throw std::runtime_error("cannot make " + form);
-    }
-    home_ = form;
     ++InUse;
-    ::setenv("XDG_CONFIG_HOME", (home_ / "config").c_str(), 1);
-    ::setenv("XDG_DATA_HOME", (home_ / "data").c_str(), 1);
+    ::setenv("XDG_CONFIG_HOME", (home_.Path() / "config").c_str(), 1);
+    ::setenv("XDG_DATA_HOME", (home_.Path() / "data").c_str(), 1);
 }
 
 SettingsFolders::~SettingsFolders()
 {
     --InUse;
-    std::error_code failure;
-    std::filesystem::remove_all(home_, failure);
 }
 
 std::filesystem::path SettingsFolders::Settings() const
 {
-    return home_ / "config" / "kelvarine";
+    return home_.Path() / "config" / "kelvarine";
 }
 
 std::filesystem::path SettingsFolders::Data() const
 {
-    return home_ / "data" / "kelvarine";
+    return home_.Path() / "data" / "kelvarine";
 }
 
 void SettingsFolders::PutSetting(const std::string &name, const std::string &bytes) const

@@ -1,6 +1,8 @@
 // Folders of settings and data of a test's own, so that no test sees or touches the player's.
 #pragma once
 
+#include "support/empty_folder.h"
+
 #include <filesystem>
 #include <string>
 
@@ -27,7 +29,7 @@ public:
     static int InUse; // number of such folders
 
 private:
-    std::filesystem::path home_;
+    EmptyFolder home_;
 };
 
 } // namespace kelvarine::testing

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "outside/whole_file.h"
+#include "support/empty_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -14,24 +14,10 @@ namespace kelvarine::testing {
 
 class TemporaryFolder {
 public:
-    TemporaryFolder()
-    {
-        std::string form = (std::filesystem::temp_directory_path() / "kelvarine-XXXXXX").string();
-        EXPECT_NE(::mkdtemp(form.data()), nullptr);
-        path_ = form;
-    }
-    TemporaryFolder(const TemporaryFolder &) = delete;
-    TemporaryFolder &operator=(const TemporaryFolder &) = delete;
-    ~TemporaryFolder()
-    {
-        std::error_code failure;
-        std::filesystem::remove_all(path_, failure);
-    }
-
     // The folder with a closing slash, and a name in it.
     [[nodiscard]] std::string Path() const
     {
-        return path_ + "/";
+        return folder_.Path().string() + "/";
     }
     [[nodiscard]] std::string Path(std::string_view name) const
     {
@@ -54,11 +40,11 @@ public:
 
     [[nodiscard]] long Entries() const
     {
-        return std::distance(std::filesystem::directory_iterator(path_), {});
+        return std::distance(std::filesystem::directory_iterator(folder_.Path()), {});
     }
 
 private:
-    std::string path_;
+    EmptyFolder folder_;
 };
 
 } // namespace kelvarine::testing
