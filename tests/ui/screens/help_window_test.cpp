@@ -4,6 +4,7 @@
 #include "outside/clipboard.h"
 #include "outside/help.h"
 #include "support/widget_events.h"
+#include "support/widget_front.h"
 #include "support/widget_program.h"
 #include "ui/screens/file_dialog_qt.h"
 #include "ui/screens/help_window.h"
@@ -226,8 +227,7 @@ TEST_F(HelpWindowTest, CanBeUsedBesideAModalWindow)
     QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
     EXPECT_FALSE(window->isVisible());
     dialog.close();
-    Game.Main->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Game.Main.get(), Patience));
+    BringToFront(Game);
     Show(202);
     EXPECT_EQ(window->windowHandle()->transientParent(), nullptr);
     QTest::keyClick(window->windowHandle(), Qt::Key_Escape);

@@ -4,6 +4,7 @@
 #include "grid/names.h"
 #include "input/selection.h"
 #include "support/widget_events.h"
+#include "support/widget_front.h"
 #include "support/widget_listener.h"
 #include "support/widget_program.h"
 #include "ui/window/board_widget.h"
@@ -29,8 +30,7 @@ class BoardAccessible : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        program.Main->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(program.Main.get(), Patience));
+        BringToFront(program);
         Widget()->setFocus();
         QCoreApplication::processEvents();
     }

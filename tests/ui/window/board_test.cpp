@@ -11,6 +11,7 @@
 #include "support/play.h"
 #include "support/positions.h"
 #include "support/widget_events.h"
+#include "support/widget_front.h"
 #include "support/widget_program.h"
 #include "ui/window/board_widget.h"
 
@@ -27,8 +28,7 @@ class BoardOnView : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        program.Main->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(program.Main.get(), Patience));
+        BringToFront(program);
         SetGame(EasyGame);
         StartGame(NewGame);
         GameModified = False;
@@ -206,8 +206,7 @@ TEST_F(BoardOnView, AltAloneLeavesTheLettersOfMenusToTheMenus)
         EXPECT_EQ(SnapshotAvailable, nothing ? False : True) << held.toInt();
     }
     SnapshotAvailable = False;
-    program.Main->activateWindow(); // without a window manager a box leaves no window active
-    ASSERT_TRUE(QTest::qWaitForWindowActive(program.Main.get()));
+    BringToFront(program);
     EXPECT_EQ(CloseModals([&] { QTest::keyClick(Board(), Qt::Key_A, Qt::AltModifier); }), Texts{});
     auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr);

@@ -4,6 +4,7 @@
 #include "game/screens.h"
 #include "grid/grid.h"
 #include "support/widget_events.h"
+#include "support/widget_front.h"
 #include "support/widget_paints.h"
 #include "support/widget_program.h"
 #include "ui/window/board_widget.h"
@@ -23,8 +24,7 @@ class BarOnView : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        program.Main->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(program.Main.get(), Patience));
+        BringToFront(program);
         ClockTick();
     }
 

@@ -8,6 +8,7 @@
 #include "support/play.h"
 #include "support/positions.h"
 #include "support/widget_events.h"
+#include "support/widget_front.h"
 #include "support/widget_program.h"
 #include "ui/window/board_widget.h"
 #include "ui/window/toolbar_widget.h"
@@ -31,8 +32,7 @@ class ToolbarOnView : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        program.Main->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(program.Main.get(), Patience));
+        BringToFront(program);
         Board()->setFocus();
     }
 
@@ -316,8 +316,7 @@ TEST_F(ToolbarOnView, ModifierThatOpensABoxIsNotHeldAfterwards)
             ClearCellBits(CandidateMask | SelectedBit);
             WordAt({4, 7}) = BitTable[5] | SelectedBit;
             GameModified = True;
-            program.Main->activateWindow(); // without a window manager a box leaves none active
-            ASSERT_TRUE(QTest::qWaitForWindowActive(program.Main.get(), Patience));
+            BringToFront(program);
             if (letter != Qt::Key_unknown) {
                 QTest::keyClick(program.Main->focusWidget(), letter, Qt::AltModifier);
                 QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
