@@ -1,6 +1,7 @@
 #include "support/widget_events.h"
 
 #include "board/geometry.h"
+#include "support/widget_modal.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QTimer>
 
 namespace kelvarine::testing {
 
@@ -50,25 +50,18 @@ ToolButtonWidget *ToolButtonOf(const MainWindow &window, int index)
 std::vector<std::string> CloseModals(const std::function<void()> &action)
 {
     std::vector<std::string> seen;
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        QWidget *window = QApplication::activeModalWidget();
-        if (window == nullptr || !window->isVisible()) {
-            return;
-        }
-        std::string words = window->windowTitle().toStdString();
-        if (const auto *box = qobject_cast<QMessageBox *>(window)) {
+    WhileModal<QWidget>(action, [&](QWidget &window) {
+        std::string words = window.windowTitle().toStdString();
+        if (const auto *box = qobject_cast<QMessageBox *>(&window)) {
             words += ": " + box->text().toStdString();
         }
         seen.push_back(words);
-        if (auto *dialog = qobject_cast<QDialog *>(window)) {
+        if (auto *dialog = qobject_cast<QDialog *>(&window)) {
             dialog->reject();
         } else {
-            window->close();
+            window.close();
         }
     });
-    watch.start(1);
-    action();
     return seen;
 }
 

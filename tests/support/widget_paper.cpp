@@ -4,15 +4,14 @@
 #include "input/keys.h"
 #include "paint/print_painter.h"
 #include "print/page_layout.h"
+#include "support/widget_modal.h"
 #include "support/widget_program.h"
 #include "ui/outside/printer_qt.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QPrintDialog>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -111,17 +110,7 @@ long DifferenceIn(const QImage &one, const QImage &other, const QRect &part)
 void PrintTo(const std::string &path, const std::function<void()> &action)
 {
     ChosenPrinter().setOutputFileName(QString::fromStdString(path));
-    QTimer watch;
-    int dialogs = 0;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        if (auto *dialog = qobject_cast<QPrintDialog *>(QApplication::activeModalWidget())) {
-            ++dialogs;
-            dialog->accept();
-        }
-    });
-    watch.start(1);
-    action();
-    EXPECT_EQ(dialogs, 1);
+    EXPECT_EQ(WhileModal<QPrintDialog>(action, [](QPrintDialog &dialog) { dialog.accept(); }), 1);
 }
 
 std::vector<QImage> PagesOf(const std::string &path)

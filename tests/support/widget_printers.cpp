@@ -1,12 +1,11 @@
 #include "support/widget_printers.h"
 
 #include "outside/printer.h"
+#include "support/widget_modal.h"
 #include "ui/outside/printer_qt.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QPrintDialog>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <array>
@@ -146,20 +145,19 @@ PrintersInstalled::~PrintersInstalled()
 
 bool ChooseInDialog(const std::string &name)
 {
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        auto *dialog = qobject_cast<QPrintDialog *>(QApplication::activeModalWidget());
-        if (dialog == nullptr) {
-            return;
-        }
-        auto *printers = dialog->findChild<QComboBox *>("printers");
-        const int index = printers->findText(QString::fromStdString(name));
-        EXPECT_GE(index, 0) << name;
-        printers->setCurrentIndex(index);
-        dialog->accept();
-    });
-    watch.start(1);
-    return ChoosePrinter();
+    bool chosen = false;
+    const int dialogs =
+        WhileModal<QPrintDialog>([&] { chosen = ChoosePrinter(); },
+                                 [&](QPrintDialog &dialog) {
+                                     auto *printers = dialog.findChild<QComboBox *>("printers");
+                                     const int index =
+                                         printers->findText(QString::fromStdString(name));
+                                     EXPECT_GE(index, 0) << name;
+                                     printers->setCurrentIndex(index);
+                                     dialog.accept();
+                                 });
+    EXPECT_EQ(dialogs, 1);
+    return chosen;
 }
 
 } // namespace kelvarine::testing

@@ -3,11 +3,10 @@
 #include "game/lifecycle.h"
 #include "grid/history.h"
 #include "program/defaults.h"
+#include "support/widget_modal.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QtTest>
 #include <gtest/gtest.h>
 
@@ -52,26 +51,19 @@ BoxRecord AnswerBoxes(const std::function<void()> &action,
                       std::vector<QMessageBox::StandardButton> answers)
 {
     BoxRecord record;
-    QTimer watch;
     std::size_t answered = 0;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (box == nullptr || !box->isVisible()) {
-            return;
-        }
-        record.Texts.push_back(box->text().toStdString());
-        record.Titles.push_back(box->windowTitle().toStdString());
+    WhileModal<QMessageBox>(action, [&](QMessageBox &box) {
+        record.Texts.push_back(box.text().toStdString());
+        record.Titles.push_back(box.windowTitle().toStdString());
         QAbstractButton *button =
-            answered < answers.size() ? box->button(answers[answered]) : box->escapeButton();
+            answered < answers.size() ? box.button(answers[answered]) : box.escapeButton();
         ++answered;
         if (button != nullptr) {
             button->click();
         } else {
-            box->reject();
+            box.reject();
         }
     });
-    watch.start(1);
-    action();
     EXPECT_GE(answered, answers.size()) << "fewer boxes than answers";
     return record;
 }

@@ -9,16 +9,15 @@
 #include "print/print_settings.h"
 #include "support/play.h"
 #include "support/positions.h"
+#include "support/widget_modal.h"
 #include "support/widget_paper.h"
 #include "support/widget_program.h"
 #include "ui/outside/printer_qt.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QPrintDialog>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -358,17 +357,11 @@ TEST_F(Paper, DocumentOnWhichNothingWasPrintedIsNone)
 TEST_F(Paper, DialogThatIsCancelledPrintsNothing)
 {
     ChosenPrinter().setOutputFileName(QString::fromStdString(Path()));
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [] {
-        if (auto *dialog = qobject_cast<QPrintDialog *>(QApplication::activeModalWidget())) {
-            dialog->reject();
-        }
-    });
-    watch.start(1);
     const GridTable before = Grid;
     for (const std::int32_t mode : {PrintCurrent, PrintNewGames}) {
         PrintMode = mode;
-        cmdPrint();
+        EXPECT_EQ(WhileModal<QPrintDialog>(cmdPrint, [](QPrintDialog &dialog) { dialog.reject(); }),
+                  1);
     }
     EXPECT_FALSE(FileExists(Path()));
     EXPECT_EQ(Grid, before);

@@ -1,7 +1,7 @@
 #include "outside/screens.h"
+#include "support/widget_modal.h"
 #include "support/widget_program.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -16,22 +16,12 @@ namespace {
 // Opens the screen and acts on it while it stands.
 void WithAbout(const std::function<void(QDialog &)> &action)
 {
-    bool seen = false;
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        auto *screen = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (screen == nullptr || !screen->isVisible()) {
-            return;
-        }
-        watch.stop();
-        seen = true;
-        action(*screen);
-        EXPECT_FALSE(screen->isVisible());
-        screen->reject(); // so that a screen that stayed does not hold the test
+    const int looks = WhileModal<QDialog>(ShowAboutScreen, [&](QDialog &screen) {
+        action(screen);
+        EXPECT_FALSE(screen.isVisible());
+        screen.reject(); // so that a screen that stayed does not hold the test
     });
-    watch.start(2);
-    ShowAboutScreen();
-    EXPECT_TRUE(seen);
+    EXPECT_EQ(looks, 1);
 }
 
 } // namespace

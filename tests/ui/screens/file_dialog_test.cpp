@@ -9,6 +9,7 @@
 #include "support/positions.h"
 #include "support/temporary_folder.h"
 #include "support/widget_file_dialog.h"
+#include "support/widget_modal.h"
 #include "ui/screens/file_dialog_qt.h"
 #include "ui/screens/file_list.h"
 #include "ui/screens/file_names.h"
@@ -336,41 +337,29 @@ TEST_F(FileDialogWindow, KeepsASmallestSize)
 
 // ---- From the commands ---------------------------------------------------------------------
 
-// Does something in the file dialog as soon as it is on view.
-void InDialog(const std::function<void(FileDialog &)> &act)
+// Runs an action and enters a name in the one file dialog that it opens.
+void EnterName(const char *name, const std::function<void()> &action)
 {
-    auto *watch = new QTimer(qApp);
-    QObject::connect(watch, &QTimer::timeout, watch, [watch, act] {
-        if (auto *dialog = qobject_cast<FileDialog *>(QApplication::activeModalWidget())) {
-            watch->deleteLater();
-            watch->stop();
-            act(*dialog);
-        }
+    const int dialogs = WhileModal<FileDialog>(action, [&](FileDialog &dialog) {
+        auto *field = dialog.findChild<QLineEdit *>(QStringLiteral("txtFileName"));
+        field->clear();
+        QTest::keyClicks(field, QString::fromUtf8(name));
+        QTest::keyClick(field, Qt::Key_Return);
     });
-    watch->start(1);
-}
-
-void EnterName(FileDialog &dialog, const char *name)
-{
-    auto *field = dialog.findChild<QLineEdit *>(QStringLiteral("txtFileName"));
-    field->clear();
-    QTest::keyClicks(field, QString::fromUtf8(name));
-    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(dialogs, 1);
 }
 
 TEST_F(FileDialogWindow, GameIsSavedAndOpenedThroughTheDialog)
 {
     Grid[5][5] = BitTable[3] | GivenBit;
     StartGame(NewGame);
-    InDialog([](FileDialog &dialog) { EnterName(dialog, "Mine"); });
-    mnuSaveAs();
+    EnterName("Mine", mnuSaveAs);
     EXPECT_EQ(Running.Main->windowTitle().toStdString(), "Kelvarine (mine.sdk)");
     EXPECT_EQ(GameModified, False);
     mnuGameBlankGrid();
     EXPECT_EQ(GivenCount, 0);
     GameModified = False;
-    InDialog([](FileDialog &dialog) { EnterName(dialog, "Mine.sdk"); });
-    mnuOpen();
+    EnterName("Mine.sdk", mnuOpen);
     EXPECT_EQ(GivenCount, 1);
     EXPECT_EQ(GameFilePath, Folder.Path("Mine.sdk"));
 }
@@ -378,16 +367,20 @@ TEST_F(FileDialogWindow, GameIsSavedAndOpenedThroughTheDialog)
 TEST_F(FileDialogWindow, EscapeInTheDialogHoldsTheClosing)
 {
     GameModified = True;
-    InDialog([](FileDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    AnswerBoxes([&] { Running.Main->close(); }, {QMessageBox::Yes});
+    const auto close = [&] {
+        AnswerBoxes([&] { Running.Main->close(); }, {QMessageBox::Yes});
+    };
+    const auto escape = [](FileDialog &dialog) {
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    };
+    EXPECT_EQ(WhileModal<FileDialog>(close, escape), 1);
     EXPECT_TRUE(Running.Main->isVisible());
 }
 
 TEST_F(FileDialogWindow, SavedGameLetsTheWindowClose)
 {
     GameModified = True;
-    InDialog([](FileDialog &dialog) { EnterName(dialog, "last"); });
-    AnswerBoxes([&] { Running.Main->close(); }, {QMessageBox::Yes});
+    EnterName("last", [&] { AnswerBoxes([&] { Running.Main->close(); }, {QMessageBox::Yes}); });
     EXPECT_FALSE(Running.Main->isVisible());
     EXPECT_EQ(Folder.Read("last.sdk").size(), 41360U);
 }

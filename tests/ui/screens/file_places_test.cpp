@@ -5,6 +5,7 @@
 #include "outside/folders.h"
 #include "support/positions.h"
 #include "support/widget_file_dialog.h"
+#include "support/widget_modal.h"
 #include "ui/screens/game_picture.h"
 #include "ui/screens/name_box.h"
 #include "ui/screens/places.h"
@@ -182,15 +183,12 @@ TEST_F(FilePlaces, HiddenFilesAndFoldersComeAndGoWithCtrlH)
 TEST_F(FilePlaces, NewFolderIsMadeAndEntered)
 {
     Show(SaveGameCaption);
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        if (auto *box = qobject_cast<QInputDialog *>(QApplication::activeModalWidget())) {
-            box->setTextValue("fresh");
-            box->accept();
-        }
-    });
-    watch.start(1);
-    Find<QToolButton>("cmdNewFolder")->click();
+    const auto name = [](QInputDialog &box) {
+        box.setTextValue("fresh");
+        box.accept();
+    };
+    EXPECT_EQ(WhileModal<QInputDialog>([&] { Find<QToolButton>("cmdNewFolder")->click(); }, name),
+              1);
     EXPECT_TRUE(std::filesystem::is_directory(Folder.Path("fresh")));
     EXPECT_EQ(FolderInHand(), Folder.Path("fresh/"));
 }

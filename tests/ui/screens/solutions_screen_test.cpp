@@ -9,12 +9,14 @@
 #include "outside/whole_file.h"
 #include "support/driver_games.h"
 #include "support/positions.h"
+#include "support/widget_modal.h"
+#include "support/widget_pace.h"
 #include "support/widget_program.h"
-#include "ui/outside/yield_pace.h"
 #include "ui/window/board_widget.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -74,7 +76,7 @@ protected:
                                 std::vector<QMessageBox::StandardButton> answers)
     {
         SetGame(ManySolutions);
-        YieldInterval = {};
+        const TurnAtEveryYield turns;
         bool acted = false;
         QTimer start;
         QObject::connect(&start, &QTimer::timeout, &start, [&] {
@@ -87,7 +89,6 @@ protected:
         start.start(0);
         BoxRecord boxes = AnswerBoxes(mnuShowSolution, std::move(answers));
         EXPECT_TRUE(acted);
-        YieldInterval = std::chrono::milliseconds(10);
         return boxes;
     }
 
@@ -425,20 +426,18 @@ TEST_F(SolutionsScreens, ButtonSavesTheTextOnView)
 {
     List(PlainGame);
     const std::string path = qEnvironmentVariable("HOME").toStdString() + "/solutions.txt";
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        QWidget *dialog = QApplication::activeModalWidget();
-        if (dialog != nullptr && dialog->objectName() == "frmFile") {
-            watch.stop();
-            EXPECT_EQ(dialog->windowTitle(), "Save Solution(s) As Text File");
-            EXPECT_EQ(dialog->findChild<QComboBox *>("cmbFileTypes")->currentText(),
+    auto *button = Screen()->findChild<QPushButton *>("cmdSaveAsTextFile");
+    const int dialogs = WhileModal<QDialog>(
+        [&] { QTest::mouseClick(button, Qt::LeftButton); },
+        [&](QDialog &dialog) {
+            EXPECT_EQ(dialog.objectName(), "frmFile");
+            EXPECT_EQ(dialog.windowTitle(), "Save Solution(s) As Text File");
+            EXPECT_EQ(dialog.findChild<QComboBox *>("cmbFileTypes")->currentText(),
                       "Text files (*.txt)");
-            dialog->findChild<QLineEdit *>("txtFileName")->setText(QString::fromStdString(path));
-            dialog->findChild<QPushButton *>("cmdOK")->click();
-        }
-    });
-    watch.start(5);
-    QTest::mouseClick(Screen()->findChild<QPushButton *>("cmdSaveAsTextFile"), Qt::LeftButton);
+            dialog.findChild<QLineEdit *>("txtFileName")->setText(QString::fromStdString(path));
+            dialog.findChild<QPushButton *>("cmdOK")->click();
+        });
+    EXPECT_EQ(dialogs, 1);
     std::string bytes;
     std::string error;
     EXPECT_TRUE(ReadWholeFile(path, bytes, error)) << error;

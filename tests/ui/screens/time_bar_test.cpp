@@ -7,6 +7,7 @@
 #include "outside/messages.h"
 #include "outside/screens.h"
 #include "support/solved_game.h"
+#include "support/widget_modal.h"
 #include "support/widget_program.h"
 #include "ui/screens/time_bar.h"
 
@@ -83,20 +84,11 @@ TEST(CopiedScreens, SolutionsGoToTheClipboardWholeOrAsSelected)
 template <typename Box>
 void WithBox(const std::function<void()> &open, const std::function<void(Box &)> &look)
 {
-    bool seen = false;
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        if (auto *box = qobject_cast<Box *>(QApplication::activeModalWidget());
-            box != nullptr && box->isVisible()) {
-            watch.stop();
-            seen = true;
-            look(*box);
-            box->close();
-        }
+    const int looks = WhileModal<Box>(open, [&](Box &box) {
+        look(box);
+        box.close();
     });
-    watch.start(1);
-    open();
-    EXPECT_TRUE(seen);
+    EXPECT_EQ(looks, 1);
 }
 
 TEST(Boxes, TextOfAMessageStandsAtTheEdgeAsThereIsNoIcon)

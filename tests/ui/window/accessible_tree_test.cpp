@@ -4,6 +4,7 @@
 #include "game/statistics.h"
 #include "outside/help.h"
 #include "outside/screens.h"
+#include "support/widget_modal.h"
 #include "support/widget_program.h"
 #include "ui/screens/file_dialog_qt.h"
 
@@ -142,19 +143,11 @@ TEST(AccessibleTree, HelpNamesItsControls)
 TEST(AccessibleTree, AboutNamesItsControls)
 {
     const Program program;
-    QTimer look;
-    bool looked = false;
-    QObject::connect(&look, &QTimer::timeout, &look, [&] {
-        if (QWidget *screen = QApplication::activeModalWidget()) {
-            look.stop();
-            looked = true;
-            EXPECT_GT(WalkWindow(screen).Items, 2);
-            screen->close();
-        }
+    const int looks = WhileModal<QDialog>(ShowAboutScreen, [](QDialog &screen) {
+        EXPECT_GT(WalkWindow(&screen).Items, 2);
+        screen.close();
     });
-    look.start(1);
-    ShowAboutScreen();
-    EXPECT_TRUE(looked);
+    EXPECT_EQ(looks, 1);
 }
 
 } // namespace

@@ -1,11 +1,11 @@
 #include "outside/messages.h"
+#include "support/widget_modal.h"
 #include "support/widget_program.h"
 #include "ui/window/board_widget.h"
 #include "ui/window/box_place.h"
 
-#include <QApplication>
+#include <QDialog>
 #include <QScreen>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace kelvarine::testing {
@@ -51,25 +51,16 @@ TEST(BoxPlace, MessagesOpenBesideTheBoard)
     QCoreApplication::processEvents();
     const QWidget &board = *program.Main->Client->Board;
     const QRect cells(board.mapToGlobal(QPoint(0, 0)), board.size());
-    QRect place;
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        if (auto *box = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
-            place = box->frameGeometry();
-            box->reject();
-        }
-    });
-    watch.start(1);
     const std::string text = "Cell [D9] contains a 3 which conflicts with [D5].";
-    const auto besideTheBoard = [&] {
-        return place.isValid() && !place.intersects(cells) &&
-               program.Main->screen()->availableGeometry().contains(place);
+    const auto isBesideTheBoard = [&](QDialog &box) {
+        const QRect place = box.frameGeometry();
+        EXPECT_FALSE(place.intersects(cells));
+        EXPECT_TRUE(program.Main->screen()->availableGeometry().contains(place));
+        box.reject();
     };
-    ShowMessage(text, "Hint");
-    EXPECT_TRUE(besideTheBoard());
-    place = {};
-    EXPECT_FALSE(AskYesNo(text, "Hint"));
-    EXPECT_TRUE(besideTheBoard());
+    EXPECT_EQ(WhileModal<QDialog>([&] { ShowMessage(text, "Hint"); }, isBesideTheBoard), 1);
+    EXPECT_EQ(WhileModal<QDialog>([&] { EXPECT_FALSE(AskYesNo(text, "Hint")); }, isBesideTheBoard),
+              1);
 }
 
 } // namespace

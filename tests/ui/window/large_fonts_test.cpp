@@ -10,6 +10,7 @@
 #include "outside/messages.h"
 #include "outside/screens.h"
 #include "support/widget_events.h"
+#include "support/widget_modal.h"
 #include "support/widget_program.h"
 #include "ui/configure/configure_screen.h"
 #include "ui/configure/tab_strip.h"
@@ -26,7 +27,6 @@
 #include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTimer>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -166,22 +166,13 @@ TEST_P(LargeFonts, CutNoCaptionOfTheToolbar)
 // Does what brings up a box and looks at it while it stands.
 void LookAtBox(const std::function<void()> &action, int controls)
 {
-    QTimer watch;
-    int seen = 0;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
-        auto *box = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (box == nullptr || !box->isVisible()) {
-            return;
-        }
-        ++seen;
-        EXPECT_GE(ExpectRoomForTexts(*box), controls) << box->windowTitle().toStdString();
-        const QSize screen = box->screen()->availableSize().boundedTo(CommonScreen);
-        EXPECT_LE(box->width(), screen.width()) << box->windowTitle().toStdString();
-        EXPECT_LE(box->height(), screen.height()) << box->windowTitle().toStdString();
-        box->reject();
+    const int seen = WhileModal<QDialog>(action, [&](QDialog &box) {
+        EXPECT_GE(ExpectRoomForTexts(box), controls) << box.windowTitle().toStdString();
+        const QSize screen = box.screen()->availableSize().boundedTo(CommonScreen);
+        EXPECT_LE(box.width(), screen.width()) << box.windowTitle().toStdString();
+        EXPECT_LE(box.height(), screen.height()) << box.windowTitle().toStdString();
+        box.reject();
     });
-    watch.start(1);
-    action();
     EXPECT_EQ(seen, 1);
 }
 
