@@ -75,7 +75,9 @@ std::optional<GameSummary> SummaryOf(std::string_view contents)
     const KeptResults kept;
     const auto game = std::make_unique<GameInHand>();
     const std::optional<GameSummary> summary = Summarise(contents);
+    const Flag modified = GameModified; // the game's own file may have been deleted meanwhile
     GiveBack(*game);
+    GameModified = modified;
     if (RunIsLong != False) {
         DrawBoard(); // the banner of a long run went with the other game
     }

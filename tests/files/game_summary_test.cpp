@@ -73,6 +73,19 @@ TEST(GameSummary, GameInHandIsAsBefore)
     }
 }
 
+// The file dialog can delete it while it shows another one.
+TEST(GameSummary, GameWhoseFileWentDuringTheRatingStaysModified)
+{
+    Restart();
+    ASSERT_TRUE(ReadGame(Puzzle));
+    GameModified = False;
+    Seen.OnYield = [] {
+        GameModified = True;
+    };
+    ASSERT_TRUE(SummaryOf(Puzzle));
+    EXPECT_EQ(GameModified, True);
+}
+
 TEST(GameSummary, OtherContentsAreNoGame)
 {
     Restart();

@@ -468,6 +468,7 @@ void FileDialog::done(int result)
 {
     KeepPlace(*this, FileDialogPlace);
     DialogName = NameBytes(txtFileName->text());
+    picGame->ShowFile({});
     QDialog::done(result);
 }
 

@@ -2,6 +2,7 @@
 
 #include "game/clock.h"
 #include "grid/rating_words.h"
+#include "logic/driver.h"
 #include "outside/whole_file.h"
 #include "paint/text.h"
 
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace kelvarine {
 
@@ -79,7 +81,8 @@ GamePicture::GamePicture(QWidget *parent) : QWidget(parent)
 {
     setAccessibleName("Selected game");
     setMinimumWidth(120);
-    ShowFile({});
+    turn_.setSingleShot(true);
+    connect(&turn_, &QTimer::timeout, this, &GamePicture::TakeTurn);
 }
 
 QSize GamePicture::sizeHint() const
@@ -89,18 +92,55 @@ QSize GamePicture::sizeHint() const
 
 void GamePicture::ShowFile(const std::string &path)
 {
+    wanted_ = path;
+    asked_ = true;
+    turn_.start();
+}
+
+// A rating lets events through, so it starts where none of the lists is at work, and one at a time.
+void GamePicture::TakeTurn()
+{
+    if (reading_.empty()) {
+        reading_ = wanted_;
+        asked_ = false;
+        ShowNothing();
+        if (!reading_.empty()) {
+            Read();
+        }
+        if (asked_) {
+            turn_.start();
+        }
+    } else if (wanted_ != reading_ && SearchActive != False) {
+        SearchActive = False;
+        turn_.start(); // a rating is more than one run
+    }
+}
+
+void GamePicture::ShowNothing()
+{
     game.reset();
     words_.clear();
-    if (!path.empty()) {
-        std::string contents;
-        std::string error;
-        if (!ReadWholeFile(path, contents, error, LongestGame)) {
-            words_ = "This file cannot be read.\n" + Text(error);
-        } else if (game = SummaryOf(contents); game) {
-            words_ = WordsOf(*game);
-        } else {
-            words_ = "This file holds no game.";
-        }
+    setAccessibleDescription(words_);
+    update();
+}
+
+void GamePicture::Read()
+{
+    std::string contents;
+    std::string error;
+    std::optional<GameSummary> summary;
+    const bool read = ReadWholeFile(reading_, contents, error, LongestGame);
+    if (read) {
+        summary = SummaryOf(contents);
+    }
+    if (std::exchange(reading_, {}) != wanted_) {
+        return; // another file has been asked for
+    }
+    game = summary;
+    if (!read) {
+        words_ = "This file cannot be read.\n" + Text(error);
+    } else {
+        words_ = game ? WordsOf(*game) : "This file holds no game.";
     }
     setAccessibleDescription(words_);
     update();

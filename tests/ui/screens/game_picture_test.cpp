@@ -4,6 +4,7 @@
 #include "support/widget_program.h"
 #include "ui/screens/game_picture.h"
 
+#include <QtTest>
 #include <gtest/gtest.h>
 
 namespace kelvarine::testing {
@@ -35,6 +36,7 @@ TEST(GamePictureTest, ShowsTheNumbersInTheirCellsAndNoPencilmarks)
     GamePicture view(nullptr);
     view.resize(view.sizeHint());
     view.ShowFile(folder.Path("game.sdk"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !view.Words().isEmpty(); }, Patience));
     const QImage picture = view.grab().toImage();
     for (const Cell cell : Cells) {
         const bool number = cell == Cell{5, 5} || cell == Cell{2, 9};
