@@ -154,6 +154,23 @@ void PrintSolutions(const PrinterPage &page, const std::vector<SolvedGrid> &solu
     }
 }
 
+// Prints the batch and leaves the game in hand on the board.
+void PrintAllOf(const PrinterPage &page)
+{
+    const auto before = std::make_unique<GameInHand>();
+    const Flag withSolutions = PrintIncludeSolutions;
+    std::vector<SolvedGrid> solutions;
+    PrintRunning = True;
+    SearchKind = SearchingGame;
+    if (PrintGames(page, solutions) && withSolutions != False) {
+        PrintSolutions(page, solutions);
+    }
+    // From here on there is nothing to be stopped, not even the rating of the game in hand.
+    SearchKind = NotStoppable;
+    PrintRunning = False;
+    BringBack(*before);
+}
+
 void PrintBatch()
 {
     if (PrintPages <= 0) {
@@ -164,25 +181,10 @@ void PrintBatch()
         return;
     }
     TakePrintableArea();
-    const PrinterPage page = CurrentPrinterPage();
-    const auto before = std::make_unique<GameInHand>();
-    const Flag withSolutions = PrintIncludeSolutions;
-    std::vector<SolvedGrid> solutions;
-    PrintRunning = True;
-    SearchKind = SearchingGame;
-    if (PrintGames(page, solutions) && withSolutions != False) {
-        PrintSolutions(page, solutions);
-    }
-    const std::string words = EndDocument();
-    // From here on there is nothing to be stopped, not even the rating of the game in hand.
-    SearchKind = NotStoppable;
-    PrintRunning = False;
-    BringBack(*before);
+    PrintAllOf(CurrentPrinterPage());
     DrawBoard();
     RefreshWindow();
-    if (!words.empty()) {
-        ShowMessage(words);
-    }
+    EndAndReport(); // what it may ask is asked about the game in hand
 }
 
 } // namespace

@@ -383,6 +383,7 @@ bool NewPage()
 std::string EndDocument()
 {
     Record("end document", "");
+    StandAsBox(); // writing a file may ask
     std::string words = Seen.PrintsBeforeFailure == 0 ? Seen.PrinterWords : "";
     Seen.EndedDocuments.push_back(words);
     return words;

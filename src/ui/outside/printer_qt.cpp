@@ -32,6 +32,7 @@ constexpr double ScreenPixelsPerInch = 96; // that the board's typeface counts i
 struct Document {
     QBuffer Bytes;
     std::unique_ptr<QPdfWriter> Pdf;
+    std::string File; // that the PDF goes to, whatever the printer is asked for meanwhile
     QPainter Pen;
     std::string Failure;
 };
@@ -75,6 +76,7 @@ void OpenPdf()
     document->Pdf->setResolution(ChosenPrinter().resolution());
     document->Pdf->setPageLayout(ChosenPrinter().pageLayout());
     document->Pdf->setTitle(Text(ProgramName));
+    document->File = QFile::encodeName(ChosenPrinter().outputFileName()).toStdString();
 }
 
 bool Fail()
@@ -114,10 +116,9 @@ std::string WriteDocument()
 {
     std::string failure = document->Failure;
     if (failure.empty() && document->Pdf != nullptr) {
-        const QByteArray path = QFile::encodeName(ChosenPrinter().outputFileName());
         const QByteArray &bytes = document->Bytes.data();
-        WritePlayerFile(path.toStdString(),
-                        {bytes.constData(), static_cast<std::size_t>(bytes.size())}, failure);
+        WritePlayerFile(document->File, {bytes.constData(), static_cast<std::size_t>(bytes.size())},
+                        failure);
     }
     return failure;
 }
@@ -199,6 +200,11 @@ double PrintedTextWidth(std::string_view text)
 bool NewPage()
 {
     return IsOpen() && (Device().newPage() || Fail());
+}
+
+bool IsPrinting()
+{
+    return document != nullptr;
 }
 
 std::string EndDocument()

@@ -13,6 +13,9 @@ QPrinter &ChosenPrinter();
 // ChoosePrinter for a window that stands beside the game.
 bool ChoosePrinterOver(QWidget *asker);
 
+// True while a document of the game's is open on the printer, which is nobody else's then.
+bool IsPrinting();
+
 // Paper size that is usual where a locale is.
 QPageSize UsualPaper(const QLocale &locale);
 

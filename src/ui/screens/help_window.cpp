@@ -1,5 +1,6 @@
 #include "ui/screens/help_window.h"
 
+#include "commands/print_run.h"
 #include "outside/clipboard.h"
 #include "outside/events.h"
 #include "outside/help.h"
@@ -330,6 +331,10 @@ void HelpWindow::OpenLink(const QUrl &link)
 
 void HelpWindow::Print()
 {
+    if (PrintRunning != False || IsPrinting()) {
+        statusBar()->showMessage("Printing is under way.", MessageTime);
+        return;
+    }
     const bool chosen = ChoosePrinterOver(this);
     activateWindow(); // where no window manager gives the front back
     if (chosen && !Browser->PrintOn(ChosenPrinter())) {

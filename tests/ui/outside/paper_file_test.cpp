@@ -60,6 +60,15 @@ TEST_F(PaperFile, IsTheOldOneOrTheNewOneWhicheverCallFails)
     }
 }
 
+TEST_F(PaperFile, IsTheOneThatThePrinterHadWhenTheDocumentBegan)
+{
+    ASSERT_TRUE(PrintText(10, 10, "a page"));
+    ChosenPrinter().setOutputFileName(QString::fromStdString(Folder.Path("help.pdf")));
+    EXPECT_EQ(EndDocument(), "");
+    EXPECT_TRUE(HoldsAPage("page.pdf"));
+    EXPECT_FALSE(std::filesystem::exists(Folder.Path("help.pdf")));
+}
+
 TEST_F(PaperFile, WithAnotherNameIsWrittenInPlaceOnAYesAlone)
 {
     std::filesystem::create_hard_link(Folder.Path("page.pdf"), Folder.Path("other.pdf"));

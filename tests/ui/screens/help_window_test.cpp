@@ -1,11 +1,15 @@
+#include "commands/print_run.h"
 #include "files/file_dialog.h"
 #include "game/win_display.h"
 #include "grid/grid.h"
 #include "outside/clipboard.h"
 #include "outside/help.h"
+#include "outside/printer.h"
+#include "support/temporary_folder.h"
 #include "support/widget_events.h"
 #include "support/widget_front.h"
 #include "support/widget_program.h"
+#include "ui/outside/printer_qt.h"
 #include "ui/screens/file_dialog_qt.h"
 #include "ui/screens/help_window.h"
 #include "ui/window/board_widget.h"
@@ -18,6 +22,7 @@
 #include <QHelpIndexWidget>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QToolBar>
 #include <QtTest>
@@ -214,6 +219,27 @@ TEST_F(HelpWindowTest, PrintAsksOverTheHelpAndLeavesItInFront)
     EXPECT_EQ(CloseModals([] { ActionOf(QStringLiteral("Print"))->trigger(); }),
               std::vector<std::string>{"Print"});
     EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == window; }, Patience));
+}
+
+TEST_F(HelpWindowTest, PrintLeavesThePrinterToTheGameWhileThatPrints)
+{
+    const auto tryToPrint = [] {
+        EXPECT_EQ(CloseModals([] { ActionOf(QStringLiteral("Print"))->trigger(); }),
+                  std::vector<std::string>{});
+        EXPECT_EQ(OpenHelpWindow()->statusBar()->currentMessage(),
+                  QStringLiteral("Printing is under way."));
+        OpenHelpWindow()->statusBar()->clearMessage();
+    };
+    const TemporaryFolder folder;
+    Show(0);
+    PrintRunning = True;
+    tryToPrint();
+    PrintRunning = False;
+    ChosenPrinter().setOutputFormat(QPrinter::PdfFormat);
+    ChosenPrinter().setOutputFileName(QString::fromStdString(folder.Path("page.pdf")));
+    ASSERT_TRUE(PrintText(10, 10, "a page"));
+    tryToPrint();
+    EXPECT_EQ(EndDocument(), "");
 }
 
 TEST_F(HelpWindowTest, CanBeUsedBesideAModalWindow)
