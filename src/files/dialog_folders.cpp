@@ -50,10 +50,10 @@ void SetDialogFolderDefaults()
 
 void RememberFolderOf(const std::string &path)
 {
-    const std::string folder = path.substr(0, path.rfind('/') + 1);
-    if (!folder.starts_with('/')) {
+    if (!path.starts_with('/')) {
         return; // one that is told from where the program runs means nothing elsewhere
     }
+    const std::string folder = PlainFolder(path.substr(0, path.rfind('/') + 1));
     std::erase(RecentFolders, folder);
     RecentFolders.insert(RecentFolders.begin(), folder);
     RecentFolders.resize(std::min(RecentFolders.size(), MostRecentFolders));

@@ -109,5 +109,13 @@ TEST_F(DialogFolders, OpenDialogTakesATildeForTheHome)
     EXPECT_EQ(ChosenFilePath, HomeFolder() + "no such game.sdk");
 }
 
+TEST_F(DialogFolders, RecentFolderStandsOnceHoweverItWasTyped)
+{
+    for (const char *path : {"/b/game.sdk", "/a/../b//other.sdk", "/b/./game.sdk"}) {
+        RememberFolderOf(path);
+    }
+    EXPECT_EQ(RecentFolders, Texts{"/b/"});
+}
+
 } // namespace
 } // namespace kelvarine::testing

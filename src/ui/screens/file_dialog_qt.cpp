@@ -43,7 +43,7 @@ constexpr int Margin = 4;
 constexpr int WidthForPicture = 560;
 constexpr QSize SizeForPlaces{420, 360};
 
-constexpr int QuietAfterChanges = 50; // milliseconds
+constexpr int ChangesAtOnce = 50; // milliseconds for which they are gathered
 
 template <typename Control>
 Control *Named(const char *name, Control *control)
@@ -264,13 +264,13 @@ void FileDialog::ConnectFolders()
             Qt::QueuedConnection);
     connect(drvDrive, &PlaceList::VolumesChanged, this, [this] {
         drvDrive->ShowPlaces(MountedVolumes());
-        changes.start();
+        ListSoon();
     });
     connect(cmdParent, &QToolButton::clicked, this, &FileDialog::ParentWanted);
     connect(cmdNewFolder, &QToolButton::clicked, this, &FileDialog::NewFolder);
-    connect(&watcher, &QFileSystemWatcher::directoryChanged, &changes, [this] { changes.start(); });
+    connect(&watcher, &QFileSystemWatcher::directoryChanged, this, &FileDialog::ListSoon);
     changes.setSingleShot(true);
-    changes.setInterval(QuietAfterChanges);
+    changes.setInterval(ChangesAtOnce);
     connect(&changes, &QTimer::timeout, this, &FileDialog::FolderChanged);
 }
 
@@ -338,6 +338,14 @@ void FileDialog::ShowHidden(bool shown)
     HiddenFilesShown = shown ? True : False;
     dirDirectory->SetHidden(HiddenNow());
     ListFiles();
+}
+
+// However fast changes come, the first of them is not put off for those behind it.
+void FileDialog::ListSoon()
+{
+    if (!changes.isActive()) {
+        changes.start();
+    }
 }
 
 // Files or folders have come or gone, or the folder itself.
@@ -409,7 +417,9 @@ void FileDialog::SearchTyped(const QString &typed)
     }
 }
 
-// Behind a slash the folders and the files there are offered, else the files that are listed.
+// Behind a slash the folders and the files there are offered, else the files that are listed. A
+// path that begins nowhere in the system is not one below the folder in hand, so nothing is offered
+// there.
 void FileDialog::OfferFor(const QString &typed)
 {
     QStringList names;
@@ -419,8 +429,8 @@ void FileDialog::OfferFor(const QString &typed)
         for (const FileEntry &entry : filFiles->Entries()) {
             names.append(entry.Shown);
         }
-    } else if (const std::string folder = TypedFolder(NameBytes(start), DialogFolder);
-               !folder.empty()) {
+    } else if (start.startsWith(u'/') || start.startsWith("~/")) {
+        const std::string folder = TypedFolder(NameBytes(start), DialogFolder);
         for (const FileEntry &inner : FoldersIn(folder, HiddenNow())) {
             names.append(start + inner.Shown + u'/');
         }
@@ -449,8 +459,8 @@ void FileDialog::PressOk()
 {
     const std::string typed = NameBytes(txtFileName->text());
     if (const std::string folder = FolderMeant(typed); !folder.empty()) {
-        txtFileName->clear();
         if (AgreeToEnter(folder)) {
+            txtFileName->clear();
             GoTo(folder);
         }
     } else if (AcceptFileName(typed)) {

@@ -54,6 +54,7 @@ private:
     void ParentWanted();
     void NewFolder();
     void ShowHidden(bool shown);
+    void ListSoon();
     void FolderChanged();
     void ListFiles();
     void CopyName();
@@ -66,7 +67,7 @@ private:
     void PressHelp();
 
     QFileSystemWatcher watcher; // of the folder in hand
-    QTimer changes;             // until a run of changes in it is over
+    QTimer changes;             // until changes in it are shown
     QLabel *lblFolder;
     QToolButton *cmdParent;
     QToolButton *cmdNewFolder;

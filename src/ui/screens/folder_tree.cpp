@@ -1,6 +1,5 @@
 #include "ui/screens/folder_tree.h"
 
-#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -8,6 +7,9 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
+#include <unordered_set>
 
 namespace kelvarine {
 
@@ -16,15 +18,16 @@ namespace {
 constexpr int FolderRole = Qt::UserRole;   // bytes of the full path, with a closing slash
 constexpr int ReadRole = Qt::UserRole + 1; // whether the folders in it were read
 
-QTreeWidgetItem *NewFolder(const std::string &path, const QString &shown)
+std::string NameOf(const QTreeWidgetItem *item)
 {
-    static const QIcon icon = QApplication::style()->standardIcon(QStyle::SP_DirIcon);
-    auto *item = new QTreeWidgetItem({shown});
-    item->setData(0, FolderRole, QByteArray::fromStdString(path));
-    item->setIcon(0, icon);
-    // Whether there are folders in it is known when it is opened.
-    item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
-    return item;
+    const std::string folder = FolderTree::FolderOf(item);
+    const std::size_t start = folder.rfind('/', folder.size() - 2) + 1;
+    return folder.substr(start, folder.size() - 1 - start);
+}
+
+FileEntry EntryOf(const QTreeWidgetItem *item)
+{
+    return {NameOf(item), item->text(0)};
 }
 
 QTreeWidgetItem *ChildNamed(const QTreeWidgetItem *parent, const std::string &folder)
@@ -37,9 +40,28 @@ QTreeWidgetItem *ChildNamed(const QTreeWidgetItem *parent, const std::string &fo
     return nullptr;
 }
 
+// The place that a folder has among those in its parent, or would have; from a place on that is not
+// behind it.
+int PlaceFor(const FileEntry &folder, const QTreeWidgetItem *parent, int place)
+{
+    while (place < parent->childCount() && ShownBefore(EntryOf(parent->child(place)), folder)) {
+        ++place;
+    }
+    return place;
+}
+
+bool IsAtOrBelow(const QTreeWidgetItem *item, const QTreeWidgetItem *above)
+{
+    while (item != nullptr && item != above) {
+        item = item->parent();
+    }
+    return item != nullptr;
+}
+
 } // namespace
 
-FolderTree::FolderTree(QWidget *parent) : QTreeWidget(parent)
+FolderTree::FolderTree(QWidget *parent)
+    : QTreeWidget(parent), icon(style()->standardIcon(QStyle::SP_DirIcon))
 {
     setHeaderHidden(true);
     setUniformRowHeights(true);
@@ -59,29 +81,56 @@ std::string FolderTree::FolderOf(const QTreeWidgetItem *item)
     return item->data(0, FolderRole).toByteArray().toStdString();
 }
 
-// Entries that are still there stay as they are, with what is open below them.
+QTreeWidgetItem *FolderTree::NewFolder(const std::string &path, const QString &shown) const
+{
+    auto *item = new QTreeWidgetItem({shown});
+    item->setData(0, FolderRole, QByteArray::fromStdString(path));
+    item->setIcon(0, icon);
+    // Whether there are folders in it is known when it is opened.
+    item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
+    return item;
+}
+
+// Takes away what is not among the folders in an entry any more, but for the way to the folder in
+// hand: that may be hidden, and is left by the player alone while it is there.
+void FolderTree::RemoveOthers(QTreeWidgetItem *item, const std::vector<FileEntry> &folders) const
+{
+    std::unordered_set<std::string> names;
+    for (const FileEntry &folder : folders) {
+        names.insert(folder.Name);
+    }
+    for (int place = item->childCount() - 1; place >= 0; --place) {
+        const QTreeWidgetItem *child = item->child(place);
+        std::error_code unseen;
+        const bool stays = names.contains(NameOf(child)) ||
+                           (IsAtOrBelow(currentItem(), child) &&
+                            std::filesystem::is_directory(FolderOf(child), unseen));
+        if (!stays) {
+            delete child;
+        }
+    }
+}
+
+// Entries that are still there stay as they are, with what is open below them. They stand in the
+// order of the folders, so both are gone through side by side.
 void FolderTree::Read(QTreeWidgetItem *item) const
 {
     const std::string path = FolderOf(item);
-    QList<QTreeWidgetItem *> wanted;
-    for (const FileEntry &folder : FoldersIn(path, hidden_)) {
+    const std::vector<FileEntry> folders = FoldersIn(path, hidden_);
+    RemoveOthers(item, folders);
+    const bool wasEmpty = item->childCount() == 0;
+    QList<QTreeWidgetItem *> fresh;
+    int place = 0;
+    for (const FileEntry &folder : folders) {
+        place = PlaceFor(folder, item, place);
         const std::string inner = path + folder.Name + "/";
-        QTreeWidgetItem *known = item->childCount() > 0 ? ChildNamed(item, inner) : nullptr;
-        wanted.append(known != nullptr ? known : NewFolder(inner, folder.Shown));
-    }
-    for (int place = item->childCount() - 1; place >= 0; --place) {
-        if (!wanted.contains(item->child(place))) {
-            delete item->child(place);
+        if (wasEmpty) {
+            fresh.append(NewFolder(inner, folder.Shown));
+        } else if (place == item->childCount() || FolderOf(item->child(place)) != inner) {
+            item->insertChild(place, NewFolder(inner, folder.Shown));
         }
     }
-    if (item->childCount() == 0) {
-        item->addChildren(wanted);
-    }
-    for (int place = 0; place < wanted.size(); ++place) {
-        if (item->child(place) != wanted[place]) {
-            item->insertChild(place, wanted[place]);
-        }
-    }
+    item->addChildren(fresh); // in one go, as most are read
     item->setData(0, ReadRole, true);
     item->setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
 }
@@ -96,8 +145,9 @@ QTreeWidgetItem *FolderTree::Child(QTreeWidgetItem *parent, const std::string &n
     const std::string folder = FolderOf(parent) + name + "/";
     QTreeWidgetItem *child = ChildNamed(parent, folder);
     if (child == nullptr) {
-        child = NewFolder(folder, ShownName(name));
-        parent->addChild(child);
+        const FileEntry entry{name, ShownName(name)};
+        child = NewFolder(folder, entry.Shown);
+        parent->insertChild(PlaceFor(entry, parent, 0), child);
     }
     return child;
 }

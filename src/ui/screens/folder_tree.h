@@ -4,9 +4,11 @@
 
 #include "ui/screens/file_names.h"
 
+#include <QIcon>
 #include <QTreeWidget>
 
 #include <string>
+#include <vector>
 
 namespace kelvarine {
 
@@ -39,9 +41,12 @@ protected:
 
 private:
     void BringIntoView(QTreeWidgetItem &item);
+    [[nodiscard]] QTreeWidgetItem *NewFolder(const std::string &path, const QString &shown) const;
+    void RemoveOthers(QTreeWidgetItem *item, const std::vector<FileEntry> &folders) const;
     void Read(QTreeWidgetItem *item) const;
     QTreeWidgetItem *Child(QTreeWidgetItem *parent, const std::string &name) const;
 
+    const QIcon icon;
     Hidden hidden_ = Hidden::LeftOut;
 };
 

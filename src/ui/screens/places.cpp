@@ -9,11 +9,11 @@
 #include <QDir>
 #include <QSignalBlocker>
 #include <QStandardPaths>
-#include <QStorageInfo>
 #include <QStyle>
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 
 namespace kelvarine {
 
@@ -36,20 +36,76 @@ std::string LastPart(const std::string &folder)
     return open.substr(open.rfind('/') + 1);
 }
 
+// A line of the table, as the manual page proc_pid_mountinfo(5) has it: four words, the folder,
+// some more up to a lone hyphen, and the kind of file system.
+constexpr int FolderWord = 4;
+constexpr std::string_view BeforeKind = " - ";
+constexpr std::string_view WaitsToBeMounted = "autofs";
+
+std::string_view TakeWord(std::string_view &line)
+{
+    const std::string_view word = line.substr(0, line.find(' '));
+    line.remove_prefix(std::min(word.size() + 1, line.size()));
+    return word;
+}
+
+std::string_view KindOf(std::string_view line)
+{
+    const std::size_t place = line.find(BeforeKind);
+    if (place == std::string_view::npos) {
+        return {};
+    }
+    line.remove_prefix(place + BeforeKind.size());
+    return TakeWord(line);
+}
+
+// Blanks and the like stand as a backslash and three octal digits.
+std::string Decoded(std::string_view word)
+{
+    std::string bytes;
+    while (!word.empty()) {
+        unsigned char byte = 0;
+        const std::string_view digits = word.substr(1, 3);
+        const bool isCode =
+            word.front() == '\\' && digits.size() == 3 &&
+            std::from_chars(digits.data(), digits.data() + 3, byte, 8).ptr == digits.data() + 3;
+        bytes += isCode ? static_cast<char>(byte) : word.front();
+        word.remove_prefix(isCode ? 4 : 1);
+    }
+    return bytes;
+}
+
+bool ComesAndGoes(const std::string &folder)
+{
+    return std::ranges::any_of(MountFolders,
+                               [&](std::string_view parent) { return folder.starts_with(parent); });
+}
+
 } // namespace
 
-std::vector<std::string> MountedVolumes()
+std::vector<std::string> VolumesIn(std::string_view table)
 {
     std::vector<std::string> volumes;
-    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
-        const std::string folder = NameBytes(volume.rootPath()) + "/";
-        const bool removable = std::ranges::any_of(
-            MountFolders, [&](std::string_view parent) { return folder.starts_with(parent); });
-        if (removable) {
+    while (!table.empty()) {
+        const std::size_t end = std::min(table.find('\n'), table.size());
+        std::string_view line = table.substr(0, end);
+        table.remove_prefix(std::min(end + 1, table.size()));
+        for (int before = 0; before < FolderWord; ++before) {
+            TakeWord(line);
+        }
+        const std::string folder = Decoded(TakeWord(line)) + "/";
+        if (ComesAndGoes(folder) && KindOf(line) != WaitsToBeMounted) {
             volumes.push_back(folder);
         }
     }
     return volumes;
+}
+
+std::vector<std::string> MountedVolumes()
+{
+    QFile table(MountsFile);
+    table.open(QIODevice::ReadOnly);
+    return VolumesIn(table.readAll().toStdString());
 }
 
 PlaceList::PlaceList(QWidget *parent) : QListWidget(parent), mounts(MountsFile)

@@ -8,12 +8,17 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kelvarine {
 
-// Where volumes that come and go are mounted, each with a closing slash.
+// Where volumes that come and go are mounted, each with a closing slash. No volume is asked for
+// anything, as a server that is gone would not answer.
 std::vector<std::string> MountedVolumes();
+
+// The same out of the system's table of mounts, a line each.
+std::vector<std::string> VolumesIn(std::string_view table);
 
 class PlaceList : public QListWidget {
     Q_OBJECT

@@ -90,6 +90,21 @@ TEST_F(FilePlaces, HomeSystemVolumesAndRecentFoldersAreThere)
     EXPECT_EQ(RowOfPlace(Folder.Path("stick/")), -1);
 }
 
+TEST_F(FilePlaces, VolumesAreReadFromTheTableOfMounts)
+{
+    EXPECT_EQ(VolumesIn("22 1 0:20 / / rw shared:1 - ext4 /dev/sda1 rw\n"
+                        "23 22 0:5 / /media/anna/My\\040stick rw,nosuid shared:7 master:2 - vfat "
+                        "/dev/sdb1 rw\n"
+                        "24 22 0:6 / /mnt/lat\xe4in rw - ext4 /dev/sdc1 rw\n"
+                        "25 22 0:7 / /mnt/server rw - autofs systemd-1 rw,fd=57\n"
+                        "26 22 0:8 / /run/media/anna/a\\134b ro - iso9660 /dev/sr0 ro\n"
+                        "27 22 0:9 / /home/media/disk rw - ext4 /dev/sdd1 rw\n"
+                        "no line of the kind"),
+              (std::vector<std::string>{"/media/anna/My stick/", "/mnt/lat\xe4in/",
+                                        "/run/media/anna/a\\b/"}));
+    EXPECT_EQ(VolumesIn(""), std::vector<std::string>{});
+}
+
 TEST_F(FilePlaces, DesktopAndDocumentsAreThereWhereTheyExist)
 {
     std::filesystem::create_directory(HomeFolder() + "Documents");
@@ -261,6 +276,18 @@ TEST_F(FilePlaces, NamesAndPathsAreCompleted)
               (QStringList{folder + "gallery/", folder + "Game 1.sdk", folder + "Game 2.sdk"}));
     Type((Folder.Path() + "gallery/").c_str());
     EXPECT_EQ(box->Offered(), QStringList{folder + "gallery/deep.sdk"});
+}
+
+TEST_F(FilePlaces, NothingIsOfferedThatLiesElsewhereThanItSeems)
+{
+    std::filesystem::create_directory(Folder.Path("gallery"));
+    Folder.Write("gallery/deep.sdk", "");
+    Show(OpenGameCaption);
+    const auto *box = Find<NameBox>("txtFileName");
+    for (const char *path : {"gallery/", "./gallery/", "gone/", "/gone/"}) {
+        Type(path);
+        EXPECT_EQ(box->Offered(), QStringList()) << path;
+    }
 }
 
 TEST_F(FilePlaces, EnterTakesTheNameThoughOthersAreOnOffer)
