@@ -112,7 +112,7 @@ bool HelpBrowser::IsDark() const
 // pixels of the screen.
 QVariant HelpBrowser::Picture(const QUrl &name) const
 {
-    const QUrl form = IsDark() ? QUrl(DarkFormOf(name.toString())) : name;
+    const QUrl form = IsDark() && !isOnPaper ? QUrl(DarkFormOf(name.toString())) : name;
     QImage picture = QImage::fromData(engine.fileData(form)).convertToFormat(QImage::Format_RGB32);
     const double ratio = devicePixelRatioF();
     const double scale = ratio * (1 + zoom * PictureStep) / HelpPictureRatio;
@@ -154,9 +154,14 @@ void HelpBrowser::ResetZoom()
     Zoom(-zoom);
 }
 
-bool HelpBrowser::PrintOn(QPrinter &printer) const
+bool HelpBrowser::PrintOn(QPrinter &printer)
 {
+    isOnPaper = true;
     print(&printer);
+    isOnPaper = false;
+    if (IsDark()) {
+        LoadAgain(); // the paper's pictures have taken the place of those on view
+    }
     return printer.printerState() != QPrinter::Error;
 }
 

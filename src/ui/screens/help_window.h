@@ -27,8 +27,8 @@ public:
     void Zoom(int steps);
     void ResetZoom();
 
-    // Prints the page on view, black on white. False when the device takes nothing.
-    bool PrintOn(QPrinter &printer) const;
+    // Prints the page on view, black on white, pictures too. False when the device takes nothing.
+    bool PrintOn(QPrinter &printer);
 
 protected:
     QVariant loadResource(int type, const QUrl &name) override;
@@ -44,6 +44,7 @@ private:
     // What the pictures on view were made for.
     double pictureRatio = 0;
     bool pictureDark = false;
+    bool isOnPaper = false; // while the page is being printed
 };
 
 class HelpWindow : public QMainWindow {

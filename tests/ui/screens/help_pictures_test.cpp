@@ -296,7 +296,7 @@ TEST_F(HelpView, NoTitleOfTheContentsIsCut)
 }
 
 // Number of pages of a printed page of the help; 0 when it could not be printed.
-int PagesOf(const HelpBrowser &browser, QPageSize::PageSizeId paper, const QString &path)
+int PagesOf(HelpBrowser &browser, QPageSize::PageSizeId paper, const QString &path)
 {
     QPrinter printer;
     printer.setOutputFormat(QPrinter::PdfFormat);
