@@ -82,6 +82,7 @@ constexpr int MostPrograms = 100;
 struct Place {
     std::string Path;
     std::unique_ptr<FileLock> Lock;
+    bool IsWritten = false; // so that what stands there is this program's, whole or begun
 };
 
 std::string PathOf(int number)
@@ -94,7 +95,8 @@ Place Hold(int number)
 {
     return {PathOf(number),
             std::make_unique<FileLock>(
-                DataFolder() + "recovery-" + std::to_string(number) + ".lock", 0, LockFile::Goes)};
+                DataFolder() + "recovery-" + std::to_string(number) + ".lock", 0, LockFile::Goes),
+            false};
 }
 
 bool IsHeld(const Place &place)
@@ -146,6 +148,9 @@ void TellFailure(const std::string &words)
 // Finds a place of one's own. The words of a failure, or nothing.
 std::string FindPlace()
 {
+    if (IsHeld(own) && !own.IsWritten && FileExists(own.Path)) {
+        own = {}; // on a disk without locks another program may hold the same
+    }
     for (int number = 1; !IsHeld(own) && number <= MostPrograms; ++number) {
         if (FileExists(PathOf(number))) {
             continue; // another program's, or one that is to be offered
@@ -164,9 +169,10 @@ std::string FindPlace()
 
 void RemoveOwnFile()
 {
-    if (IsHeld(own)) { // so that what stands there is one's own, also when its bytes are not known
+    if (own.IsWritten) {
         std::error_code unseen;
         std::filesystem::remove(own.Path, unseen);
+        own.IsWritten = false;
         kept.clear();
     }
 }
@@ -201,6 +207,7 @@ void Keep(const std::string &bytes)
             TellFailure(failure);
             return;
         }
+        own.IsWritten = true;
         BeginWrite(own.Path, bytes);
     }
     kept = bytes;
@@ -259,7 +266,12 @@ bool WriteRecovery()
     }
     const std::optional<std::string> bytes = RecoveryBytes();
     std::string error;
-    if (!bytes || !FindPlace().empty() || !ReplaceWholeFile(own.Path, *bytes, error)) {
+    if (!bytes || !FindPlace().empty()) {
+        return false;
+    }
+    own.IsWritten = true;
+    if (!ReplaceWholeFile(own.Path, *bytes, error)) {
+        kept.clear(); // the new bytes may have come there before it failed
         return false;
     }
     kept = *bytes;
@@ -275,6 +287,7 @@ void DropRecovery()
 void EndRecovery(bool answered)
 {
     hasEnded = true;
+    EndWrite();
     if (answered) {
         GiveUpPlace();
     }
@@ -309,6 +322,7 @@ bool TakeLostGame()
     }
     GiveUpPlace();
     own = std::move(lost);
+    own.IsWritten = true;
     kept = bytes;
     TakeItsFile(bytes);
     GameModified = True;

@@ -189,6 +189,27 @@ TEST_P(FailingCalls, LookingAtTheGameFromTimeToTime)
     EXPECT_TRUE(Seen.Messages.empty());
 }
 
+// What a failed write has left is not known, so nothing may be written over a part of it.
+TEST_P(FailingCalls, KeepingTheGameThatIsTheFormerOneAgain)
+{
+    const std::string path = DataFolder() + "recovery-1.sdk";
+    GameModified = True;
+    FailEach(
+        [&] {
+            ASSERT_TRUE(WriteRecovery());
+            WordAt({1, 1}) ^= SelectedBit;
+        },
+        [] { WriteRecovery(); },
+        [&](int call) {
+            WordAt({1, 1}) ^= SelectedBit;
+            ClockTick();
+            RecoveryTick();
+            while (IsWriting()) {
+            }
+            ASSERT_TRUE(Contents(path) == GameFileBytes() + "GR") << "call " << call;
+        });
+}
+
 TEST_P(FailingCalls, TimeThatPassesBetweenTwoChanges)
 {
     const std::string path = DataFolder() + "recovery-1.sdk";
