@@ -1,5 +1,6 @@
 #include "files/file_address.h"
 
+#include "files/text_case.h"
 #include "grid/digits.h"
 
 #include <algorithm>
@@ -9,8 +10,8 @@ namespace kelvarine {
 
 namespace {
 
-constexpr std::string_view LineEnds = "\r\n";
-constexpr std::string_view PlainSigns = "/-._~"; // beside letters and digits
+constexpr std::string_view LineEnds("\r\n\0", 3); // some end the list as texts end in memory
+constexpr std::string_view PlainSigns = "/-._~";  // beside letters and digits
 constexpr std::string_view Digits = "0123456789ABCDEF";
 
 bool StandsForItself(char byte)
@@ -38,10 +39,17 @@ std::string Decoded(std::string_view text)
 
 std::string PathOfAddress(std::string_view address, std::string_view thisMachine)
 {
-    if (!address.starts_with(FileScheme)) {
+    const std::string_view scheme = FileScheme.substr(0, FileScheme.find('/'));
+    if (LowerCase(address.substr(0, scheme.size())) != scheme) {
         return {};
     }
-    address.remove_prefix(FileScheme.size());
+    address.remove_prefix(scheme.size());
+    if (!address.starts_with('/')) {
+        return {}; // a file beside another one, which none is told of
+    }
+    if (address.starts_with("//")) {
+        address.remove_prefix(2);
+    }
     const std::size_t slash = std::min(address.find('/'), address.size());
     const std::string_view machine = address.substr(0, slash);
     const bool isHere = machine.empty() || machine == "localhost" || machine == thisMachine;

@@ -27,6 +27,16 @@ TEST(FileAddress, IsOfThisMachine)
     EXPECT_EQ(PathOfAddress("/a", "here"), "");
 }
 
+TEST(FileAddress, MayBeWrittenInOtherWays)
+{
+    EXPECT_EQ(PathOfAddress("file:/a%20b", "here"), "/a b");
+    EXPECT_EQ(PathOfAddress("FILE:///a", "here"), "/a");
+    EXPECT_EQ(PathOfAddress("File://there/a", "here"), "");
+    EXPECT_EQ(PathOfAddress("file:a", "here"), "");
+    EXPECT_EQ(PathOfAddress("file:", "here"), "");
+    EXPECT_EQ(PathOfAddress("fil", "here"), "");
+}
+
 TEST(FileAddress, TakesWhatIsNoCodeAsItStands)
 {
     EXPECT_EQ(PathOfAddress("file:///a%", "here"), "/a%");
@@ -41,6 +51,7 @@ TEST(FileAddress, StandsAloneInAList)
     EXPECT_EQ(OneAddressIn("# from a folder\r\nfile:///a\r\n"), "file:///a");
     EXPECT_EQ(OneAddressIn("file:///a"), "file:///a");
     EXPECT_EQ(OneAddressIn("file:///a\r\nfile:///b\r\n"), "");
+    EXPECT_EQ(OneAddressIn(std::string_view("file:///a\r\n\0", 12)), "file:///a");
     EXPECT_EQ(OneAddressIn("\r\n"), "");
     EXPECT_EQ(OneAddressIn(""), "");
 }
