@@ -48,8 +48,8 @@ bool IsWholeGame(std::string_view contents);
 bool ReadGame(std::string_view contents);
 
 // Reads the cells of the contents of a file into Grid, and the time played; it is below 0 for a
-// text. False, with Grid as it was, when nothing in it is a game. Leaves what else a game is made
-// of.
+// text. False, with Grid as it was, when nothing in it is a game. Of what else a game is made of
+// only the safe copy in History changes, over which a text is tried.
 bool ReadCells(std::string_view contents, double &seconds);
 
 } // namespace kelvarine
