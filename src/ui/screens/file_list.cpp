@@ -3,7 +3,6 @@
 #include "files/game_file.h"
 #include "files/text_case.h"
 
-#include <QApplication>
 #include <QDateTime>
 #include <QFocusEvent>
 #include <QHeaderView>
@@ -11,7 +10,6 @@
 #include <QLocale>
 #include <QPainter>
 #include <QSignalBlocker>
-#include <QStyle>
 
 #include <algorithm>
 #include <array>
@@ -19,19 +17,6 @@
 namespace kelvarine {
 
 namespace {
-
-// Games carry the program's picture, texts and the rest those of the desktop.
-const QIcon &IconOf(const FileEntry &entry)
-{
-    static const QIcon file = QApplication::style()->standardIcon(QStyle::SP_FileIcon);
-    static const QIcon text = QIcon::fromTheme("text-x-generic", file);
-    const std::string name = LowerCase(entry.Name);
-    if (name.ends_with(GameExtension)) {
-        static const QIcon game = QApplication::windowIcon();
-        return game.isNull() ? file : game;
-    }
-    return name.ends_with(TextExtension) ? text : file;
-}
 
 QString DateOf(const FileEntry &entry)
 {
@@ -70,6 +55,16 @@ bool MovesInList(int key)
 } // namespace
 
 // ---- The table -----------------------------------------------------------------------------
+
+// Games carry the program's picture, texts and the rest those of the desktop.
+const QIcon &FileTable::IconOf(const FileEntry &entry) const
+{
+    const std::string name = LowerCase(entry.Name);
+    if (name.ends_with(GameExtension)) {
+        return gameIcon.isNull() ? fileIcon : gameIcon;
+    }
+    return name.ends_with(TextExtension) ? textIcon : fileIcon;
+}
 
 void FileTable::Fill(std::vector<FileEntry> entries)
 {

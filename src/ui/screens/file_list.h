@@ -5,6 +5,9 @@
 #include "ui/screens/file_names.h"
 
 #include <QAbstractTableModel>
+#include <QApplication>
+#include <QIcon>
+#include <QStyle>
 #include <QTreeView>
 
 #include <string>
@@ -34,8 +37,12 @@ public:
     void sort(int column, Qt::SortOrder order) override;
 
 private:
+    [[nodiscard]] const QIcon &IconOf(const FileEntry &entry) const;
     void SortEntries();
 
+    const QIcon fileIcon = QApplication::style()->standardIcon(QStyle::SP_FileIcon);
+    const QIcon textIcon = QIcon::fromTheme("text-x-generic", fileIcon);
+    const QIcon gameIcon = QApplication::windowIcon();
     std::vector<FileEntry> entries_;
     int sortColumn = NameColumn;
     Qt::SortOrder sortOrder = Qt::AscendingOrder;
