@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QtTest>
 
 namespace kelvarine::testing {
 
@@ -23,6 +24,12 @@ void Click(QWidget *widget, QPoint place, Qt::MouseButton button, Qt::KeyboardMo
 {
     SendMouse(widget, QEvent::MouseButtonPress, place, button, button, modifiers);
     SendMouse(widget, QEvent::MouseButtonRelease, place, button, Qt::NoButton, modifiers);
+}
+
+void MovePointerTo(const QWidget &widget)
+{
+    QWidget *window = widget.window();
+    QTest::mouseMove(window->windowHandle(), widget.mapTo(window, widget.rect().center()));
 }
 
 void SendKey(QWidget *widget, QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers)

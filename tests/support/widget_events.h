@@ -21,6 +21,9 @@ void SendMouse(QWidget *widget, QEvent::Type type, QPoint place, Qt::MouseButton
 void Click(QWidget *widget, QPoint place, Qt::MouseButton button = Qt::LeftButton,
            Qt::KeyboardModifiers modifiers = {});
 
+// Moves the pointer to the middle of a widget, as its window is told.
+void MovePointerTo(const QWidget &widget);
+
 // Sends one key event to a widget, without those of the modifiers.
 void SendKey(QWidget *widget, QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 

@@ -10,7 +10,9 @@
 #include "support/widget_events.h"
 #include "support/widget_repaints.h"
 #include "ui/configure/tab_strip.h"
+#include "ui/controls/level_label.h"
 #include "ui/window/board_widget.h"
+#include "ui/window/toolbar_widget.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -159,6 +161,35 @@ TEST_F(Repaints, FollowTheFocusThroughTheToolbar)
     Running->Main->activateWindow();
     for (int step = 0; step < 3; ++step) {
         ExpectRepaintsAfter("tabulator", [] { QTest::keyClick(qApp->focusWidget(), Qt::Key_Tab); });
+    }
+}
+
+TEST_F(Repaints, FollowTheCaptionsOfTheToolbar)
+{
+    BoardWidget *board = Running->Main->Client->Board;
+    board->setFocus();
+    const ToolButtonWidget *one = ToolButtonOf(*Running->Main, 1);
+    const std::vector<std::pair<Qt::Key, const char *>> signs{{Qt::Key_Shift, "- 1"},
+                                                              {Qt::Key_Control, "+ 1"}};
+    for (const auto &[key, caption] : signs) {
+        ExpectRepaintsAfter("modifier goes down", [&] { QTest::keyPress(board, key); });
+        EXPECT_EQ(one->Caption(), caption);
+        ExpectRepaintsAfter("modifier comes up", [&] { QTest::keyRelease(board, key); });
+        EXPECT_EQ(one->Caption(), "1");
+    }
+}
+
+TEST_F(Repaints, FollowThePointer)
+{
+    Open(LogicTab);
+    std::vector<QWidget *> controls{ToolButtonOf(*Running->Main, 1),
+                                    ToolButtonOf(*Running->Main, 2)};
+    for (LevelLabel *level : Screen->findChildren<LevelLabel *>().first(3)) {
+        controls.push_back(level);
+    }
+    for (QWidget *control : controls) {
+        ExpectRepaintsAfter("pointer", [control] { MovePointerTo(*control); });
+        EXPECT_TRUE(control->underMouse()) << control->objectName().toStdString();
     }
 }
 

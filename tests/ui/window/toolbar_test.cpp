@@ -243,6 +243,19 @@ TEST_F(ToolbarOnView, ButtonsShowTheirCaptionsColoursAndTips)
     }
 }
 
+TEST_F(ToolbarOnView, ButtonHasADarkerEdgeAndIsDarkerWhileItIsPressedIn)
+{
+    const QColor colour(QRgb(ToolButtons[14].Background));
+    ToolButtonWidget *button = Button(14);
+    const auto colourAt = [&](int x, int y) {
+        return QColor(button->grab().toImage().pixel(x, y)).name();
+    };
+    EXPECT_EQ(colourAt(button->width() / 2, 0), colour.darker(170).name());
+    EXPECT_EQ(colourAt(4, button->height() / 2), colour.name());
+    button->setDown(true);
+    EXPECT_EQ(colourAt(4, button->height() / 2), colour.darker(125).name());
+}
+
 // Contrast as those who tell readable from unreadable reckon it.
 double Contrast(const QColor &a, const QColor &b)
 {
