@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QToolButton>
 
+#include <array>
 #include <filesystem>
 
 namespace kelvarine::testing {
@@ -198,12 +199,15 @@ TEST_F(FilePlaces, HiddenFilesAndFoldersComeAndGoWithCtrlH)
 TEST_F(FilePlaces, NewFolderIsMadeAndEntered)
 {
     Show(SaveGameCaption);
-    const auto name = [](QInputDialog &box) {
+    QString asked;
+    const auto name = [&asked](QInputDialog &box) {
+        asked = box.windowTitle() + ": " + box.labelText();
         box.setTextValue("fresh");
         box.accept();
     };
     EXPECT_EQ(WhileModal<QInputDialog>([&] { Find<QToolButton>("cmdNewFolder")->click(); }, name),
               1);
+    EXPECT_EQ(asked.toStdString(), "New folder: Name of the new folder:");
     EXPECT_TRUE(std::filesystem::is_directory(Folder.Path("fresh")));
     EXPECT_EQ(FolderInHand(), Folder.Path("fresh/"));
 }
@@ -359,6 +363,22 @@ TEST_F(FilePlaces, FolderWhoseNameIsNoTextIsEnteredAndSavedTo)
     EXPECT_EQ(DialogFolder, folder);
     TypeAndEnter("game");
     EXPECT_EQ(ChosenFilePath, folder + "game.sdk");
+}
+
+TEST_F(FilePlaces, LargerWindowGivesItsRoomToTheFilesAndTheFolders)
+{
+    Show(OpenGameCaption);
+    const auto sizes = [this] {
+        return std::array{Places()->size(), Tree()->size(), Files()->size(), Picture()->size()};
+    };
+    const auto before = sizes();
+    Dialog->resize(Dialog->size() + QSize(200, 100));
+    QCoreApplication::processEvents();
+    const auto after = sizes();
+    EXPECT_EQ(after[0], before[0]) << "places";
+    EXPECT_EQ(after[1], before[1] + QSize(0, 100)) << "folders";
+    EXPECT_EQ(after[2], before[2] + QSize(200, 100)) << "files";
+    EXPECT_EQ(after[3], before[3] + QSize(0, 100)) << "picture";
 }
 
 TEST_F(FilePlaces, SmallWindowsLeaveTheRoomToTheLists)

@@ -202,6 +202,7 @@ TEST_F(HelpWindowTest, PictureGrowsWithTheText)
     ActionOf(QStringLiteral("Larger"))->trigger();
     EXPECT_GT(browser->document()->size().height(), before);
     ActionOf(QStringLiteral("Smaller"))->trigger();
+    EXPECT_DOUBLE_EQ(browser->document()->size().height(), before);
     ActionOf(QStringLiteral("Smaller"))->trigger();
     EXPECT_LT(browser->document()->size().height(), before);
     ActionOf(QStringLiteral("Usual size"))->trigger();
