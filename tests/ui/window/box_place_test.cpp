@@ -1,3 +1,4 @@
+#include "board/look.h"
 #include "outside/messages.h"
 #include "support/widget_modal.h"
 #include "support/widget_program.h"
@@ -7,6 +8,8 @@
 #include <QDialog>
 #include <QScreen>
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace kelvarine::testing {
 namespace {
@@ -43,24 +46,52 @@ TEST(BoxPlace, StaysOnTheScreen)
         << "a box that is too tall starts at the top";
 }
 
+// Runs an action that opens a box, and closes it. Where it stood.
+QRect PlaceOfBox(const std::function<void()> &action)
+{
+    QRect place;
+    EXPECT_EQ(WhileModal<QDialog>(action,
+                                  [&place](QDialog &box) {
+                                      place = box.frameGeometry();
+                                      box.reject();
+                                  }),
+              1);
+    return place;
+}
+
+QRect CellsOnScreen(const Program &program)
+{
+    const QWidget &board = *program.Main->Client->Board;
+    return {board.mapToGlobal(QPoint(0, 0)), board.size()};
+}
+
+constexpr const char *Words = "Cell [D9] contains a 3 which conflicts with [D5].";
+
 TEST(BoxPlace, MessagesOpenBesideTheBoard)
 {
     const Program program;
     program.Main->resize(300, 380);
     program.Main->move(10, 10);
     QCoreApplication::processEvents();
-    const QWidget &board = *program.Main->Client->Board;
-    const QRect cells(board.mapToGlobal(QPoint(0, 0)), board.size());
-    const std::string text = "Cell [D9] contains a 3 which conflicts with [D5].";
-    const auto isBesideTheBoard = [&](QDialog &box) {
-        const QRect place = box.frameGeometry();
-        EXPECT_FALSE(place.intersects(cells));
-        EXPECT_TRUE(program.Main->screen()->availableGeometry().contains(place));
-        box.reject();
+    const auto isBesideTheBoard = [&](const QRect &place) {
+        return place.isValid() && !place.intersects(CellsOnScreen(program)) &&
+               program.Main->screen()->availableGeometry().contains(place);
     };
-    EXPECT_EQ(WhileModal<QDialog>([&] { ShowMessage(text, "Hint"); }, isBesideTheBoard), 1);
-    EXPECT_EQ(WhileModal<QDialog>([&] { EXPECT_FALSE(AskYesNo(text, "Hint")); }, isBesideTheBoard),
-              1);
+    EXPECT_TRUE(isBesideTheBoard(PlaceOfBox([] { ShowMessage(Words, "Hint"); })));
+    EXPECT_TRUE(isBesideTheBoard(PlaceOfBox([] { EXPECT_FALSE(AskYesNo(Words, "Hint")); })));
+}
+
+TEST(BoxPlace, MessageWithoutRoomBesideTheWindowCoversItsMarginAndNotTheBoard)
+{
+    const Program program;
+    const QRect screen = program.Main->screen()->availableGeometry();
+    MarginThickness = 130;
+    const int height = screen.height() - 150;
+    program.Main->setGeometry(screen.left(), screen.bottom() - 20 - height, screen.width(), height);
+    QCoreApplication::processEvents();
+    const QRect place = PlaceOfBox([] { ShowMessage(Words, "Hint"); });
+    EXPECT_FALSE(BoxBeside(program.Main->frameGeometry(), place.size(), screen).has_value());
+    EXPECT_EQ(place.topLeft(), BoxBeside(CellsOnScreen(program), place.size(), screen));
 }
 
 } // namespace
