@@ -1,0 +1,172 @@
+// What the controls of the configuration screen paint themselves, pixel by pixel where it carries a
+// meaning.
+#include "game/screens.h"
+#include "support/widget_configure.h"
+#include "support/widget_events.h"
+#include "ui/configure/tab_strip.h"
+#include "ui/controls/level_label.h"
+#include "ui/controls/preset_pictures.h"
+
+#include <QImage>
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace kelvarine::testing {
+namespace {
+
+constexpr Colour NoAlpha = 0xFFFFFF;
+
+Colour ColourAt(const QImage &picture, int x, int y)
+{
+    return picture.pixel(x, y) & NoAlpha;
+}
+
+// Colours in the middles of the edges of a picture: top, left, bottom, right; so far inside it.
+std::vector<Colour> Edges(const QImage &picture, int inside = 0)
+{
+    const int right = picture.width() - 1;
+    const int bottom = picture.height() - 1;
+    return {ColourAt(picture, right / 2, inside), ColourAt(picture, inside, bottom / 2),
+            ColourAt(picture, right / 2, bottom - inside),
+            ColourAt(picture, right - inside, bottom / 2)};
+}
+
+class PaintedControls : public ConfigureTest {
+protected:
+    QImage PictureOf(const char *name)
+    {
+        return Find<QWidget>(name)->grab().toImage();
+    }
+};
+
+TEST_F(PaintedControls, SwatchHasASunkenFrameOfTwoPixelsRoundItsColour)
+{
+    Open(ColoursTab);
+    const QImage swatch = PictureOf("swatch4");
+    const std::vector<Colour> frame{0x404040, 0x5A5A5A, 0xFFFFFF, 0xDADADA};
+    EXPECT_EQ(Edges(swatch, 0), frame);
+    EXPECT_EQ(Edges(swatch, 1), frame);
+    EXPECT_EQ(Edges(swatch, 2), std::vector<Colour>(4, ColourTable[4]));
+}
+
+TEST_F(PaintedControls, TileHasARaisedFrameOfOnePixelOverItsTexture)
+{
+    Open(ColoursTab);
+    ConfigureTest::Click("optTableColors0");
+    EXPECT_EQ(Edges(PictureOf("tile3")),
+              (std::vector<Colour>{0xBEBEBE, 0xAAAAAA, 0x404040, 0x5A5A5A}));
+}
+
+TEST_F(PaintedControls, PreviewOfThePageIsFramed)
+{
+    Open(PrintTab);
+    const std::vector<Colour> frame(4, QColor(Qt::darkGray).rgb() & NoAlpha);
+    EXPECT_EQ(Edges(PictureOf("picPrintPreview")), frame);
+    EXPECT_EQ(ColourAt(PictureOf("picPrintPreview"), 0, 0), frame[0]);
+}
+
+TEST_F(PaintedControls, LevelIsAButtonWithAnArrowAtItsEnd)
+{
+    Open(LogicTab);
+    auto *level = Screen->findChild<LevelLabel *>();
+    ASSERT_NE(level, nullptr);
+    const auto colourOf = [&](QPalette::ColorRole role) {
+        return level->palette().color(role).rgb() & NoAlpha;
+    };
+    const QImage picture = level->grab().toImage();
+    EXPECT_EQ(Edges(picture, 0), std::vector<Colour>(4, colourOf(QPalette::Mid)));
+    EXPECT_EQ(Edges(picture, 1), std::vector<Colour>(4, colourOf(QPalette::Button)));
+    int arrow = 0;
+    for (int x = picture.width() - 10; x < picture.width() - 1; ++x) {
+        for (int y = 1; y < picture.height() - 1; ++y) {
+            arrow += ColourAt(picture, x, y) != colourOf(QPalette::Button) ? 1 : 0;
+        }
+    }
+    EXPECT_GT(arrow, 5);
+    MovePointerTo(*level);
+    ASSERT_TRUE(level->underMouse());
+    EXPECT_EQ(Edges(level->grab().toImage(), 1), std::vector<Colour>(4, colourOf(QPalette::Light)));
+}
+
+TEST_F(PaintedControls, TabIsEdgedWithItsUpperCornersCutOff)
+{
+    Open(LogicTab);
+    auto *strip = Screen->findChild<TabStrip *>();
+    const QImage picture = strip->grab().toImage();
+    const QColor window = strip->palette().color(QPalette::Window);
+    const QColor text = strip->palette().color(QPalette::WindowText);
+    const auto mix = [](int near, int far) {
+        return (2 * near + far) / 3;
+    };
+    const QColor edge(mix(window.red(), text.red()), mix(window.green(), text.green()),
+                      mix(window.blue(), text.blue()));
+    const QRect tab = strip->PlaceOfTab(PrintTab);
+    const auto isEdge = [&](int x, int y) {
+        return QColor(picture.pixel(x, y)) == edge;
+    };
+    for (int step = 0; step <= 3; ++step) {
+        EXPECT_TRUE(isEdge(tab.left() + step, tab.top() + 3 - step)) << step;
+        EXPECT_TRUE(isEdge(tab.right() - step, tab.top() + 3 - step)) << step;
+    }
+    EXPECT_FALSE(isEdge(tab.left(), tab.top()));
+    EXPECT_FALSE(isEdge(tab.right(), tab.top()));
+    EXPECT_TRUE(isEdge(tab.center().x(), tab.top()));
+    EXPECT_TRUE(isEdge(tab.left(), tab.center().y()));
+    EXPECT_TRUE(isEdge(tab.right(), tab.center().y()));
+    EXPECT_TRUE(isEdge(tab.center().x(), strip->Height() - 1)) << "the line that the tabs stand on";
+}
+
+// Colour that most of the inside of a cell has.
+Colour MainColourIn(const QImage &picture, Cell cell)
+{
+    const int side = picture.width() / 9;
+    std::map<Colour, int> counts;
+    for (int x = side / 5; x < side * 4 / 5; ++x) {
+        for (int y = side / 5; y < side * 4 / 5; ++y) {
+            ++counts[ColourAt(picture, (cell.Column - 1) * side + x, (cell.Row - 1) * side + y)];
+        }
+    }
+    return std::ranges::max_element(counts, {}, &std::pair<const Colour, int>::second)->first;
+}
+
+TEST_F(PaintedControls, PictureOfAPresetShowsItsMarksInTheirCells)
+{
+    const QImage picture = PresetPicture(1, 270, 1);
+    std::string marked;
+    for (std::uint8_t place = 0; place < 81; ++place) {
+        const auto column = static_cast<std::uint8_t>(place % 9 + 1);
+        const auto row = static_cast<std::uint8_t>(place / 9 + 1);
+        switch (MainColourIn(picture, {column, row})) {
+        case 0xFFFFFF:
+            marked += '.';
+            break;
+        case 0xCDCDCD:
+            marked += 'S';
+            break;
+        case 0x00FE00:
+            marked += 'H';
+            break;
+        case 0x87FC87:
+            marked += 'D';
+            break;
+        default:
+            marked += '?';
+        }
+    }
+    EXPECT_EQ(marked, "......HDD"
+                      "......DHD"
+                      "........."
+                      "........."
+                      "...S....."
+                      "........."
+                      "........."
+                      "........."
+                      ".........");
+}
+
+} // namespace
+} // namespace kelvarine::testing
