@@ -51,12 +51,21 @@ protected:
         return Tops().back();
     }
 
-    // A key where the keyboard is: in an open menu, else where the window has its focus.
+    // A key where the keyboard is: in an open menu, else where the window has its focus. The boxes
+    // that it opens, which are closed again.
+    [[nodiscard]] Texts BoxesOf(Qt::Key key, Qt::KeyboardModifiers modifiers) const
+    {
+        return CloseModals([&] {
+            QWidget *menu = QApplication::activePopupWidget();
+            QTest::keyClick(menu != nullptr ? menu : program.Main->focusWidget(), key, modifiers);
+            QCoreApplication::processEvents();
+        });
+    }
+
+    // A key of the menus, which opens no box.
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
     {
-        QWidget *menu = QApplication::activePopupWidget();
-        QTest::keyClick(menu != nullptr ? menu : program.Main->focusWidget(), key, modifiers);
-        QCoreApplication::processEvents();
+        EXPECT_EQ(BoxesOf(key, modifiers), Texts()) << key;
     }
 
     // What is chosen in the bar at the moment, as its name.
@@ -199,7 +208,7 @@ TEST_F(BarOnView, LetterOfTheClockWorksUntilItShowsATime)
     EXPECT_EQ(Opened(), "mnuTime");
     Press(Qt::Key_Escape);
     ClockTick();
-    CloseModals([&] { Press(Qt::Key_T, Qt::AltModifier); });
+    [[maybe_unused]] const Texts boxes = BoxesOf(Qt::Key_T, Qt::AltModifier);
     EXPECT_EQ(Opened(), "none");
 }
 
