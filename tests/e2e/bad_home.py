@@ -9,8 +9,8 @@ import sys
 
 from desktop import Desktop, expect, save_picture, wait_for
 from game import Game
+from positions import PUZZLE
 
-PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 ALMOST_DONE = "53467891267219534819834256785976142342685379171392485696153728428741963534528617."
 WRONG_START = "535" + PUZZLE[3:]
 
@@ -44,7 +44,7 @@ def ends_with_a_word(desktop, game, name):
     desktop.close(game.window)
     desktop.answer("alt+n", other_than=[game.window])  # save first?
     words = told(desktop, game, f"{name}_settings")
-    wait_for(lambda: game.process.poll() is not None, "the program to end")
+    game.wait_for_end()
     expect(game.process.returncode == 0, "it tells that its settings are lost, and ends cleanly")
     return words
 

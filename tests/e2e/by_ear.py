@@ -7,8 +7,7 @@ import sys
 from assistive import Ear, on_own_bus
 from desktop import Desktop, expect, wait_for
 from game import Game
-
-PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
+from positions import PUZZLE
 
 
 class Evening:

@@ -1,8 +1,9 @@
 """A desktop of its own for the whole-program tests: a virtual display with a window manager, and real
 key and mouse events for the real program on it.
 
-Everything that a test learns it learns as a player does, from the pixels of the window and from
-the clipboard."""
+What a test learns of the game it learns as a player does, from pixels, titles and the clipboard, or from
+the files that are left: settings, statistics, games, what is kept for a crash. That a key has been dealt
+with the window itself tells, by its answers to pings."""
 
 import itertools
 import os
@@ -119,6 +120,10 @@ class Desktop:
         """The names of the files in which programs keep games for the case of a crash, and of their
         locks."""
         return sorted(path.name for path in self.statistics_file.parent.glob("recovery-*"))
+
+    def game_is_kept(self):
+        """Whether a game is kept for the case of a crash."""
+        return any(name.endswith(".sdk") for name in self.recovery())
 
     def __exit__(self, failure, *_):
         if failure:

@@ -10,7 +10,8 @@ import sys
 from desktop import Desktop, expect, wait_for
 from game import Game
 from long_run import GAME as LONG_RUN
-from over_boxes import MIRRORED, PUZZLE, Story, contents, make_files, walk, walk_back
+from over_boxes import Story, contents, make_files, walk, walk_back
+from positions import MIRRORED, PUZZLE
 from random_game import banner_is_up
 
 
@@ -60,7 +61,7 @@ def over_the_closing_question(desktop, program, session):
     wait_for(lambda: session.heard().count("refuses") > known, "the logout to be cancelled")
     expect(story.game.process.poll() is None, "a logout waits for an open question")
     desktop.key("alt+y")
-    wait_for(lambda: story.game.process.poll() is not None, "the program to end")
+    story.game.wait_for_end()
     changed = [name for name, held in contents(desktop).items() if held != files[name]]
     expect(story.game.process.returncode == 0 and changed == ["evening.sdk"],
            "which then decides: Yes saves")
@@ -103,7 +104,7 @@ def quiet(desktop, program, session):
     files = contents(desktop)
     known = session.heard().count("asks")
     session.want("quiet", "agrees")
-    wait_for(lambda: story.game.process.poll() is not None, "the program to end")
+    story.game.wait_for_end()
     expect(story.game.process.returncode == 0 and contents(desktop) == files
            and session.heard().count("asks") == known,
            "where nobody may be asked nothing is, and no file is written over")
@@ -121,7 +122,7 @@ def agreed(desktop, program, session):
     story.box("^Statistics$")
     session.log_out()
     desktop.answer("alt+n", other_than=story.known)
-    wait_for(lambda: story.game.process.poll() is not None, "the program to end without more ado")
+    story.game.wait_for_end()
     expect(story.game.process.returncode == 0 and desktop.setting(7, 5) == -1,
            "a logout asks once, and the open screen comes back next time")
 
@@ -156,7 +157,7 @@ def during_a_run(desktop, program, session):
     desktop.answer("alt+y", other_than=[game.window])
     session.wait("asks", asked)
     desktop.answer("alt+n", other_than=[game.window])
-    wait_for(lambda: game.process.poll() is not None, "the program to end")
+    game.wait_for_end()
     expect(game.process.returncode == 0 and session.heard().count("refuses") == known + 2
            and not desktop.recovery(), "answered, the logout comes about")
 

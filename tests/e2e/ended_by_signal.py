@@ -8,7 +8,8 @@ import sys
 
 from desktop import Desktop, expect, save_picture, wait_for
 from game import Game
-from over_boxes import MIRRORED, Story, contents, make_files, walk, walk_back
+from over_boxes import Story, contents, make_files, walk, walk_back
+from positions import MIRRORED
 
 
 def end(story):
@@ -23,7 +24,7 @@ def over_the_closing_question(desktop, program):
     story.box()
     end(story)  # what it asks is asked already
     desktop.key("alt+y")
-    wait_for(lambda: story.game.process.poll() is not None, "the program to end")
+    story.game.wait_for_end()
     changed = [name for name, held in contents(desktop).items() if held != files[name]]
     expect(story.game.process.returncode == 0 and changed == ["evening.sdk"],
            "a signal over the question of the closing leaves it to the player: Yes saves")
@@ -35,7 +36,7 @@ def over_a_message_at_the_start(desktop, program):
     story.known.append(story.game.window)
     story.box()
     end(story)
-    wait_for(lambda: story.game.process.poll() is not None, "the program to end at its start")
+    story.game.wait_for_end()
     expect(story.game.process.returncode == 0 and contents(desktop) == files,
            "a file that is no game does not hold the end")
 
@@ -74,13 +75,13 @@ def over_the_question_of_a_lost_game(desktop, program):
     """Which has decided nothing when it goes with the program."""
     story = Story(desktop, program)
     story.modify()
-    wait_for(lambda: any(name.endswith(".sdk") for name in desktop.recovery()), "it to be kept")
+    wait_for(desktop.game_is_kept, "it to be kept")
     story.game.process.kill()
     story.game.process.wait()
     game = Game(desktop, program, behind_a_box=True)
     desktop.dialog(other_than=[game.window])
     game.process.send_signal(signal.SIGTERM)
-    wait_for(lambda: game.process.poll() is not None, "the program to end")
+    game.wait_for_end()
     expect(game.process.returncode == 0 and not (desktop.statistics_file.parent / "recovered").exists(),
            "a signal over the question of a lost game ends the program")
     goes_on(desktop, program)
@@ -97,7 +98,7 @@ def over_the_question_of_a_search(desktop, program):
     desktop.answer("alt+y", other_than=[game.window, first])
     desktop.focus(first)
     desktop.key("alt+y")
-    wait_for(lambda: game.process.poll() is not None, "the program to end")
+    game.wait_for_end()
     expect(game.process.returncode == 0, "a signal stops a search and then ends the program")
 
 

@@ -9,8 +9,8 @@ import sys
 
 from desktop import Desktop, expect, save_picture, wait_for
 from game import Game
+from positions import PUZZLE
 
-PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 OTHER = "..............3.85..1.2.......5.7.....4...1...9.......5......73..2.1........4...9"
 MANY = 10000
 

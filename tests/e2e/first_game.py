@@ -7,9 +7,7 @@ import sys
 from board import GIVEN_FILL, SELECTED_FILL, UNKNOWN_FILL
 from desktop import Desktop, expect, save_picture, wait_for
 from game import Game
-
-PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
-SOLUTION = "534678912672195348198342567859761423426853791713924856961537284287419635345286179"
+from positions import PUZZLE, SOLUTION
 
 
 def paste(desktop, game, text):
@@ -140,7 +138,7 @@ def end_by_signal(desktop, game):
     game.process.send_signal(signal.SIGTERM)
     desktop.dialog(other_than=[game.window])
     desktop.key("alt+n")
-    wait_for(lambda: game.process.poll() is not None, "the program to end")
+    game.wait_for_end()
     expect(game.process.returncode == 0, "the program ends as after closing the window")
 
 

@@ -70,8 +70,22 @@ class Game:
         self.desktop.close(self.window)
         if save_first:
             self.desktop.answer(save_first, other_than=[self.window])
+        return self.wait_for_end()
+
+    def wait_for_end(self):
+        """Waits until the program has ended, whatever made it, and gives its result."""
         wait_for(lambda: self.process.poll() is not None, "the program to end")
         return self.process.returncode
+
+    def clock_picture(self):
+        """The right end of the menu bar, where the time stands."""
+        width = self.size()[0]
+        return self.picture().crop((width - 90, 2, width - 2, 20)).tobytes()
+
+    def wait_for_a_tick(self):
+        before = self.clock_picture()
+        wait_for(lambda: self.clock_picture() != before, "the clock to tick")
+        self.desktop.settle()
 
     def board(self):
         return Board(self.picture(), self.lines)

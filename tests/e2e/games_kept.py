@@ -7,8 +7,7 @@ import sys
 
 from desktop import Desktop, RECORD_SIZE, expect, save_picture, wait_for
 from game import Game
-
-PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
+from positions import PUZZLE
 
 GAME_SIZE = 1034 * RECORD_SIZE
 HEADER = b"Kelvarine game file v1.0".ljust(32)
@@ -165,7 +164,7 @@ def is_killed_in_save(desktop, program, path, line, way):
     game.resize(900, 980)
     expect(game.copy_line() == line, "the game is opened")
     desktop.key("Prior", "ctrl+s")
-    wait_for(lambda: game.process.poll() is not None, "the program to be killed")
+    game.wait_for_end()
     kept = desktop.recovery()
     for name in kept:
         (desktop.statistics_file.parent / name).unlink()

@@ -6,10 +6,11 @@ import sys
 
 from Xlib import X
 
+from board import SELECTED_FILL
 from desktop import Desktop, expect, wait_for
 from game import Configure, Game
+from positions import PUZZLE
 
-PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 SIZE = 760, 830
 TOOLBAR = 54  # its height in pixels
 
@@ -28,18 +29,6 @@ def popups(desktop):
     return sorted(ends)
 
 
-def clock_picture(game):
-    """The right end of the menu bar, where the time stands."""
-    width = game.size()[0]
-    return game.picture().crop((width - 90, 2, width - 2, 20)).tobytes()
-
-
-def wait_for_a_tick(game):
-    before = clock_picture(game)
-    wait_for(lambda: clock_picture(game) != before, "the clock to tick")
-    game.desktop.settle()
-
-
 def cell(game, column, row):
     return game.copy_line()[(row - 1) * 9 + column - 1]
 
@@ -48,7 +37,7 @@ def walk(desktop, game):
     desktop.key("alt+g")
     seen = []
     for _ in range(7):
-        wait_for_a_tick(game)
+        game.wait_for_a_tick()
         seen.append(popups(desktop))
         desktop.key("Left")
     lefts = [ends[0][0] if ends else None for ends in seen]
@@ -72,24 +61,24 @@ def outer(desktop, window):
 def open_late(desktop, game):
     game.click(4, 4)
     desktop.key("alt")
-    wait_for_a_tick(game)
-    wait_for_a_tick(game)
+    game.wait_for_a_tick()
+    game.wait_for_a_tick()
     desktop.key("Down")
     expect(popups(desktop), "Alt, a while, Down: the first menu opens")
     desktop.key("Escape")
     wait_for(lambda: not popups(desktop), "it to close")
-    expect(game.board().fill(4, 4) == (54, 162, 253), "and the selection has not moved")
+    expect(game.board().fill(4, 4) == SELECTED_FILL, "and the selection has not moved")
     desktop.key("Down")
-    expect(game.board().fill(4, 5) == (54, 162, 253), "now the arrow is the board's again")
+    expect(game.board().fill(4, 5) == SELECTED_FILL, "now the arrow is the board's again")
 
 
 def pause(desktop, game):
     shown = game.board().ink(1, 1)
     desktop.key("alt+g", "Left", "Return")
     wait_for(lambda: game.board().ink(1, 1) < shown / 2, "the numbers to go")
-    wide = clock_picture(game)
+    wide = game.clock_picture()
     desktop.key("alt+g", "Left", "Down", "Return")
-    wait_for(lambda: clock_picture(game) != wide, "the clock to run again")
+    wait_for(lambda: game.clock_picture() != wide, "the clock to run again")
     desktop.key("Down")  # paints the board
     wait_for(lambda: game.board().ink(1, 1) >= shown * 0.9, "the numbers to come back")
     print("ok: Pause and Reset need no mouse", flush=True)
@@ -151,7 +140,7 @@ def boxes_of_screens(desktop, game):
         desktop.key("Escape")
         desktop.gone(box)
         wait_for(lambda: desktop.focused() == screen, "the screen to be in front again")
-        selected = [game.board().fill(*place) == (54, 162, 253) for place in ((3, 1), (9, 9))]
+        selected = [game.board().fill(*place) == SELECTED_FILL for place in ((3, 1), (9, 9))]
         desktop.key("Escape")
         desktop.gone(screen)
         expect(selected == [True, False], f"{title}: Escape is the screen's, not the board's")
@@ -168,7 +157,7 @@ def start_with_screens(desktop, program, game):
         wait_for(lambda name=title: desktop.windows(name), "the screens to come back")
     wait_for(lambda: desktop.focused() == game.window, "the main window to get the keyboard")
     desktop.key("Down", "Right")
-    wait_for(lambda: game.board().fill(2, 1) == (54, 162, 253), "the first keys to be the board's")
+    wait_for(lambda: game.board().fill(2, 1) == SELECTED_FILL, "the first keys to be the board's")
     print("ok: the board has the keyboard after a start with screens", flush=True)
     expect(game.end() == 0, "the program ends well")
 
@@ -178,7 +167,7 @@ def start_with_screens_and_a_lost_game(desktop, program):
     game = Game(desktop, program, behind_a_box=True)
     game.focus()
     game.paste(PUZZLE)
-    wait_for(lambda: any(name.endswith(".sdk") for name in desktop.recovery()), "it to be kept")
+    wait_for(desktop.game_is_kept, "it to be kept")
     game.process.kill()
     game.process.wait()
     game = Game(desktop, program, behind_a_box=True)
@@ -191,7 +180,7 @@ def start_with_screens_and_a_lost_game(desktop, program):
     desktop.gone(box)
     wait_for(lambda: desktop.focused() == game.window, "the main window to get the keyboard")
     desktop.key("Down", "Right")
-    wait_for(lambda: game.board().fill(2, 1) == (54, 162, 253), "the first keys to be the board's")
+    wait_for(lambda: game.board().fill(2, 1) == SELECTED_FILL, "the first keys to be the board's")
     expect(game.copy_line() == PUZZLE, "the lost game is back, beside the screens")
     expect(game.end("alt+n") == 0, "the program ends well")
 

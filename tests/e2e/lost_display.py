@@ -6,9 +6,7 @@ import sys
 
 from desktop import Desktop, expect, wait_for
 from game import Game
-
-GAME = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
-MIRRORED = "".join(GAME[row:row + 9][::-1] for row in range(0, 81, 9))
+from positions import MIRRORED, PUZZLE
 
 
 class LostDisplay(Desktop):
@@ -27,27 +25,23 @@ class LostDisplay(Desktop):
             process.wait()
 
 
-def kept(desktop):
-    return any(name.endswith(".sdk") for name in desktop.recovery())
-
-
 def main():
     program = sys.argv[1]
     with LostDisplay() as lost, Desktop() as desktop:
         game = Game(lost, program)
-        game.paste(GAME)
+        game.paste(PUZZLE)
         lost.key("shift+m")
         wait_for(lambda: game.copy_line() == MIRRORED, "the game to be mirrored")
-        wait_for(lambda: kept(lost), "the game to be kept for a crash")
+        wait_for(lost.game_is_kept, "the game to be kept for a crash")
         lost.key("ctrl+o")  # in the middle of something
         lost.lose()
-        wait_for(lambda: game.process.poll() is not None, "the program to end")
+        game.wait_for_end()
         expect(game.process.returncode == 1, "the program ends without a crash")
         shutil.copytree(lost.home, desktop.home, dirs_exist_ok=True)
         game = Game(desktop, program, behind_a_box=True)
         desktop.answer("alt+y", other_than=[game.window])
         game.focus()
-        wait_for(lambda: game.copy_line() in (GAME, MIRRORED), "the game as it was kept last")
+        wait_for(lambda: game.copy_line() in (PUZZLE, MIRRORED), "the game as it was kept last")
         expect(game.end(save_first="alt+n") == 0, "and the program plays on")
         shutil.rmtree(lost.home)
         shutil.rmtree(lost.evidence)

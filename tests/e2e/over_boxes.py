@@ -3,9 +3,7 @@ file: what the stories of the program's end have in common."""
 
 from desktop import expect, wait_for
 from game import Configure, Game
-
-PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
-MIRRORED = "".join(PUZZLE[row:row + 9][::-1] for row in range(0, 81, 9))
+from positions import MIRRORED, PUZZLE
 
 SETTINGS = ".config/kelvarine/config.sdu"
 
@@ -216,7 +214,7 @@ def walk(desktop, program, end, before=()):
         end(story)
         story.box()
         desktop.key("alt+n")
-        wait_for(lambda: story.game.process.poll() is not None, f"the program to end over {name}")
+        story.game.wait_for_end()
         expect(story.game.process.returncode == 0 and contents(desktop) == files,
                f"ended over {name}, the program leaves every file as it is")
         desktop.settings_file.write_bytes(settings)  # no screen comes back beside the next game

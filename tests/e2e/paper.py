@@ -6,8 +6,7 @@ import sys
 
 from desktop import Desktop, expect, pictures, save_picture, wait_for
 from game import Configure, Game
-
-PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
+from positions import PUZZLE
 
 SIX_GAMES = 4  # steps down the list of games per page
 PAGES, GAMES = 2, 12

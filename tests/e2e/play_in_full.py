@@ -9,8 +9,7 @@ import sys
 from board import GIVEN_FILL, SELECTED_FILL, UNKNOWN_FILL
 from desktop import Desktop, expect, save_picture, wait_for
 from game import Game
-
-EASY = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
+from positions import PUZZLE
 
 RED = (255, 0, 0)
 HINT_CELL, HINT_DOMAIN = (204, 204, 0), (136, 136, 0)
@@ -131,7 +130,7 @@ def no_is_enough(desktop, game):
 def explains_an_alert(desktop, program):
     game = Game(desktop, program)
     game.resize(900, 980)
-    paste(desktop, game, EASY)
+    paste(desktop, game, PUZZLE)
     game.click(3, 1)
     expect(game.board().share(RED, 3, 1) == 0, "an open cell carries no alert")
     desktop.key("5", "a")
@@ -157,7 +156,7 @@ def right_click(desktop, game, column, row, number):
 
 
 def strikes_pencilmarks_out(desktop, game):
-    paste(desktop, game, EASY)
+    paste(desktop, game, PUZZLE)
     game.drag((3, 1), (4, 1))
     desktop.key("0")
     game.click(9, 1)
@@ -208,7 +207,7 @@ def toolbar(game):
 
 
 def shows_every_mode(desktop, game):
-    paste(desktop, game, EASY)
+    paste(desktop, game, PUZZLE)
     for name, presses, colour in TOOLBAR_MODES:
         for index in presses:
             press_tool(desktop, game, index)
@@ -246,7 +245,7 @@ def shows_signs(desktop, game):
 # ---- Clock -------------------------------------------------------------------------------------
 
 def pauses(desktop, game):
-    paste(desktop, game, EASY)
+    paste(desktop, game, PUZZLE)
     game.click(2, 2)
     desktop.key("F12")
     board = game.board()

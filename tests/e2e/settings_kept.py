@@ -7,8 +7,7 @@ import sys
 from board import GIVEN_FILL
 from desktop import Desktop, expect, save_picture, wait_for
 from game import Configure, Game
-
-PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
+from positions import PUZZLE
 
 RED, BLUE = (255, 0, 0), (0, 0, 255)
 

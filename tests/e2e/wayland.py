@@ -11,8 +11,8 @@ import sys
 from board import GIVEN_FILL, UNKNOWN_FILL
 from desktop import Desktop, expect, save_picture, wait_for
 from game import expect_alive
+from positions import PUZZLE
 
-PUZZLE = "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79"
 GIVENS = 30
 
 SOCKET = "wayland-test"
