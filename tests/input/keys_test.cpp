@@ -99,71 +99,74 @@ void Nothing()
 }
 
 // Exact modifiers stand before those for any other.
+const std::vector<ExpectedKey> SingleKeys{
+    {33, Any, "undo", Undo},
+    {34, Any, "redo", Redo},
+    {46, 1, "delete all",
+     [] {
+         ChangeSelection(0x3FF, 0);
+     }},
+    {46, Any, "delete",
+     [] {
+         ChangeSelection(NumberFilter, 0);
+     }},
+    {45, 2, "insert all",
+     [] {
+         ChangeSelection(0, 0x3FE);
+     }},
+    {45, Any, "insert",
+     [] {
+         ChangeSelection(0, NumberFilter);
+     }},
+    {16, Any, "sign of Shift", ShowSignOfShift},
+    {17, Any, "sign of Ctrl", ShowSignOfCtrl},
+    {27, Any, "escape",
+     [] {
+         ProcessToolbar(0);
+     }},
+    {70, 1, "flip", mnuFlipGrid},
+    {71, 2, "make given", mnuMakeGiven},
+    {72, 0, "hint", mnuHint},
+    {72, 1, "hide all", mnuHideSelectedCellsForce},
+    {72, 2, "hide some", mnuHideSelectedCellsConditional},
+    {65, 2, "save as", mnuSaveAs},
+    {65, Any, "reason", mnuShowAlertReason},
+    {66, 2, "blank grid", mnuGameBlankGrid},
+    {66, Any, "box", mnuSelectBox},
+    {67, 2, "copy grid", mnuCopyGridFormat},
+    {67, Any, "column", mnuSelectColumn},
+    {68, Any, "domain", mnuSelectDomain},
+    {73, Any, "intersection", mnuSelectIntersection},
+    {76, 1, "rotate left", mnuRotateGrid90Left},
+    {76, 2, "apply logic", mnuApplyLogic},
+    {76, Any, "logic needed", mnuShowLogicNeeded},
+    {77, 1, "mirror", mnuMirrorGrid},
+    {78, 2, "random game", mnuGameRandom},
+    {79, 2, "open", mnuOpen},
+    {80, 2, "print", mnuPrint},
+    {80, Any, "peers", mnuSelectPeers},
+    {82, 1, "rotate right", mnuRotateGrid90Right},
+    {82, 2, "restart", mnuRestartSameGame},
+    {82, Any, "row", mnuSelectRow},
+    {83, 2, "save", mnuSave},
+    {83, 3, "", Nothing},
+    {83, Any, "take snapshot", mnuTakeSnapshot},
+    {84, 2, "text string", mnuGameTextString},
+    {85, Any, "use snapshot", mnuUseSnapshot},
+    {86, 2, "clipboard", mnuGameClipboard},
+    {87, Any, "whole grid", mnuSelectWholeGrid},
+    {88, 2, "expose", mnuExposeSelectedCells},
+    {89, 2, "redo", Redo},
+    {90, 1, "solve", mnuSolveGame},
+    {90, 2, "undo", Undo},
+    {109, 2, "copy line", mnuCopySingleLineFormat},
+    {189, 2, "copy line", mnuCopySingleLineFormat},
+};
+
+// These, the arrows and the digits.
 std::vector<ExpectedKey> ExpectedKeys()
 {
-    std::vector<ExpectedKey> keys{
-        {33, Any, "undo", Undo},
-        {34, Any, "redo", Redo},
-        {46, 1, "delete all",
-         [] {
-             ChangeSelection(0x3FF, 0);
-         }},
-        {46, Any, "delete",
-         [] {
-             ChangeSelection(NumberFilter, 0);
-         }},
-        {45, 2, "insert all",
-         [] {
-             ChangeSelection(0, 0x3FE);
-         }},
-        {45, Any, "insert",
-         [] {
-             ChangeSelection(0, NumberFilter);
-         }},
-        {16, Any, "sign of Shift", ShowSignOfShift},
-        {17, Any, "sign of Ctrl", ShowSignOfCtrl},
-        {27, Any, "escape",
-         [] {
-             ProcessToolbar(0);
-         }},
-        {70, 1, "flip", mnuFlipGrid},
-        {71, 2, "make given", mnuMakeGiven},
-        {72, 0, "hint", mnuHint},
-        {72, 1, "hide all", mnuHideSelectedCellsForce},
-        {72, 2, "hide some", mnuHideSelectedCellsConditional},
-        {65, 2, "save as", mnuSaveAs},
-        {65, Any, "reason", mnuShowAlertReason},
-        {66, 2, "blank grid", mnuGameBlankGrid},
-        {66, Any, "box", mnuSelectBox},
-        {67, 2, "copy grid", mnuCopyGridFormat},
-        {67, Any, "column", mnuSelectColumn},
-        {68, Any, "domain", mnuSelectDomain},
-        {73, Any, "intersection", mnuSelectIntersection},
-        {76, 1, "rotate left", mnuRotateGrid90Left},
-        {76, 2, "apply logic", mnuApplyLogic},
-        {76, Any, "logic needed", mnuShowLogicNeeded},
-        {77, 1, "mirror", mnuMirrorGrid},
-        {78, 2, "random game", mnuGameRandom},
-        {79, 2, "open", mnuOpen},
-        {80, 2, "print", mnuPrint},
-        {80, Any, "peers", mnuSelectPeers},
-        {82, 1, "rotate right", mnuRotateGrid90Right},
-        {82, 2, "restart", mnuRestartSameGame},
-        {82, Any, "row", mnuSelectRow},
-        {83, 2, "save", mnuSave},
-        {83, 3, "", Nothing},
-        {83, Any, "take snapshot", mnuTakeSnapshot},
-        {84, 2, "text string", mnuGameTextString},
-        {85, Any, "use snapshot", mnuUseSnapshot},
-        {86, 2, "clipboard", mnuGameClipboard},
-        {87, Any, "whole grid", mnuSelectWholeGrid},
-        {88, 2, "expose", mnuExposeSelectedCells},
-        {89, 2, "redo", Redo},
-        {90, 1, "solve", mnuSolveGame},
-        {90, 2, "undo", Undo},
-        {109, 2, "copy line", mnuCopySingleLineFormat},
-        {189, 2, "copy line", mnuCopySingleLineFormat},
-    };
+    std::vector<ExpectedKey> keys = SingleKeys;
     for (std::int32_t shift = 0; shift <= 7; ++shift) {
         keys.push_back({37, shift, "left", Arrows(Arrow::Left, shift)});
         keys.push_back({38, shift, "up", Arrows(Arrow::Up, shift)});
