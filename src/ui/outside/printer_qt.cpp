@@ -4,6 +4,7 @@
 #include "grid/colour.h"
 #include "outside/messages.h"
 #include "outside/printer.h"
+#include "outside/whole_file.h"
 #include "paint/print_painter.h"
 #include "paint/text.h"
 #include "paint/text_painter.h"
@@ -17,6 +18,7 @@
 #include <QPrinterInfo>
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <memory>
 
@@ -75,8 +77,22 @@ void OpenPdf()
     document->Pdf = std::make_unique<QPdfWriter>(&document->Bytes);
     document->Pdf->setResolution(ChosenPrinter().resolution());
     document->Pdf->setPageLayout(ChosenPrinter().pageLayout());
+    document->Pdf->setPageRanges(ChosenPrinter().pageRanges());
     document->Pdf->setTitle(Text(ProgramName));
-    document->File = QFile::encodeName(ChosenPrinter().outputFileName()).toStdString();
+    const QString file = ChosenPrinter().outputFileName();
+    document->File = QFile::encodeName(file).toStdString();
+    // The toolkit's dialog shows this letter for bytes that belong to none, which are lost by that.
+    if (file.contains(QChar::ReplacementCharacter) && !FileExists(document->File)) {
+        document->Failure = "The name of this file is no text.\r\rPlease choose another one.";
+    }
+}
+
+void BeginDocument()
+{
+    document = std::make_unique<Document>();
+    if (WritesPdf()) {
+        OpenPdf();
+    }
 }
 
 bool Fail()
@@ -89,10 +105,7 @@ bool Fail()
 bool IsOpen()
 {
     if (document == nullptr) {
-        document = std::make_unique<Document>();
-        if (WritesPdf()) {
-            OpenPdf();
-        }
+        BeginDocument();
         if (!document->Pen.begin(&Device())) {
             return Fail();
         }
@@ -218,6 +231,16 @@ std::string EndDocument()
     std::string failure = WriteDocument();
     document.reset();
     return failure;
+}
+
+std::string PrintInOneGo(const std::function<bool(QPagedPaintDevice &)> &print)
+{
+    assert(!IsPrinting());
+    BeginDocument();
+    if (!print(Device())) {
+        Fail();
+    }
+    return EndDocument();
 }
 
 std::string DecimalSign()

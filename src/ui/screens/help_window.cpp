@@ -154,15 +154,16 @@ void HelpBrowser::ResetZoom()
     Zoom(-zoom);
 }
 
-bool HelpBrowser::PrintOn(QPrinter &printer)
+bool HelpBrowser::PrintOn(QPagedPaintDevice &paper)
 {
     isOnPaper = true;
-    print(&printer);
+    print(&paper);
     isOnPaper = false;
     if (IsDark()) {
         LoadAgain(); // the paper's pictures have taken the place of those on view
     }
-    return printer.printerState() != QPrinter::Error;
+    const auto *printer = dynamic_cast<QPrinter *>(&paper);
+    return printer == nullptr || printer->printerState() != QPrinter::Error;
 }
 
 // ---- The window ------------------------------------------------------------------------------
@@ -342,8 +343,14 @@ void HelpWindow::Print()
     }
     const bool chosen = ChoosePrinterOver(this);
     activateWindow(); // where no window manager gives the front back
-    if (chosen && !Browser->PrintOn(ChosenPrinter())) {
-        statusBar()->showMessage("The page can't be printed.", MessageTime);
+    if (!chosen) {
+        return;
+    }
+    const auto print = [this](QPagedPaintDevice &paper) {
+        return Browser->PrintOn(paper);
+    };
+    if (const std::string failure = PrintInOneGo(print); !failure.empty()) {
+        ShowMessage("The page can't be printed.\r\r" + failure);
     }
 }
 

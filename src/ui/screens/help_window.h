@@ -10,7 +10,7 @@
 
 class QLineEdit;
 class QListWidget;
-class QPrinter;
+class QPagedPaintDevice;
 class QSplitter;
 class QTabWidget;
 
@@ -27,8 +27,8 @@ public:
     void Zoom(int steps);
     void ResetZoom();
 
-    // Prints the page on view, black on white, pictures too. False when the device takes nothing.
-    bool PrintOn(QPrinter &printer);
+    // Prints the page on view, black on white, pictures too. False when a printer takes nothing.
+    bool PrintOn(QPagedPaintDevice &paper);
 
 protected:
     QVariant loadResource(int type, const QUrl &name) override;

@@ -3,6 +3,7 @@
 #include "files/recovery.h"
 #include "outside/window.h"
 #include "program/program.h"
+#include "ui/screens/help_window.h"
 #include "ui/window/help_key.h"
 #include "ui/window/main_window.h"
 #include "ui/window/opening.h"
@@ -33,6 +34,8 @@ int RunProgram(const std::string &gameFile)
     StartProgram(gameFile);
     // A box of the start may have stood when it was told to go.
     const int result = RecoveryHasEnded() ? 0 : QApplication::exec();
+    // What the application takes down when it quits, it leaves where it never began.
+    delete OpenHelpWindow();
     theWindow.reset();
     return result;
 }

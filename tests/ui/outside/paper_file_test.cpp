@@ -5,10 +5,14 @@
 #include "support/widget_program.h"
 #include "ui/outside/printer_qt.h"
 
+#include <QFile>
+#include <QPainter>
 #include <gtest/gtest.h>
 
 #include <cerrno>
 #include <filesystem>
+#include <functional>
+#include <iterator>
 
 namespace kelvarine::testing {
 namespace {
@@ -30,6 +34,28 @@ protected:
         return EndDocument();
     }
 
+    // Ends a document again and again, each time with another call of its writing failing.
+    void FailEach(const std::function<void()> &begin,
+                  const std::function<std::string()> &finish) const
+    {
+        for (const int error : {ENOSPC, EIO, EDQUOT, EROFS, EINTR}) {
+            int call = 0;
+            for (int made = 0; made >= call;) {
+                ++call;
+                Folder.Write("page.pdf", Former);
+                begin();
+                LetCallFail(call, error);
+                const std::string words = finish();
+                made = CallsMade();
+                LetCallFail(0, 0);
+                ASSERT_TRUE(HoldsAPage("page.pdf") ||
+                            (Folder.Read("page.pdf") == Former && !words.empty()))
+                    << "call " << call << ", error " << error;
+            }
+            EXPECT_GT(call, 10) << "there are calls to fail";
+        }
+    }
+
     [[nodiscard]] bool HoldsAPage(std::string_view name) const
     {
         const std::string bytes = Folder.Read(name);
@@ -42,22 +68,34 @@ protected:
 
 TEST_F(PaperFile, IsTheOldOneOrTheNewOneWhicheverCallFails)
 {
-    for (const int error : {ENOSPC, EIO, EDQUOT, EROFS, EINTR}) {
-        int call = 0;
-        for (int made = 0; made >= call;) {
-            ++call;
-            Folder.Write("page.pdf", Former);
-            ASSERT_TRUE(PrintText(10, 10, "a page"));
-            LetCallFail(call, error);
-            const std::string words = EndDocument();
-            made = CallsMade();
-            LetCallFail(0, 0);
-            ASSERT_TRUE(HoldsAPage("page.pdf") ||
-                        (Folder.Read("page.pdf") == Former && !words.empty()))
-                << "call " << call << ", error " << error;
-        }
-        EXPECT_GT(call, 10) << "there are calls to fail";
-    }
+    FailEach([] { ASSERT_TRUE(PrintText(10, 10, "a page")); }, EndDocument);
+}
+
+TEST_F(PaperFile, OfAnotherWindowIsAsSafe)
+{
+    FailEach([] {},
+             [] {
+                 return PrintInOneGo([](QPagedPaintDevice &paper) {
+                     QPainter(&paper).drawText(100, 100, "a page");
+                     return true;
+                 });
+             });
+    EXPECT_EQ(PrintInOneGo([](QPagedPaintDevice & /*paper*/) { return false; }),
+              "The printer does not answer.");
+    EXPECT_FALSE(IsPrinting());
+}
+
+// The dialog shows such a name, but what comes back of it is another one.
+TEST_F(PaperFile, WhoseNameIsNoTextIsToldAndStays)
+{
+    Folder.Write("lat\xe4in.pdf", Former);
+    const QByteArray path = QByteArray::fromStdString(Folder.Path("lat\xe4in.pdf"));
+    ChosenPrinter().setOutputFileName(QFile::decodeName(path));
+    EXPECT_FALSE(PrintText(10, 10, "a page"));
+    EXPECT_EQ(EndDocument(), "The name of this file is no text.\r\rPlease choose another one.");
+    EXPECT_EQ(Folder.Read("lat\xe4in.pdf"), Former);
+    const std::filesystem::directory_iterator files(Folder.Path());
+    EXPECT_EQ(std::distance(begin(files), end(files)), 2) << "and the page of every test";
 }
 
 TEST_F(PaperFile, IsTheOneThatThePrinterHadWhenTheDocumentBegan)
