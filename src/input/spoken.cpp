@@ -74,6 +74,7 @@ const House *SelectedHouse(std::int64_t count)
 std::string_view WordOfSign()
 {
     constexpr std::array<std::string_view, 3> words{"replace", "take away", "add"};
+    assert(HasSign() && ToolSign >= Replace && ToolSign <= Add);
     return words[static_cast<std::size_t>(ToolSign)];
 }
 
@@ -153,7 +154,7 @@ std::string SpokenTool(std::int32_t index)
     if (index > EscapeButton && index < AllButton) {
         return std::to_string(index);
     }
-    if (index == SignButton && ToolMode != HighlightMode) {
+    if (index == SignButton && HasSign()) {
         return "+/- " + std::string(WordOfSign());
     }
     if (index == AllButton && ToolMode != HighlightMode) {

@@ -237,6 +237,11 @@ void ShowSign(std::int32_t sign)
 
 } // namespace
 
+bool HasSign()
+{
+    return ToolMode != HighlightMode && ToolMode != SelectDomainsMode;
+}
+
 std::int32_t ModeButton(std::int32_t mode)
 {
     return LookOf(mode).Button;

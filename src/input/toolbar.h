@@ -40,6 +40,10 @@ extern std::int32_t ToolMode;
 // How they do it, passed on as shiftStat: 0 replace, 1 take away, 2 add.
 extern std::int32_t ToolSign;
 
+// Whether the mode of the toolbar knows a sign. In the others ToolSign is what a modifier key left
+// there, up to 3.
+bool HasSign();
+
 // The button of a mode, one of the last three.
 std::int32_t ModeButton(std::int32_t mode);
 

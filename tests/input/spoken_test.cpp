@@ -2,6 +2,8 @@
 #include "game/clock.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
+#include "input/keys.h"
+#include "input/mouse.h"
 #include "input/number_keys.h"
 #include "input/selection.h"
 #include "input/spoken.h"
@@ -103,6 +105,17 @@ TEST_F(Spoken, ToolsKeepTheirNamesWhateverTheSign)
     EXPECT_EQ(SpokenToolUse(3), "Add #3 to selected cells");
     EXPECT_EQ(SpokenToolUse(EditButton), "what the numbers do now");
     EXPECT_EQ(SpokenToolUse(ViewButton), "");
+}
+
+TEST_F(Spoken, SignIsNotToldWhereTheSignButtonDoesNothing)
+{
+    ProcessToolbar(SelectButton);
+    ProcessToolbar(SelectButton);
+    ASSERT_EQ(ToolMode, SelectDomainsMode);
+    KeyDown(CtrlCode, CtrlKey);
+    EXPECT_EQ(SpokenTool(SignButton), "+/-");
+    KeyUp(CtrlCode);
+    EXPECT_EQ(SpokenTool(SignButton), "+/-");
 }
 
 TEST_F(Spoken, ToolsOfTheHighlightModeTellTheirColours)
