@@ -44,7 +44,6 @@ void PresetFileType(std::size_t fileType)
     DefaultExtension = FilePattern.substr(1);
 }
 
-// A folder by the name is in the way of a file.
 enum class Presence : std::uint8_t { There, Missing, Unreachable };
 
 // Whether the folder is there that a path names a file in.
@@ -58,7 +57,7 @@ Presence PresenceOf(const std::string &path)
 {
     struct stat kind {};
     if (::stat(path.c_str(), &kind) == 0) {
-        return S_ISDIR(kind.st_mode) ? Presence::Unreachable : Presence::There;
+        return Presence::There;
     }
     return errno == ENOENT && LiesInAFolder(path) ? Presence::Missing : Presence::Unreachable;
 }

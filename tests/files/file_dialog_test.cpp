@@ -371,15 +371,5 @@ TEST_F(FileDialogRules, DeleteQuestionIsAboutTheFileItStandsFor)
     EXPECT_TRUE(std::filesystem::exists(Folder.Path("inner/mine.sdk")));
 }
 
-TEST_F(FileDialogRules, FolderByTheNameIsNoFile)
-{
-    std::filesystem::create_directory(Folder.Path("sub.d"));
-    for (const std::string_view caption : {OpenGameCaption, SaveGameCaption}) {
-        EXPECT_FALSE(Choose(caption, "sub.d"));
-        EXPECT_EQ(Seen.Messages, Texts{"Path, file, or device error.\r\rCheck path and file name"});
-        EXPECT_EQ(Seen.Questions, Texts{});
-    }
-}
-
 } // namespace
 } // namespace kelvarine::testing

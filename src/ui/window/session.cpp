@@ -75,7 +75,7 @@ bool wasAsked = false;
 bool toldToGo = false;
 
 // While the logic works on the board nothing can be asked about the game. When the run may end, the
-// session is to come back after all others: it has ended by then, or its rest asks at the closing.
+// session is to come back after all others: it has ended by then, or ends as the program closes.
 void AskAboutRun(QSessionManager &manager)
 {
     answeredGame.reset();

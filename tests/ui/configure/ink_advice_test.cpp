@@ -105,7 +105,7 @@ TEST_F(InkAdvice, CountsEveryGameOfAPage)
 {
     Click("optPrintGame(1)");
     Settle();
-    EXPECT_GT(Told(), 30);
+    EXPECT_GT(Told(), 20);
     const int one = Told();
     Find<QComboBox>("cmbGamesPerPage")->setCurrentIndex(6);
     Settle();

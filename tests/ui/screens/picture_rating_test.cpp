@@ -69,7 +69,8 @@ TEST_F(PictureRating, LeavesThePlaceToTheFileSelectedMeanwhile)
     EXPECT_TRUE(QTest::qWaitFor([&] { return picture->Words() == "Easy\n30 givens"; }, Patience));
     QCoreApplication::processEvents();
     EXPECT_EQ(picture->Words().toStdString(), "Easy\n30 givens");
-    EXPECT_LE(TurnsAfterwards, 3);
+    // The easy game takes some, the other a thousand.
+    EXPECT_LT(TurnsAfterwards, 100);
 }
 
 TEST_F(PictureRating, EndsWithTheDialog)

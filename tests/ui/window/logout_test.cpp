@@ -123,7 +123,8 @@ protected:
         Logout::SetUp();
         RunUnderWay = True;
         SearchActive = True;
-        SearchKind = 1;
+        SearchKind = SearchingGame;
+        StopRequested = False;
     }
 
     void TearDown() override
@@ -148,8 +149,8 @@ TEST_F(LogoutDuringARun, YesStopsItAndWantsToBeAskedAboutTheGameLast)
     EXPECT_EQ(SessionTold.Cancelled, 0);
     EXPECT_EQ(SessionTold.WantedSecondPhase, 1);
     SessionTold.IsSecondPhase = true;
-    SearchActive = True;
-    AskedAtLogout({QMessageBox::Yes});
+    SearchActive = True; // the rest of a rating, which has been asked about
+    EXPECT_EQ(AskedAtLogout({}), Texts());
     EXPECT_EQ(SessionTold.WantedSecondPhase, 1) << "once only";
 }
 
