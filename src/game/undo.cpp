@@ -15,6 +15,7 @@
 namespace kelvarine {
 
 Flag SnapshotAvailable;
+std::uint32_t SnapshotsTaken;
 
 namespace {
 
@@ -35,6 +36,7 @@ void ShowLevel(std::int32_t level)
 void SetUndoDefaults()
 {
     SnapshotAvailable = False;
+    SnapshotsTaken = 0;
 }
 
 void Undo()
@@ -58,6 +60,7 @@ void mnuTakeSnapshot()
         PlaySound(SnapshotSound, false);
     }
     SnapshotAvailable = True;
+    ++SnapshotsTaken;
     UpdateCaptions();
 }
 

@@ -3,9 +3,12 @@
 
 #include "grid/cell_word.h"
 
+#include <cstdint>
+
 namespace kelvarine {
 
-extern Flag SnapshotAvailable; // enabled state of mnuUseSnapshot
+extern Flag SnapshotAvailable;       // enabled state of mnuUseSnapshot
+extern std::uint32_t SnapshotsTaken; // since the start of the program
 
 // Puts the state above to its defaults.
 void SetUndoDefaults();

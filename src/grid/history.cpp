@@ -9,6 +9,7 @@ std::array<GridTable, HistorySlots> History{};
 std::int32_t HistoryCount;
 std::int32_t HistoryPosition;
 Flag GameModified;
+std::uint32_t UndoStatesPushed;
 
 namespace {
 
@@ -25,6 +26,7 @@ void SetHistoryDefaults()
     HistoryCount = 0;
     HistoryPosition = 0;
     GameModified = False;
+    UndoStatesPushed = 0;
 }
 
 void PushUndoState()
@@ -47,6 +49,7 @@ void PushUndoState()
     Slot(NewestSlot) = Grid;
     HistoryPosition = 1;
     GameModified = True;
+    ++UndoStatesPushed;
 }
 
 void SaveStartPosition()

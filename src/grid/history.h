@@ -19,9 +19,10 @@ inline constexpr int SolutionsCopySlot = 103; // the solutions command's
 inline constexpr int HistorySlots = 105;
 
 extern std::array<GridTable, HistorySlots> History;
-extern std::int32_t HistoryCount;    // undo levels in use, 0..100
-extern std::int32_t HistoryPosition; // level on view, 1 the newest, 0 before the first push
-extern Flag GameModified;            // set by every push, cleared by saving and opening
+extern std::int32_t HistoryCount;      // undo levels in use, 0..100
+extern std::int32_t HistoryPosition;   // level on view, 1 the newest, 0 before the first push
+extern Flag GameModified;              // set by every push, cleared by saving and opening
+extern std::uint32_t UndoStatesPushed; // states recorded since the start of the program
 
 // Puts the state above to its defaults.
 void SetHistoryDefaults();

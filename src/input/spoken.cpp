@@ -108,6 +108,11 @@ std::string SpokenNumbers(Cell cell)
     return (std::has_single_bit(candidates) ? "" : "pencilmarks ") + NumbersIn(shown);
 }
 
+std::string SpokenColour(Cell cell)
+{
+    return std::string(NameOfColour(WordAt(cell)));
+}
+
 std::string SpokenCell(Cell cell)
 {
     const CellWord word = WordAt(cell);

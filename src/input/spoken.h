@@ -15,6 +15,9 @@ std::optional<Cell> SpokenPlace();
 // The numbers of a cell that are in view: "5", "pencilmarks 2 7", or why none is told.
 std::string SpokenNumbers(Cell cell);
 
+// The color that the player has given to a cell, such as "cyan" or "frozen hint"; empty for none.
+std::string SpokenColour(Cell cell);
+
 // What a cell shows, such as "5, given, alert" or "pencilmarks 2 7, cyan". Its place is told by the
 // headers of its lines. Numbers that are not in view are not told.
 std::string SpokenCell(Cell cell);

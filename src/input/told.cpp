@@ -32,8 +32,8 @@ struct Look {
     GridTable Cells = Grid;
     GridTable Start = History[StartSlot];
     GridTable Newest = History[NewestSlot];
-    GridTable Snapshot = History[SnapshotSlot];
-    Flag HasSnapshot = SnapshotAvailable;
+    std::uint32_t Pushes = UndoStatesPushed;
+    std::uint32_t Snapshots = SnapshotsTaken;
     std::int32_t Levels = HistoryCount;
     std::int32_t Level = HistoryPosition;
     CellWord InView = NumberFilter;
@@ -51,6 +51,7 @@ std::optional<Look> last;
 constexpr double SearchInterval = 10; // seconds between two announcements of a search
 
 std::optional<double> searchTold; // when the search was last told of; empty without one
+bool longRunTold = false;
 
 constexpr CellWord PositionBits = CandidateMask | GivenBit;
 constexpr std::size_t MostNames = 4; // of cells in one announcement
@@ -90,6 +91,7 @@ bool PositionsDiffer(const GridTable &a, const GridTable &b)
 std::string ReasonOfAlert(Cell cell)
 {
     const auto kept = std::tuple(Grid, ChainColumns, ChainRows, HintText, HintTitle);
+    HintTitle.clear();
     ClearCellBits(SelectedBit);
     WordAt(cell) |= SelectedBit;
     RunAlertScan(ModeExplain);
@@ -102,11 +104,16 @@ std::string ReasonOfAlert(Cell cell)
     return title;
 }
 
-// An alert with its reason, if that can be told.
-std::string AlertOf(Cell cell, const std::string &words)
+// Words of alerts with their reason, if that can be told and is the same for all of the cells.
+std::string AlertOf(const std::vector<Cell> &cells, const std::string &words)
 {
-    const std::string reason = ReasonOfAlert(cell);
-    return words + (reason.empty() ? "" : ": " + reason);
+    if (IsPaused()) {
+        return words;
+    }
+    const std::string reason = ReasonOfAlert(cells.front());
+    const bool agree = std::all_of(cells.begin() + 1, cells.end(),
+                                   [&](Cell cell) { return ReasonOfAlert(cell) == reason; });
+    return words + (reason.empty() || !agree ? "" : ": " + reason);
 }
 
 // The cells that carry an alert now and did not before; that of the player first.
@@ -116,14 +123,14 @@ std::string NewAlerts(const GridTable &before)
     std::erase_if(cells, [](Cell cell) { return (WordAt(cell) & AlertBit) == 0; });
     const std::optional<Cell> place = SpokenPlace();
     const bool mine = place && std::erase(cells, *place) > 0;
-    std::string words = mine ? AlertOf(*place, "alert") : "";
+    std::string words = mine ? AlertOf({*place}, "alert") : "";
     if (cells.size() > MostNames) {
         Append(words,
                "alert in " + std::to_string(cells.size()) + (mine ? " other cells" : " cells"));
     } else if (!cells.empty()) {
         std::string others = "alert in " + NamesOf(cells);
         others.pop_back();
-        Append(words, mine ? others : AlertOf(cells.front(), others));
+        Append(words, mine ? others : AlertOf(cells, others));
     }
     return words;
 }
@@ -146,42 +153,77 @@ std::string GameOnBoard()
            std::string(WordsOfRating(GameRating).Lower);
 }
 
-// What the player did to the position: "5", "[B2]: empty" or "12 cells changed".
+// Words of a cell, with its name if the player is elsewhere.
+std::string AtCell(Cell cell, const std::string &words)
+{
+    return cell == SpokenPlace() ? words : NameOf(cell) + ": " + words;
+}
+
+// What the player did to the position: "5", "[B2]: empty" or "12 cells changed". What one cell
+// holds is hidden while the clock is paused.
 std::string NewPosition(const std::vector<Cell> &cells)
 {
     if (cells.size() > 1) {
         return std::to_string(cells.size()) + " cells changed";
     }
-    const Cell cell = cells.front();
-    const std::string numbers = SpokenNumbers(cell);
-    return cell == SpokenPlace() ? numbers : NameOf(cell) + ": " + numbers;
+    return IsPaused() ? "" : AtCell(cells.front(), SpokenNumbers(cells.front()));
 }
 
 // What an undo took back.
 std::string FormerPosition(const std::vector<Cell> &cells, const GridTable &before)
 {
-    if (cells.size() > 1) {
+    if (cells.size() > 1 || IsPaused()) {
         return NewPosition(cells);
     }
     return NameOf(cells.front()) + " was " + NumbersOf(WordIn(before, cells.front()));
 }
 
+// What the player did to the colors: "cyan", "[B2]: no color" or "colors of 12 cells changed".
+std::string NewColours(const std::vector<Cell> &cells)
+{
+    if (cells.empty()) {
+        return {};
+    }
+    const std::string colour = SpokenColour(cells.front());
+    const std::string words = colour.empty() ? "no color" : colour;
+    if (cells.size() == 1) {
+        return AtCell(cells.front(), words);
+    }
+    const std::string count = std::to_string(cells.size()) + " cells";
+    return std::ranges::all_of(cells, [&](Cell cell) { return SpokenColour(cell) == colour; })
+               ? count + ": " + words
+               : "colors of " + count + " changed";
+}
+
+// "undone" or "redone" with what that did to the position; nothing without a step in the history.
+std::string StepInHistory(const Look &before, const std::vector<Cell> &cells)
+{
+    const bool recorded = UndoStatesPushed != before.Pushes;
+    const bool sameLevels =
+        HistoryCount == before.Levels && !PositionsDiffer(before.Newest, History[NewestSlot]);
+    if (recorded || !sameLevels || HistoryPosition == before.Level) {
+        return {};
+    }
+    const bool back = HistoryPosition > before.Level;
+    std::string words = back ? "undone" : "redone";
+    const std::string what = cells.empty() ? ""
+                             : back        ? FormerPosition(cells, before.Cells)
+                                           : NewPosition(cells);
+    return words + (what.empty() ? "" : ": " + what);
+}
+
 std::string ChangeOfPosition(const Look &before)
 {
-    if (PositionsDiffer(before.Start, History[StartSlot])) {
+    const bool restarted = HistoryCount == 1 && before.Levels > 1;
+    if (restarted || PositionsDiffer(before.Start, History[StartSlot])) {
         return GameOnBoard();
     }
     const std::vector<Cell> cells = CellsThatDiffer(before.Cells, PositionBits);
-    const bool sameLevels =
-        HistoryCount == before.Levels && !PositionsDiffer(before.Newest, History[NewestSlot]);
-    std::string words;
-    if (sameLevels && HistoryPosition > before.Level) {
-        words = cells.empty() ? "undone" : "undone: " + FormerPosition(cells, before.Cells);
-    } else if (sameLevels && HistoryPosition < before.Level) {
-        words = cells.empty() ? "redone" : "redone: " + NewPosition(cells);
-    } else if (!cells.empty()) {
-        words = NewPosition(cells);
+    std::string words = StepInHistory(before, cells);
+    if (!cells.empty()) {
+        return words.empty() ? NewPosition(cells) : words;
     }
+    Append(words, NewColours(CellsThatDiffer(before.Cells, CellColour)));
     return words;
 }
 
@@ -201,7 +243,7 @@ std::string ChangesOfTools(const Look &before, bool signFollowsKey)
     std::string words;
     if (before.Mode != ToolMode) {
         words = "mode: " + ToolButtons[static_cast<std::size_t>(ModeButton(ToolMode))].Caption;
-    } else if (!signFollowsKey && before.Sign != ToolSign) {
+    } else if (HasSign() && !signFollowsKey && before.Sign != ToolSign) {
         words = SpokenTool(SignButton);
     }
     if (before.InView != NumberFilter) {
@@ -220,9 +262,7 @@ std::string ChangeOfClock(const Look &before)
 
 std::string ChangeOfSnapshot(const Look &before)
 {
-    const bool taken = SnapshotAvailable != False &&
-                       (before.HasSnapshot == False || before.Snapshot != History[SnapshotSlot]);
-    return taken ? "snapshot taken" : "";
+    return SnapshotsTaken != before.Snapshots ? "snapshot taken" : "";
 }
 
 PlaceChange ChangeOfPlace(const Look &before, const Look &now)
@@ -261,10 +301,8 @@ std::string WordsOf(const Look &before, const Look &now, SelectionChange selecti
     std::string words = ChangesOfTools(before, signFollowsKey);
     Append(words, ChangeOfClock(before));
     Append(words, ChangeOfSnapshot(before));
-    if (!IsPaused()) {
-        Append(words, ChangeOfPosition(before));
-        Append(words, NewAlerts(before.Cells));
-    }
+    Append(words, ChangeOfPosition(before));
+    Append(words, NewAlerts(before.Cells));
     if (selection == SelectionChange::Many) {
         Append(words, SpokenSelection());
     }
@@ -280,6 +318,7 @@ void SetToldDefaults()
 {
     last.reset();
     searchTold.reset();
+    longRunTold = false;
 }
 
 void TellPlaceAgain()
@@ -292,14 +331,15 @@ void TellPlaceAgain()
 Told NextTold(bool signFollowsKey)
 {
     searchTold.reset();
+    longRunTold = false;
     Look now;
     if (!last) {
-        now.Sign = signFollowsKey ? Replace : ToolSign;
+        now.Sign = signFollowsKey || !HasSign() ? Replace : ToolSign;
         last = now;
         return {now.Place ? PlaceChange::Place : PlaceChange::None, SelectionChange::None, {}};
     }
     const Look &before = *last;
-    if (signFollowsKey) {
+    if (signFollowsKey || !HasSign()) {
         now.Sign = before.Sign;
     }
     const SelectionChange selection = ChangeOfSelection(before, now);
@@ -318,6 +358,11 @@ std::string NextToldOfSearch(double seconds)
     searchTold = seconds;
     return begins ? "searching for a game"
                   : "searching, " + std::to_string(GamesScreened) + " games screened";
+}
+
+std::string NextToldOfLongRun()
+{
+    return std::exchange(longRunTold, true) ? "" : "at work; a key asks whether to stop";
 }
 
 } // namespace kelvarine

@@ -41,4 +41,8 @@ Told NextTold(bool signFollowsKey);
 // it runs, and later, at most every ten seconds, how many games were screened. Empty for nothing.
 std::string NextToldOfSearch(double seconds);
 
+// What is to be told of any other run of the logic that keeps the player waiting: once for each,
+// that a key asks whether to stop it. Empty for nothing.
+std::string NextToldOfLongRun();
+
 } // namespace kelvarine

@@ -1,3 +1,4 @@
+#include "board/look.h"
 #include "game/alert_scan.h"
 #include "game/clock.h"
 #include "game/lifecycle.h"
@@ -9,6 +10,7 @@
 #include "input/keys.h"
 #include "input/mouse.h"
 #include "input/number_keys.h"
+#include "input/selection.h"
 #include "input/told.h"
 #include "input/toolbar.h"
 #include "logic/technique.h"
@@ -120,6 +122,30 @@ TEST_F(Told, EntryTellsItsAlertWithTheReason)
     EXPECT_EQ(HintTitle, "kept, too");
 }
 
+TEST_F(Told, AlertWithoutAReasonGetsNoneOfAnother)
+{
+    HintTitle = "Kept";
+    GoTo({3, 1});
+    WordAt({3, 1}) |= AlertBit;
+    EXPECT_EQ(Words(), "alert");
+    EXPECT_EQ(HintTitle, "Kept");
+}
+
+TEST_F(Told, ReasonOfSeveralAlertsIsToldWhereTheyAgree)
+{
+    EmptyAllCells();
+    AlertMask = MaskOf({NakedSingle});
+    GoTo({9, 9});
+    Grid[3][1] = BitTable[5] | AlertBit; // there is a given 5 in row 1
+    Grid[4][1] = BitTable[5] | AlertBit;
+    EXPECT_NE(Words().find("alert in [C1] [D1]: conflict with naked single"), std::string::npos);
+    Grid[3][1] &= ~AlertBit;
+    NextTold(false);
+    Grid[3][1] |= AlertBit;
+    Grid[5][5] |= AlertBit;
+    EXPECT_EQ(Words(), "alert in [C1] [E5]");
+}
+
 TEST_F(Told, UndoAndRedoTellWhatTheyDo)
 {
     GoTo({3, 1});
@@ -134,6 +160,49 @@ TEST_F(Told, UndoAndRedoTellWhatTheyDo)
     NextTold(false);
     KeyDown('2', 0);
     EXPECT_EQ(Words(), "2") << "and no redoing";
+}
+
+TEST_F(Told, EntryOfWhatWasUndoneIsNoRedoing)
+{
+    GoTo({3, 1});
+    KeyDown('8', 0);
+    NextTold(false);
+    Undo();
+    GoTo({3, 1}); // the level has no selection
+    KeyDown('8', 0);
+    EXPECT_EQ(Words(), "8");
+}
+
+TEST_F(Told, RestartIsToldAsAGameThatBegins)
+{
+    GoTo({3, 1});
+    KeyDown('W', 0);
+    NextTold(false);
+    KeyDown(DeleteCode, ShiftKey);
+    NextTold(false);
+    Grid = History[StartSlot];
+    StartGame(SameGame);
+    EXPECT_EQ(NextTold(false).Words, "game with 30 givens, easy; no cells selected");
+    ExpectNothingMore();
+}
+
+TEST_F(Told, ColoursAreTold)
+{
+    HighlightColours[3] = Rgb(0, 250, 250);
+    HighlightColours[4] = Rgb(250, 10, 10);
+    GoTo({3, 1});
+    ProcessToolbar(EditButton);
+    NextTold(false);
+    ProcessToolbar(3);
+    EXPECT_EQ(Words(), "cyan; no cells selected");
+    Undo();
+    EXPECT_EQ(Words(), "undone; no color");
+    Redo();
+    EXPECT_EQ(Words(), "redone; cyan");
+    mnuSelectWholeGrid();
+    NextTold(false);
+    ProcessToolbar(4);
+    EXPECT_EQ(NextTold(false).Words, "81 cells: red; no cells selected");
 }
 
 TEST_F(Told, ChangeOfManyCellsIsTheirCount)
@@ -192,6 +261,21 @@ TEST_F(Told, SnapshotIsTold)
     EXPECT_EQ(Words(), "snapshot taken");
 }
 
+TEST_F(Told, SnapshotOfTheSamePositionIsToldAgain)
+{
+    KeyDown('S', 0);
+    NextTold(false);
+    KeyDown('S', 0);
+    EXPECT_EQ(Words(), "snapshot taken");
+}
+
+TEST_F(Told, SnapshotThatAFileBringsIsNotToldAsTaken)
+{
+    History[SnapshotSlot] = Grid;
+    SnapshotAvailable = True;
+    ExpectNothingMore();
+}
+
 TEST_F(Told, SignOfAHeldKeyIsNot)
 {
     ShowSignOfShift();
@@ -205,6 +289,25 @@ TEST_F(Told, SignOfAHeldKeyIsNot)
     ExpectNothingMore();
 }
 
+TEST_F(Told, ModifierThatComesUpIsNoSignWhereTheSignButtonHasNone)
+{
+    ProcessToolbar(EditButton);
+    ASSERT_EQ(ToolMode, HighlightMode);
+    NextTold(false);
+    KeyDown(ShiftCode, ShiftKey);
+    ExpectNothingMore();
+    KeyUp(ShiftCode);
+    ExpectNothingMore();
+    ProcessToolbar(SelectButton);
+    ProcessToolbar(SelectButton);
+    ASSERT_EQ(ToolMode, SelectDomainsMode);
+    EXPECT_EQ(Words(), "mode: Select singles + domain");
+    KeyDown(CtrlCode, CtrlKey);
+    ExpectNothingMore();
+    KeyUp(CtrlCode);
+    ExpectNothingMore();
+}
+
 TEST_F(Told, PauseHidesWhatIsTold)
 {
     GoTo({3, 1});
@@ -215,6 +318,25 @@ TEST_F(Told, PauseHidesWhatIsTold)
     EXPECT_EQ(Words(), "");
     mnuPauseTime();
     EXPECT_EQ(Words(), "resumed");
+}
+
+TEST_F(Told, PauseHidesNumbersAndReasonsAlone)
+{
+    GoTo({3, 1});
+    KeyDown('6', 0);
+    ResetSolveTime();
+    mnuPauseTime();
+    NextTold(false);
+    Undo();
+    EXPECT_EQ(NextTold(false).Words, "undone; no cells selected");
+    Redo();
+    EXPECT_EQ(NextTold(false).Words, "redone");
+    WordAt({3, 1}) |= AlertBit;
+    EXPECT_EQ(Words(), "alert");
+    Grid = {};
+    Grid[1][1] = BitTable[5] | GivenBit;
+    StartGame(NewGame);
+    EXPECT_NE(Words().find("game with 1 given, multiple solutions"), std::string::npos);
 }
 
 TEST_F(Told, GameThatBeginsIsToldByItsGivensAndRating)

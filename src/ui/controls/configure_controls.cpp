@@ -1,6 +1,7 @@
 #include "ui/controls/configure_controls.h"
 
 #include "configure/box_number.h"
+#include "game/search.h"
 #include "grid/grid.h"
 #include "paint/text.h"
 #include "ui/controls/digit_box.h"
@@ -21,7 +22,7 @@ bool ShowingValues;
 
 bool ChangesCount()
 {
-    return !LoadingControls && !ShowingValues && SearchActive == False;
+    return !LoadingControls && !ShowingValues && !IsBusy();
 }
 
 QString IndexedName(std::string_view name, int index)

@@ -1,5 +1,6 @@
 #include "ui/window/teller.h"
 
+#include "game/search.h"
 #include "grid/grid.h"
 #include "input/spoken.h"
 #include "input/told.h"
@@ -48,14 +49,23 @@ void TellSelection(SelectionChange change)
     QAccessible::updateAccessibility(&event);
 }
 
+void TellRun()
+{
+    if (SearchKind == SearchingGame) {
+        Tell(Text(NextToldOfSearch(SteadySeconds())));
+    } else if (RunIsLong != False) {
+        Tell(Text(NextToldOfLongRun()));
+    }
+}
+
 void TellNow()
 {
     if (!ToolsListen()) {
         return;
     }
-    if (SearchActive != False) { // what it does with the board is not the player's
-        if (SearchKind == SearchingGame) {
-            Tell(Text(NextToldOfSearch(SteadySeconds())));
+    if (IsBusy()) { // what the run does with the board is not the player's
+        if (SearchActive != False) {
+            TellRun();
         }
         return;
     }

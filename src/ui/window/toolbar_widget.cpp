@@ -121,6 +121,7 @@ QString ToolButtonWidget::Caption() const
 void ToolButtonWidget::TellWords()
 {
     if (!ToolsListen()) {
+        toldName = Text(SpokenTool(number)); // as whoever comes later will find it
         return;
     }
     const auto tell = [this](QString &told, const std::string &words, QAccessible::Event kind) {

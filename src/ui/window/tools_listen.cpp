@@ -1,5 +1,7 @@
 #include "ui/window/tools_listen.h"
 
+#include "input/told.h"
+
 #include <QAccessible>
 
 namespace kelvarine {
@@ -23,6 +25,9 @@ public:
     void accessibilityActiveChanged(bool active) override
     {
         Active = active;
+        if (!active) {
+            SetToldDefaults(); // who comes later is not told what happened meanwhile
+        }
     }
 
     bool Active = QAccessible::isActive();
