@@ -1,8 +1,10 @@
 #include "ui/configure/configure_screen.h"
 
+#include "commands/print_run.h"
 #include "game/screens.h"
 #include "game/search.h"
 #include "grid/grid.h"
+#include "logic/driver.h"
 #include "outside/screens.h"
 #include "paint/text.h"
 #include "ui/configure/colours_tab.h"
@@ -94,6 +96,25 @@ bool IsInput(QEvent::Type type)
     }
 }
 
+bool IsPressOfEnter(const QEvent &event)
+{
+    if (event.type() != QEvent::KeyPress) {
+        return false;
+    }
+    const int key = static_cast<const QKeyEvent &>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+// While a batch is printed the player is asked whether to stop it, and may say no.
+bool MayClose()
+{
+    if (PrintRunning == False || StopRequested != False) {
+        return true;
+    }
+    QueryStopSearch();
+    return StopRequested != False;
+}
+
 } // namespace
 
 ConfigureScreen *OpenConfigureScreen()
@@ -156,7 +177,7 @@ void ConfigureScreen::AddAccessKeys()
         auto *key = new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(letter)), this);
         key->setObjectName(IndexedName("cmdAltKeys", tab));
         connect(key, &QShortcut::activated, this, [this, tab] {
-            if (CurrentTab != tab && SearchActive == False) {
+            if (CurrentTab != tab && !IsBusy()) {
                 CurrentTab = tab;
                 ShowTab();
             }
@@ -235,8 +256,12 @@ void ConfigureScreen::moveEvent(QMoveEvent * /*event*/)
     KeepPlace(*this, ConfigurePlace);
 }
 
-void ConfigureScreen::closeEvent(QCloseEvent * /*event*/)
+void ConfigureScreen::closeEvent(QCloseEvent *event)
 {
+    if (!MayClose()) {
+        event->ignore();
+        return;
+    }
     KeepPlace(*this, ConfigurePlace);
     ConfigureOpen = False;
     // The window goes when events run next; until then another one may open.
@@ -279,8 +304,9 @@ bool ConfigureScreen::focusNextPrevChild(bool next)
     return moved;
 }
 
-// While a search runs the settings stand still: nothing that the player does here is taken. The
-// wheel moves a panel that does not fit, whatever lies under it.
+// While a search runs the settings stand still: nothing that the player does here is taken but the
+// wish to stop a batch. The wheel moves a panel that does not fit, whatever lies under it but a
+// control that has the focus.
 bool ConfigureScreen::eventFilter(QObject *watched, QEvent *event)
 {
     const bool wheel = event->type() == QEvent::Wheel;
@@ -292,7 +318,11 @@ bool ConfigureScreen::eventFilter(QObject *watched, QEvent *event)
         return false;
     }
     if (IsBusy()) {
-        // The button of a batch asks whether to stop it.
+        // The button of a batch and its key ask whether to stop it.
+        if (PrintRunning != False && IsPressOfEnter(*event)) {
+            keyPressEvent(static_cast<QKeyEvent *>(event));
+            return true;
+        }
         return widget->objectName() != "cmdPrint";
     }
     return widget != scrollBar && TakeWheel(*widget, static_cast<QWheelEvent &>(*event));

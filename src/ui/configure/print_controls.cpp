@@ -37,7 +37,7 @@ QCheckBox *MakeFlagBox(QWidget *parent, const char *name, std::string_view capti
 MeasureBox *AddMeasure(QFormLayout *form, const char *name, const char *caption,
                        void (*set)(double), const Refresh &refresh)
 {
-    auto *box = Named(new MeasureBox(form->parentWidget()), name, caption);
+    auto *box = Named(new MeasureBox(form->parentWidget()), name, Text(caption) + ", inches");
     QObject::connect(box, &QLineEdit::textEdited, box, [box, set, refresh] {
         set(box->Measure());
         refresh();
@@ -68,7 +68,7 @@ QFormLayout *MakeForm(QGroupBox *frame)
 
 void MakePlaceFrame(PrintControls &on, QWidget *panel, const Refresh &refresh)
 {
-    on.PlaceFrame = Named(new QGroupBox("This game", panel), "framePrintPlace", "Place and size");
+    on.PlaceFrame = Named(new QGroupBox("This game", panel), "framePrintPlace", "This game");
     QFormLayout *form = MakeForm(on.PlaceFrame);
     on.Left = AddMeasure(
         form, "txtPrintLeft", "Left", [](double inches) { PrintLeft = inches; }, refresh);
@@ -100,7 +100,8 @@ QStringList LayoutEntries()
 
 void MakeBatchFrame(PrintControls &on, QWidget *panel, const Refresh &refresh)
 {
-    on.BatchFrame = Named(new QGroupBox("Batch of new games", panel), "framePrintBatch", "Batch");
+    on.BatchFrame =
+        Named(new QGroupBox("Batch of new games", panel), "framePrintBatch", "Batch of new games");
     QFormLayout *form = MakeForm(on.BatchFrame);
     on.GamesPerPageList = MakeList(on.BatchFrame, "cmbGamesPerPage", "Games per page",
                                    LayoutEntries(), PrintGamesPerPage, [refresh](int index) {

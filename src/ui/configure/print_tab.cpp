@@ -96,7 +96,9 @@ void PrintPanel::Refresh()
     ShowMode(on);
     ShowPlaceAndSize(on);
     ShowBatch(on);
-    on.Print->setText(PrintRunning != False ? "Stop" : "Print");
+    const QString caption = PrintRunning != False ? "Stop" : "Print";
+    on.Print->setText(caption);
+    on.Print->setAccessibleName(caption);
     on.Area->setText(Text(PrintableAreaText(DecimalSign())));
     on.Preview->FitPage();
     on.Preview->update();

@@ -31,7 +31,7 @@ constexpr std::array Tips{
     Tip{"cmbSoundAlert", "The sound for a new alert"},
     Tip{"cmdTestAlert", "Plays the alert sound as a test"},
     Tip{"cmbSoundWin", "The sound for a solved game"},
-    Tip{"cmdTestWin", "Plays the win sound as a test, until the next sound"},
+    Tip{"cmdTestWin", "Plays the win sound once, as a test"},
     Tip{"chkDisableAllSound", "The game is silent; the tests still sound"},
     // Print
     Tip{"optPrintGame", "Whether the game on the board is printed, or new games"},

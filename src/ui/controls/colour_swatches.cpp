@@ -177,6 +177,9 @@ TextureTile::TextureTile(QWidget *parent, int tile) : PressButton(parent), tileN
 
 void TextureTile::ShowInForce(bool inForce)
 {
+    if (inForce_ == inForce) {
+        return;
+    }
     inForce_ = inForce;
     setAccessibleName(Text(inForce ? "Texture %1, in force" : "Texture %1").arg(tileNumber));
     update();
@@ -193,6 +196,9 @@ void TextureTile::paintEvent(QPaintEvent * /*event*/)
         QPainter painter(this);
         painter.setPen(QPen(palette().color(QPalette::Highlight), MarkThickness));
         painter.drawRect(rect().adjusted(1, 1, -2, -2));
+        // The mark covers the frame of the focus, which stands within it here, apart from it.
+        constexpr int apart = MarkThickness + 1;
+        PaintFocus(*this, painter, rect().adjusted(apart, apart, -apart, -apart));
     }
 }
 
