@@ -158,8 +158,7 @@ public:
         return widget()->hasFocus() && place ? child(ChildOf(*place)) : nullptr;
     }
 
-    // ---- The pattern on view
-    // ---------------------------------------------------------------------
+    // ---- The pattern on view -----------------------------------------------------------------
 
     [[nodiscard]] QStringList actionNames() const override
     {

@@ -1,5 +1,6 @@
 #include "ui/window/board_touch.h"
 
+#include "game/search.h"
 #include "input/mouse.h"
 
 #include <QApplication>
@@ -74,6 +75,9 @@ void BoardTouch::Join(const QTouchEvent &event)
     }
     hold.stop();
     stage = Stage::None;
+    if (!ReadyForCommand()) {
+        return; // it asks once for both fingers
+    }
     for (const QEventPoint &point : event.points()) {
         Press(LeftButton, CtrlKey, point.position());
     }

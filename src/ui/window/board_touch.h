@@ -1,5 +1,6 @@
 // The board under fingers: a touch is a press of the left button, a long one a press of the right
-// button, a drag stretches the selection, and two fingers add their cells to it.
+// button, the second of two close together a double click, a drag stretches the selection, and two
+// fingers add their cells to it.
 #pragma once
 
 #include <QPointF>

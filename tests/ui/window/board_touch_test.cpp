@@ -1,6 +1,7 @@
 #include "grid/grid.h"
 #include "input/number_keys.h"
 #include "input/toolbar.h"
+#include "logic/driver.h"
 #include "support/widget_events.h"
 #include "support/widget_program.h"
 #include "ui/window/board_widget.h"
@@ -128,6 +129,20 @@ TEST_F(BoardTouch, TwoFingersAddTheirCells)
     Touch().release(0, CentreOf(1, 1), Board()).stationary(1).commit();
     Touch().release(1, CentreOf(5, 1), Board()).commit();
     EXPECT_EQ(Selected(), "1/1 5/1 9/9 ");
+}
+
+TEST_F(BoardTouch, TwoFingersAskOnceWhetherToStopASearch)
+{
+    SearchActive = True;
+    SearchKind = SearchingGame;
+    const BoxRecord boxes = AnswerBoxes([&] {
+        Touch().press(0, CentreOf(3, 4), Board()).commit();
+        Touch().move(0, CentreOf(3, 4), Board()).press(1, CentreOf(5, 6), Board()).commit();
+    });
+    EXPECT_EQ(boxes.Texts, std::vector<std::string>{"Would you like to stop searching?"});
+    EXPECT_EQ(Selected(), "");
+    SearchActive = False;
+    SearchKind = NotStoppable;
 }
 
 TEST_F(BoardTouch, SecondOneAtTheSamePlaceKeepsTheNumberAlone)
