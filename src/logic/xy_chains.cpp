@@ -237,7 +237,7 @@ void SearchXYChains(std::int32_t mode, std::int32_t minCells, std::int32_t maxCe
 
 void ScanXYChains(std::int32_t mode, Flag &found)
 {
-    assert(mode >= ModeAlert && mode <= ModeFull);
+    assert(mode >= ModeChange && mode <= ModeFull);
     if (mode == ModeAlert) {
         SearchXYChains(mode, 0, MaxXYLinks, found);
     } else if (MaxXYLinks >= 2) {

@@ -17,9 +17,9 @@ namespace kelvarine {
 // after a report also ScratchMark2 on the chain, and the chain in ChainColumns and ChainRows.
 void SearchXYChains(std::int32_t mode, std::int32_t minCells, std::int32_t maxCells, Flag &found);
 
-// Chains of up to MaxXYLinks cells as the alert scan asks for them, in modes 1 to 5: in mode 1 all,
-// in the others those of the shortest length of which one hits anything, so that the player is told
-// the shortest chain first.
+// Chains of up to MaxXYLinks cells as the alert scan asks for them: in mode 1 all, in the others
+// those of the shortest length of which one hits anything, so that the player is told the shortest
+// chain first. The scan asks in modes 1 to 5; mode 0 removes what such a chain hits.
 void ScanXYChains(std::int32_t mode, Flag &found);
 
 } // namespace kelvarine
