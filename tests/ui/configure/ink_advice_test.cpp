@@ -60,7 +60,7 @@ protected:
     int Told()
     {
         static const QRegularExpression words(
-            "^This look covers (\\d+) % of the page with ink\\. A light one needs far less\\.$");
+            R"(^This look covers (\d+) % of the page with ink\. A light one needs far less\.$)");
         const auto match = words.match(Find<QLabel>("lblInk")->text());
         EXPECT_TRUE(match.hasMatch()) << Find<QLabel>("lblInk")->text().toStdString();
         return match.captured(1).toInt();
