@@ -63,7 +63,7 @@ protected:
     }
 
     const Program TheProgram;
-    const TemporaryFolder Folder;
+    const TemporaryFolder Folder{};
 };
 
 TEST_F(PaperFile, IsTheOldOneOrTheNewOneWhicheverCallFails)

@@ -47,7 +47,7 @@ protected:
     }
 
     const Program TheProgram;
-    const TemporaryFolder Folder;
+    const TemporaryFolder Folder{};
     HelpWindow *Window = nullptr;
 };
 
