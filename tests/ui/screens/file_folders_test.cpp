@@ -13,6 +13,7 @@ protected:
     [[nodiscard]] std::vector<std::string> FoldersBelow(const QTreeWidgetItem *item) const
     {
         std::vector<std::string> names;
+        names.reserve(static_cast<std::size_t>(item->childCount()));
         for (int place = 0; place < item->childCount(); ++place) {
             names.push_back(item->child(place)->text(0).toStdString());
         }
