@@ -172,9 +172,9 @@ TEST_F(Repaints, FollowTheCaptionsOfTheToolbar)
     const std::vector<std::pair<Qt::Key, const char *>> signs{{Qt::Key_Shift, "- 1"},
                                                               {Qt::Key_Control, "+ 1"}};
     for (const auto &[key, caption] : signs) {
-        ExpectRepaintsAfter("modifier goes down", [&] { QTest::keyPress(board, key); });
+        ExpectRepaintsAfter("modifier goes down", [&, k = key] { QTest::keyPress(board, k); });
         EXPECT_EQ(one->Caption(), caption);
-        ExpectRepaintsAfter("modifier comes up", [&] { QTest::keyRelease(board, key); });
+        ExpectRepaintsAfter("modifier comes up", [&, k = key] { QTest::keyRelease(board, k); });
         EXPECT_EQ(one->Caption(), "1");
     }
 }
