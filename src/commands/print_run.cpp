@@ -154,8 +154,9 @@ void PrintSolutions(const PrinterPage &page, const std::vector<SolvedGrid> &solu
     }
 }
 
-// Prints the batch and leaves the game in hand on the board.
-void PrintAllOf(const PrinterPage &page)
+// Prints the batch, ends its document and puts the game in hand back. The words of a failure, or
+// nothing.
+std::string PrintAllOf(const PrinterPage &page)
 {
     const auto before = std::make_unique<GameInHand>();
     const Flag withSolutions = PrintIncludeSolutions;
@@ -165,10 +166,12 @@ void PrintAllOf(const PrinterPage &page)
     if (PrintGames(page, solutions) && withSolutions != False) {
         PrintSolutions(page, solutions);
     }
+    std::string words = EndDocument();
     // From here on there is nothing to be stopped, not even the rating of the game in hand.
     SearchKind = NotStoppable;
     PrintRunning = False;
     BringBack(*before);
+    return words;
 }
 
 void PrintBatch()
@@ -181,10 +184,12 @@ void PrintBatch()
         return;
     }
     TakePrintableArea();
-    PrintAllOf(CurrentPrinterPage());
+    const std::string words = PrintAllOf(CurrentPrinterPage());
     DrawBoard();
     RefreshWindow();
-    EndAndReport(); // what it may ask is asked about the game in hand
+    if (!words.empty()) {
+        ShowMessage(words);
+    }
 }
 
 } // namespace

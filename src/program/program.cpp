@@ -1,6 +1,7 @@
 #include "program/program.h"
 
 #include "commands/file_commands.h"
+#include "commands/print_run.h"
 #include "commands/recover.h"
 #include "commands/save_question.h"
 #include "configure/configuration.h"
@@ -88,6 +89,11 @@ void KeepBeforeAsking()
     KeepConfiguration(untold);
 }
 
+bool BoardIsAway()
+{
+    return RunUnderWay != False || PrintRunning != False;
+}
+
 bool MayEndRun()
 {
     const bool isStopped = SearchKind == SearchingGame && StopRequested != False;
@@ -100,7 +106,7 @@ bool MayEndRun()
 
 bool AskBeforeTheEnd()
 {
-    assert(RunUnderWay == False); // else the board is the run's, and cannot be asked about
+    assert(!BoardIsAway());
     QuerySaveGame();
     return LastAnswer != AnsweredCancel;
 }
@@ -132,7 +138,7 @@ void EndProgramAnswered()
 
 bool EndProgram()
 {
-    if (RunUnderWay != False) {
+    if (BoardIsAway()) {
         // The closing goes on when the run has ended.
         AfterRun = MayEndRun() ? CloseMainWindow : nullptr;
         return false;

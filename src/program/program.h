@@ -20,6 +20,10 @@ void KeepBeforeAsking();
 // and keeps the settings. False when the player would rather stay.
 bool EndProgram();
 
+// Whether the board holds the cells of a run of the logic or of a batch, so that nothing can be
+// asked about the game in hand. Both end with a run.
+bool BoardIsAway();
+
 // What it is made of. While a run of the logic is under way: whether it may end, which is asked
 // where it can be stopped. Without a run: the question whether to save, false when the player would
 // rather stay; and what is due when it is answered, or has been before.

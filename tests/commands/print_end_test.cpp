@@ -1,10 +1,11 @@
 // The end of a printed document, where a question about its file may come up.
 #include "board/geometry.h"
 #include "commands/print_run.h"
-#include "game/game_in_hand.h"
 #include "generator/random_source.h"
 #include "grid/history.h"
+#include "outside/window.h"
 #include "print/print_settings.h"
+#include "program/program.h"
 #include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
@@ -14,25 +15,30 @@
 namespace kelvarine::testing {
 namespace {
 
-TEST(PrintEnd, GameInHandIsBackBeforeAnythingIsAsked)
+TEST(PrintEnd, ProgramThatIsToldToGoOverAQuestionWaitsForTheGameInHand)
 {
     Restart();
     init_genrand(4711);
     BoardPlace = {0, 0, 500, 500};
     StartSavedGame(EasyGame);
     WordAt({3, 1}) = (WordAt({3, 1}) & SolutionMask) | BitTable[4];
+    PushUndoState();
     PrintMode = PrintNewGames;
     const GridTable cells = Grid;
+    Seen.LaterDeeds.clear();
     bool asked = false;
     Seen.OnBox = [&] {
         asked = true;
-        EXPECT_EQ(Grid, cells);
-        EXPECT_EQ(GameAside, nullptr);
-        EXPECT_EQ(PrintRunning, False);
+        EXPECT_TRUE(BoardIsAway());
+        ForgetRecord();
+        EXPECT_FALSE(EndProgram());
+        EXPECT_TRUE(Acts().empty()) << "the board is not the game in hand";
     };
     cmdPrint();
     EXPECT_TRUE(asked);
-    EXPECT_EQ(Seen.EndedDocuments.size(), 1U);
+    EXPECT_FALSE(BoardIsAway());
+    EXPECT_EQ(Grid, cells);
+    EXPECT_FALSE(Seen.LaterDeeds.empty()) << "the window is closed when the game is back";
 }
 
 } // namespace

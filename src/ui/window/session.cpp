@@ -107,7 +107,7 @@ void PrepareForTheEnd(QSessionManager &manager)
         answeredGame = Grid;
         return;
     }
-    if (RunUnderWay != False) {
+    if (BoardIsAway()) {
         AskAboutRun(manager);
     } else {
         AskAboutGame(manager);
