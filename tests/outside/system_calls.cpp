@@ -137,7 +137,7 @@ int FileBehind(const char *path)
 extern "C" {
 
 // The names are the linker's.
-// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
+// NOLINTBEGIN(clang-diagnostic-reserved-identifier)
 int __real_openat(int folder, const char *path, int flags, mode_t permissions);
 ssize_t __real_write(int file, const void *bytes, size_t count);
 int __real_fsync(int file);
@@ -218,7 +218,7 @@ int __wrap_flock(int file, int operation)
     }
     return __real_flock(file, operation);
 }
-// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
+// NOLINTEND(clang-diagnostic-reserved-identifier)
 
 } // extern "C"
 

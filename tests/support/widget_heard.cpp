@@ -9,7 +9,7 @@ std::function<void(const QAccessibleEvent &event)> Hear;
 extern "C" {
 
 // The names are the linker's.
-// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
+// NOLINTBEGIN(clang-diagnostic-reserved-identifier)
 void __real__ZN11QAccessible19updateAccessibilityEP16QAccessibleEvent(QAccessibleEvent *event);
 
 void __wrap__ZN11QAccessible19updateAccessibilityEP16QAccessibleEvent(QAccessibleEvent *event)
@@ -19,7 +19,7 @@ void __wrap__ZN11QAccessible19updateAccessibilityEP16QAccessibleEvent(QAccessibl
     }
     __real__ZN11QAccessible19updateAccessibilityEP16QAccessibleEvent(event);
 }
-// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
+// NOLINTEND(clang-diagnostic-reserved-identifier)
 
 } // extern "C"
 

@@ -12,7 +12,7 @@ SessionTable SessionTold;
 extern "C" {
 
 // The names are the linker's.
-// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
+// NOLINTBEGIN(clang-diagnostic-reserved-identifier)
 bool __wrap__ZN15QSessionManager17allowsInteractionEv(QSessionManager * /*manager*/)
 {
     return SessionTold.MayAsk;
@@ -37,7 +37,7 @@ void __wrap__ZN15QSessionManager13requestPhase2Ev(QSessionManager * /*manager*/)
 {
     ++SessionTold.WantedSecondPhase;
 }
-// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
+// NOLINTEND(clang-diagnostic-reserved-identifier)
 
 } // extern "C"
 
