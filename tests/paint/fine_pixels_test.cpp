@@ -223,5 +223,20 @@ TEST_F(FinePixels, BoardWithoutABorderLeavesNoGaps)
     }
 }
 
+TEST_F(FinePixels, WhatIsLeftOverBelongsToTheMarginWhereThereIsNoBorder)
+{
+    BorderThickness = 0;
+    for (const double ratio : Fractions) {
+        for (const int side : {37, 60, 61, 71}) {
+            LayOutCells(side, side);
+            const DeviceAxis axis = BoardAxis(ratio, CellWidth);
+            const int end = BoardPlace.Width;
+            EXPECT_EQ(EdgeOn(axis, end) - EdgeOn(axis, end - PrimaryThickness),
+                      std::lround(PrimaryThickness * ratio))
+                << side << " at " << ratio;
+        }
+    }
+}
+
 } // namespace
 } // namespace kelvarine::testing

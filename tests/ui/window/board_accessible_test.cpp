@@ -162,7 +162,11 @@ TEST_F(BoardAccessible, RowsAndColumnsCanBeSelected)
     EXPECT_TRUE(table->unselectColumn(8));
     listener.Heard();
     EXPECT_EQ(SelectedCells(), 0);
+    EXPECT_TRUE(table->selectRow(0));
+    listener.Heard();
+    EXPECT_EQ(table->selectedRows(), QList<int>{0});
     EXPECT_FALSE(table->selectRow(9));
+    EXPECT_FALSE(table->selectRow(-1));
 }
 
 TEST_F(BoardAccessible, ActionsOfACellGoThereAndSelect)
