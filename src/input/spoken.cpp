@@ -162,8 +162,8 @@ std::string SpokenTool(std::int32_t index)
     if (index == SignButton && HasSign()) {
         return "+/- " + std::string(WordOfSign());
     }
-    if (index == AllButton && ToolMode != HighlightMode) {
-        return ToolMode == SelectCountMode ? "0" : "All";
+    if (index == AllButton) {
+        return "All";
     }
     return ToolButtons[static_cast<std::size_t>(index)].Caption;
 }

@@ -124,9 +124,20 @@ TEST_F(Spoken, ToolsOfTheHighlightModeTellTheirColours)
     ProcessToolbar(EditButton);
     EXPECT_EQ(SpokenTool(3), "3");
     EXPECT_EQ(SpokenToolUse(3), "Highlight selected cells with this color: cyan");
-    EXPECT_EQ(SpokenTool(AllButton), "Clr");
+    EXPECT_EQ(SpokenTool(AllButton), "All");
+    EXPECT_EQ(SpokenToolUse(AllButton), "Clear all highlights from selected cells");
     EXPECT_EQ(SpokenTool(SignButton), "Frz");
     EXPECT_EQ(SpokenTool(EditButton), "Highlight");
+}
+
+TEST_F(Spoken, ButtonOfAllTellsAsItsUseThatItSelectsEmptyCells)
+{
+    for (int press = 0; press < 3; ++press) {
+        ProcessToolbar(SelectButton);
+    }
+    ASSERT_EQ(ToolMode, SelectCountMode);
+    EXPECT_EQ(SpokenTool(AllButton), "All");
+    EXPECT_EQ(SpokenToolUse(AllButton), "Select empty cells");
 }
 
 TEST_F(Spoken, PlaceIsTheCursorOrTheOnlySelectedCell)
