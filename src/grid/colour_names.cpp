@@ -63,4 +63,11 @@ std::string_view ColourName(Colour colour)
         ->Name;
 }
 
+std::string ColourInWords(Colour colour)
+{
+    return std::string(ColourName(colour)) + ", red " + std::to_string(Part(colour, 16)) +
+           ", green " + std::to_string(Part(colour, 8)) + ", blue " +
+           std::to_string(Part(colour, 0));
+}
+
 } // namespace kelvarine

@@ -22,5 +22,11 @@ TEST(ColourNames, ColourBetweenIsCalledByTheNearest)
     EXPECT_EQ(ColourName(Rgb(255, 173, 90)), "orange");
 }
 
+TEST(ColourNames, WordsOfAColourAreItsNameAndItsParts)
+{
+    EXPECT_EQ(ColourInWords(Rgb(255, 150, 40)), "orange, red 255, green 150, blue 40");
+    EXPECT_EQ(ColourInWords(Rgb(0, 7, 128)), "navy, red 0, green 7, blue 128");
+}
+
 } // namespace
 } // namespace kelvarine::testing

@@ -84,8 +84,10 @@ private:
     void TakeTexture(int tile);
 
     void ShowTextures();
+    void ShowSwatches();
 
     std::array<QScrollBar *, 3> bars{};
+    std::array<ColourSwatch *, ColourCount> swatches{};
     std::array<TextureTile *, Tiles> tiles{};
 };
 
@@ -108,7 +110,6 @@ QLayout *ColoursPanel::MakeOptionColumn()
 {
     auto *grid = new QGridLayout;
     auto *group = new QButtonGroup(this);
-    QList<PressButton *> swatches;
     grid->setHorizontalSpacing(0);
     grid->setVerticalSpacing(5);
     grid->setColumnMinimumWidth(0, OptionWidth);
@@ -121,14 +122,14 @@ QLayout *ColoursPanel::MakeOptionColumn()
         group->addButton(option, row);
         auto *swatch = new ColourSwatch(this, k);
         swatch->setToolTip("A press gives the chosen color the one that is seen here");
-        swatches.append(swatch);
+        swatches[k] = swatch;
         connect(swatch, &QAbstractButton::pressed, this, [this, k] { TakeColour(ColourTable[k]); });
         grid->addWidget(option, row, 0);
         grid->addWidget(swatch, row, 1);
         grid->setRowMinimumHeight(row, option->sizeHint().height() + 4);
     }
     MakeOneStop(*group);
-    PressButton::MakeOneStop(swatches, 1);
+    PressButton::MakeOneStop({swatches.begin(), swatches.end()}, 1);
     connect(group, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
         if (checked) {
             ColourIndex = static_cast<std::size_t>(id);
@@ -165,8 +166,9 @@ QLayout *ColoursPanel::MakeBars()
     auto *grid = new QGridLayout;
     for (std::size_t k = 0; k < bars.size(); ++k) {
         const int row = static_cast<int>(k);
-        bars[k] = MakeBar(this, IndexedName("hsbColor", row), Text(BarCaptions[k]), ColourSteps, 0,
-                          [this](int /*value*/) { TakeBars(); });
+        bars[k] = MakeBar(this, IndexedName("hsbColor", row),
+                          Text("%1, 0 to %2").arg(Text(BarCaptions[k])).arg(ColourSteps.Highest),
+                          ColourSteps, 0, [this](int /*value*/) { TakeBars(); });
         auto *value = new QLabel("0", this);
         value->setObjectName(IndexedName("lblColor", row));
         value->setMinimumWidth(value->fontMetrics().horizontalAdvance("000"));
@@ -189,6 +191,14 @@ void ColoursPanel::ShowColour()
     bars[1]->setValue(colour.green());
     bars[2]->setValue(colour.blue());
     ShowTextures();
+    ShowSwatches();
+}
+
+void ColoursPanel::ShowSwatches()
+{
+    for (ColourSwatch *swatch : swatches) {
+        swatch->TellColour();
+    }
     update();
 }
 
@@ -208,7 +218,7 @@ void ColoursPanel::TakeBars()
 {
     const QRgb colour = qRgb(bars[0]->value(), bars[1]->value(), bars[2]->value());
     SetColour(ColourIndex, ColourOf(colour));
-    update();
+    ShowSwatches();
 }
 
 void ColoursPanel::TakeColour(Colour colour)

@@ -62,9 +62,9 @@ QWidget *MakeThickness(QWidget *parent, const ThicknessRow &row)
 {
     auto *frame = new QGroupBox(Text(row.Frame), parent);
     auto *grid = new QGridLayout(frame);
-    auto *bar =
-        MakeBar(frame, Text(row.Bar), Text(row.Frame) + " thickness", row.Steps, *row.Setting,
-                [setting = row.Setting](int pixels) { SetThickness(*setting, pixels); });
+    auto *bar = MakeBar(frame, Text(row.Bar), Text(row.Frame) + " thickness in pixels", row.Steps,
+                        *row.Setting,
+                        [setting = row.Setting](int pixels) { SetThickness(*setting, pixels); });
     auto *value = new QLabel(QString::number(bar->value()), frame);
     value->setObjectName(Text(row.Label));
     value->setMinimumWidth(value->fontMetrics().horizontalAdvance("000"));

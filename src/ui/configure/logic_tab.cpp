@@ -246,8 +246,12 @@ void LogicPanel::ShowLevel(std::int32_t k)
     LevelLabel *label = levelLabels[PlaceOf(k)];
     const QString caption = QString::fromStdString(LevelCaption(k));
     label->setText(caption);
-    label->setAccessibleName("Difficulty of " + SpokenText(TechniqueRows[PlaceOf(k)].Caption) +
-                             ": " + caption);
+    // The mark in front says nothing to the ear.
+    const bool required = caption.startsWith(Text(RequiredMark));
+    label->setAccessibleName(
+        Text("Difficulty of %1: %2")
+            .arg(SpokenText(TechniqueRows[PlaceOf(k)].Caption),
+                 required ? caption.mid(Text(RequiredMark).size()) + ", required" : caption));
     requireMessage->setVisible(AnyRequired());
 }
 

@@ -101,7 +101,11 @@ void PrintPanel::Refresh()
     on.Print->setAccessibleName(caption);
     on.Area->setText(Text(PrintableAreaText(DecimalSign())));
     on.Preview->FitPage();
-    on.Preview->update();
+    on.Preview->ShowPage();
+    // The preview is no stop of the Tab key; whoever comes to the button hears what it prints.
+    if (on.Print->accessibleDescription() != on.Preview->accessibleName()) {
+        on.Print->setAccessibleDescription(on.Preview->accessibleName());
+    }
 }
 
 void PrintPanel::showEvent(QShowEvent *event)

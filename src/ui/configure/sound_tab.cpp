@@ -90,7 +90,8 @@ QGroupBox *MakeSound(QWidget *panel, const SoundRow &sound)
     grid->addWidget(MakeButton(frame, Text(sound.Button), sound.Caption, sound.Test), 0, 2);
     AddLabelled(grid, 1, "Volume",
                 MakeBar(frame, IndexedName("hsbVolume", static_cast<int>(sound.Volume)),
-                        spoken + " volume", VolumeSteps, 0,
+                        Text("%1 volume, 0 to %2").arg(spoken).arg(VolumeSteps.Highest),
+                        VolumeSteps, 0,
                         [volume = sound.Volume](int value) { SetVolume(volume, value); }));
     grid->setColumnStretch(1, 1);
     return frame;

@@ -2,6 +2,7 @@
 
 #include "configure/look_settings.h"
 #include "grid/colour.h"
+#include "grid/colour_names.h"
 #include "paint/frame_painter.h"
 #include "paint/text.h"
 #include "paint/texture_painter.h"
@@ -150,10 +151,17 @@ ColourSwatch::ColourSwatch(QWidget *parent, std::size_t colour)
     : PressButton(parent), colourIndex(colour)
 {
     setObjectName(IndexedName("swatch", static_cast<int>(colour)));
-    setAccessibleName(Text("Take the color of ") + SpokenText(ColourCaptions[colour]));
+    TellColour();
     setFixedWidth(SwatchWidth);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     setFocusPolicy(Qt::StrongFocus);
+}
+
+void ColourSwatch::TellColour()
+{
+    SetSpokenName(*this, Text("Take the color of %1: %2")
+                             .arg(SpokenText(ColourCaptions[colourIndex]),
+                                  Text(ColourInWords(ColourTable[colourIndex]))));
 }
 
 void ColourSwatch::paintEvent(QPaintEvent * /*event*/)

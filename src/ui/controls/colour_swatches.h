@@ -37,6 +37,9 @@ class ColourSwatch : public PressButton {
 public:
     ColourSwatch(QWidget *parent, std::size_t colour); // 0..11
 
+    // The colour may have changed: tells tools what it is now.
+    void TellColour();
+
 protected:
     void paintEvent(QPaintEvent *event) override;
 

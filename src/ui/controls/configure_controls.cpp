@@ -35,6 +35,13 @@ QString SpokenText(std::string_view caption)
     return Text(caption).trimmed().replace(Text("&&"), Text("&"));
 }
 
+void SetSpokenName(QWidget &control, const QString &name)
+{
+    if (name != control.accessibleName()) {
+        control.setAccessibleName(name);
+    }
+}
+
 QCheckBox *MakeCheckBox(QWidget *parent, const QString &name, std::string_view caption, bool on,
                         const std::function<void(bool)> &change)
 {

@@ -43,6 +43,9 @@ QString IndexedName(std::string_view name, int index);
 // A caption as a screen reader should say it: without outer blanks, && as one &.
 QString SpokenText(std::string_view caption);
 
+// Gives a control that is on view another name. Tools are told of it only when it is another one.
+void SetSpokenName(QWidget &control, const QString &name);
+
 // ---- Controls; each belongs to parent and is named for tests and screen readers --------------
 
 // Names a control of any kind.

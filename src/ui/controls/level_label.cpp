@@ -2,6 +2,7 @@
 
 #include "ui/controls/focus_frame.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -33,22 +34,72 @@ bool OpensMenu(const QKeyEvent &event)
     }
 }
 
+// A button that opens a menu, and not the text that the toolkit takes a label for.
+class LevelAccess : public QAccessibleWidget {
+public:
+    explicit LevelAccess(LevelLabel *level) : QAccessibleWidget(level, QAccessible::ButtonMenu)
+    {
+    }
+
+    [[nodiscard]] QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.hasPopup = true;
+        return state;
+    }
+
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return QStringList{pressAction(), showMenuAction()} + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction() || name == showMenuAction()) {
+            static_cast<LevelLabel *>(object())->OpenLevels();
+        } else {
+            QAccessibleWidget::doAction(name);
+        }
+    }
+};
+
+QAccessibleInterface *Describe(const QString & /*kind*/, QObject *object)
+{
+    auto *level = qobject_cast<LevelLabel *>(object);
+    return level == nullptr ? nullptr : new LevelAccess(level);
+}
+
+// Before anything asks for the description of a label, because that is kept.
+void DescribeToTools()
+{
+    [[maybe_unused]] static const bool done = [] {
+        QAccessible::installFactory(Describe);
+        return true;
+    }();
+}
+
 } // namespace
 
 LevelLabel::LevelLabel(QWidget *parent, std::function<void()> openMenu)
     : QLabel(parent), openLevels(std::move(openMenu))
 {
+    DescribeToTools();
     setFocusPolicy(Qt::StrongFocus);
     // The press and the keys below are all that opens the menu.
     setContextMenuPolicy(Qt::PreventContextMenu);
     setContentsMargins(3, 0, ArrowRoom, 0);
-    setAccessibleDescription("The menu key or Shift+F10 opens the levels");
+    setAccessibleDescription("Space, Enter or the menu key opens the levels");
 }
 
 QSize LevelLabel::sizeHint() const
 {
     const QSize text = QLabel::sizeHint();
     return {text.width(), std::max(text.height(), fontMetrics().height() + 4)};
+}
+
+void LevelLabel::OpenLevels()
+{
+    openLevels();
 }
 
 void LevelLabel::ShowOpen(bool open)

@@ -15,6 +15,9 @@ class LevelLabel : public QLabel {
 public:
     LevelLabel(QWidget *parent, std::function<void()> openMenu);
 
+    // Opens the menu, as a press does.
+    void OpenLevels();
+
     // Red while the menu is open.
     void ShowOpen(bool open);
 

@@ -5,12 +5,17 @@
 #include "generator/generator.h"
 #include "grid/grid.h"
 #include "logic/driver.h"
+#include "outside/printer.h"
 #include "paint/banner_painter.h"
 #include "paint/print_painter.h"
+#include "paint/text.h"
 #include "print/page_layout.h"
+#include "print/page_words.h"
 #include "print/print_settings.h"
+#include "ui/controls/configure_controls.h"
 #include "ui/controls/kept_painting.h"
 
+#include <QAccessibleWidget>
 #include <QPainter>
 
 #include <algorithm>
@@ -96,13 +101,40 @@ void DrawProgress(QPainter &painter, QSize page)
     PaintBanner(painter, page, BannerPoints, SearchingText, LinePoints, lines);
 }
 
+std::string WordsNow()
+{
+    return PrintRunning != False ? "searching," + BatchProgressText() : PageInWords(DecimalSign());
+}
+
+QAccessibleInterface *Describe(const QString & /*kind*/, QObject *object)
+{
+    auto *preview = qobject_cast<PrintPreview *>(object);
+    return preview == nullptr ? nullptr : new QAccessibleWidget(preview, QAccessible::Graphic);
+}
+
+// Before anything asks for the description of a preview, because that is kept.
+void DescribeToTools()
+{
+    [[maybe_unused]] static const bool done = [] {
+        QAccessible::installFactory(Describe);
+        return true;
+    }();
+}
+
 } // namespace
 
 PrintPreview::PrintPreview(QWidget *parent) : QWidget(parent)
 {
+    DescribeToTools();
     setObjectName("picPrintPreview");
-    setAccessibleName("Preview of the page");
     FitPage();
+    ShowPage();
+}
+
+void PrintPreview::ShowPage()
+{
+    SetSpokenName(*this, "Preview of the page: " + Text(WordsNow()).trimmed());
+    update();
 }
 
 void PrintPreview::FitPage()

@@ -1,4 +1,4 @@
-// The picture of the page on the print tab.
+// The picture of the page on the print tab, which tools are told in words.
 #pragma once
 
 #include <QImage>
@@ -14,6 +14,9 @@ public:
 
     // Takes the proportions of the printable area.
     void FitPage();
+
+    // Takes the page as it is now, in its picture and in words.
+    void ShowPage();
 
     // Shows the page in a light look instead of the player's, which stays as it is.
     void ShowLight(bool on);
