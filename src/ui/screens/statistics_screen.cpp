@@ -3,6 +3,8 @@
 #include "outside/clipboard.h"
 #include "outside/screens.h"
 #include "paint/text.h"
+#include "ui/controls/configure_controls.h"
+#include "ui/controls/label_table.h"
 #include "ui/screens/time_bar.h"
 #include "ui/window/main_window.h"
 #include "ui/window/placing.h"
@@ -94,6 +96,11 @@ std::string TablesAsText()
     return text;
 }
 
+bool IsArrow(int key)
+{
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
 void MakeBold(QLabel &label)
 {
     QFont font = label.font();
@@ -119,6 +126,7 @@ StatisticsScreen::StatisticsScreen(QWidget *parent)
     column->addLayout(tables);
     column->addWidget(clear, 0, Qt::AlignRight);
     column->setSizeConstraint(QLayout::SetFixedSize);
+    setFocus(); // else the first stop of Tab would have it from the start
 }
 
 void StatisticsScreen::FitBesideBoard()
@@ -134,18 +142,24 @@ void StatisticsScreen::FitBesideBoard()
 QWidget *StatisticsScreen::BuildTable(std::size_t table)
 {
     auto *box = new QGroupBox(Text(StatisticsTitles[table]), this);
-    auto *grid = new QGridLayout(box);
+    auto *column = new QVBoxLayout(box);
+    auto *view = new LabelTable(box, "Solved games by level");
+    column->addWidget(view);
+    views[table] = view;
+    auto *grid = new QGridLayout(view);
+    grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(ColumnGap);
     grid->setVerticalSpacing(0);
-    AddHeadings(*grid);
+    AddHeadings(*grid, *view);
     for (std::size_t row = 0; row < StatisticsRowNames.size(); ++row) {
         AddRow(*grid, table, row);
     }
     return box;
 }
 
-void StatisticsScreen::AddHeadings(QGridLayout &grid)
+void StatisticsScreen::AddHeadings(QGridLayout &grid, LabelTable &view)
 {
+    std::vector<QLabel *> headings;
     for (std::size_t column = 0; column < StatisticsColumns.size(); ++column) {
         if (!StatisticsColumns[column].Visible) {
             continue;
@@ -154,11 +168,14 @@ void StatisticsScreen::AddHeadings(QGridLayout &grid)
         MakeBold(*heading);
         LeaveRoomForBlank(*heading, column);
         grid.addWidget(heading, 0, static_cast<int>(column), AlignmentOf(column));
+        headings.push_back(heading);
     }
+    view.AddRow(headings);
 }
 
 void StatisticsScreen::AddRow(QGridLayout &grid, std::size_t table, std::size_t row)
 {
+    std::vector<QLabel *> visible;
     for (std::size_t column = 0; column < StatisticsColumns.size(); ++column) {
         auto *label = new QLabel(this);
         label->setObjectName(LabelName(table, row, column));
@@ -169,7 +186,11 @@ void StatisticsScreen::AddRow(QGridLayout &grid, std::size_t table, std::size_t 
                        AlignmentOf(column));
         label->setVisible(StatisticsColumns[column].Visible);
         labels[table][row][column] = label;
+        if (StatisticsColumns[column].Visible) {
+            visible.push_back(label);
+        }
     }
+    views[table]->AddRow(visible);
     grid.setRowMinimumHeight(static_cast<int>(row) + 1, fontMetrics().height() + RowGap);
     if (row != TotalRow) {
         bars[table][row] = new TimeBar(this); // in the gap below the times
@@ -200,11 +221,12 @@ void StatisticsScreen::Refresh()
             for (std::size_t column = 0; column < labels[table][row].size(); ++column) {
                 QLabel &label = *labels[table][row][column];
                 label.setText(Text(StatisticsLabels[table][row][column]));
-                label.setAccessibleName(SpokenName(table, row, column));
+                SetSpokenName(label, SpokenName(table, row, column));
                 LeaveRoomForBlank(label, column);
             }
         }
         ShowBars(table);
+        views[table]->TellTexts();
     }
 }
 
@@ -212,6 +234,8 @@ void StatisticsScreen::keyPressEvent(QKeyEvent *event)
 {
     if (event->matches(QKeySequence::Copy)) {
         SetClipboardText(TablesAsText());
+    } else if (hasFocus() && IsArrow(event->key())) {
+        views[SessionTable]->setFocus(Qt::ShortcutFocusReason); // arrows are at home there
     } else {
         QDialog::keyPressEvent(event);
     }

@@ -11,6 +11,7 @@ class QLabel;
 
 namespace kelvarine {
 
+class LabelTable;
 class TimeBar;
 
 class StatisticsScreen : public QDialog {
@@ -35,11 +36,12 @@ protected:
 
 private:
     QWidget *BuildTable(std::size_t table);
-    void AddHeadings(QGridLayout &grid);
+    void AddHeadings(QGridLayout &grid, LabelTable &view);
     void AddRow(QGridLayout &grid, std::size_t table, std::size_t row);
     void ShowBars(std::size_t table);
 
     QBoxLayout *tables;
+    std::array<LabelTable *, 2> views{};
     std::array<std::array<std::array<QLabel *, 6>, 6>, 2> labels{};
     std::array<std::array<TimeBar *, TotalRow>, 2> bars{};
 };
