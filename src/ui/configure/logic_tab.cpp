@@ -5,6 +5,7 @@
 #include "logic/technique_table.h"
 #include "paint/text.h"
 #include "ui/controls/configure_controls.h"
+#include "ui/controls/finger_room.h"
 #include "ui/controls/level_label.h"
 
 #include <QCheckBox>
@@ -147,7 +148,7 @@ void LogicPanel::AddLimit(const TechniqueRow &technique)
     auto *label = new QLabel("max # links:", this);
     label->setBuddy(box);
     box->setFixedWidth(box->fontMetrics().horizontalAdvance("0000"));
-    box->setFixedHeight(box->fontMetrics().height() + 4);
+    box->setFixedHeight(WithRoomForFinger(box->fontMetrics().height() + 4));
     grid->addWidget(label, technique.Number, LimitCaptionColumn, Qt::AlignRight | Qt::AlignVCenter);
     grid->addWidget(box, technique.Number, LimitColumn);
 }

@@ -2,6 +2,7 @@
 
 #include "game/screens.h"
 #include "ui/configure/tab_strip_access.h"
+#include "ui/controls/finger_room.h"
 #include "ui/controls/focus_frame.h"
 
 #include <QKeyEvent>
@@ -124,7 +125,7 @@ int TabStrip::WidthForTexts() const
 
 int TabStrip::RowHeight() const
 {
-    return std::max(FrontRowTop - RearRowTop, fontMetrics().height() + LineRoom);
+    return WithRoomForFinger(std::max(FrontRowTop - RearRowTop, fontMetrics().height() + LineRoom));
 }
 
 void TabStrip::Choose(int tab)

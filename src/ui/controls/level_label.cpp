@@ -1,5 +1,6 @@
 #include "ui/controls/level_label.h"
 
+#include "ui/controls/finger_room.h"
 #include "ui/controls/focus_frame.h"
 
 #include <QAccessibleWidget>
@@ -94,7 +95,7 @@ LevelLabel::LevelLabel(QWidget *parent, std::function<void()> openMenu)
 QSize LevelLabel::sizeHint() const
 {
     const QSize text = QLabel::sizeHint();
-    return {text.width(), std::max(text.height(), fontMetrics().height() + 4)};
+    return {text.width(), WithRoomForFinger(std::max(text.height(), fontMetrics().height() + 4))};
 }
 
 void LevelLabel::OpenLevels()

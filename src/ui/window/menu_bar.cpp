@@ -2,6 +2,7 @@
 
 #include "outside/events.h"
 #include "outside/window.h"
+#include "ui/controls/finger_room.h"
 
 #include <QActionEvent>
 #include <QApplication>
@@ -25,6 +26,16 @@ public:
         return hint == SH_DrawMenuBarSeparator
                    ? 1
                    : QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+
+    // The application's style is not asked where a control has one of its own.
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget) const override
+    {
+        const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
+        return type == CT_MenuBarItem
+                   ? QSize(WithRoomForFinger(usual.width()), WithRoomForFinger(usual.height()))
+                   : usual;
     }
 };
 

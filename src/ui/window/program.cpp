@@ -3,6 +3,7 @@
 #include "files/recovery.h"
 #include "outside/window.h"
 #include "program/program.h"
+#include "ui/controls/finger_room.h"
 #include "ui/screens/help_window.h"
 #include "ui/window/help_key.h"
 #include "ui/window/main_window.h"
@@ -23,6 +24,7 @@ std::unique_ptr<MainWindow> theWindow;
 
 void MakeMainWindow()
 {
+    MakeRoomForFingers();
     theWindow = std::make_unique<MainWindow>();
     WatchForTheEnd();
     WatchForHelpKey();

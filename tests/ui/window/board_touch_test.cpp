@@ -8,6 +8,7 @@
 #include "ui/window/toolbar_widget.h"
 
 #include <QGuiApplication>
+#include <QPointingDevice>
 #include <QPushButton>
 #include <QStyleHints>
 #include <QtTest>
@@ -39,10 +40,9 @@ protected:
         QGuiApplication::styleHints()->setMousePressAndHoldInterval(milliseconds);
     }
 
-    [[nodiscard]] static QPointingDevice *Screen()
+    [[nodiscard]] QPointingDevice *Screen() const
     {
-        static QPointingDevice *const screen = QTest::createTouchDevice();
-        return screen;
+        return screen.get();
     }
 
     [[nodiscard]] BoardWidget *Board() const
@@ -72,6 +72,8 @@ protected:
         return names;
     }
 
+    // There is none before and after, so that no other test has a screen with touch.
+    const std::unique_ptr<QPointingDevice> screen{QTest::createTouchDevice()};
     const int former = QGuiApplication::styleHints()->mousePressAndHoldInterval();
     Program program;
 };
