@@ -2,6 +2,7 @@
 """An evening by ear: the program played by assistive interfaces alone, without a place of the mouse
 or a picture, and what it says held against what a player should hear."""
 
+import re
 import sys
 
 from assistive import Ear, on_own_bus
@@ -37,13 +38,22 @@ class Evening:
         """Waits for a box that says some words, and gives it."""
         def there():
             self.ear.pump()
-            return next((window for window in self.ear.application
-                         if window and window.name == title and window.getRoleName() != "frame"
-                         and words in self.words_of(window)), None)
+            try:
+                return next((window for window in self.ear.application
+                             if window and window.name == title and window.getRoleName() != "frame"
+                             and words in self.words_of(window)), None)
+            except Exception:  # a box that closes meanwhile, told by an error of the bindings
+                return None
         return wait_for(there, f"a box called {title} that says {words}")
 
     def press(self, box, name):
         self.ear.do(self.ear.find("push button", name, box), "Press")
+
+    def close(self, title):
+        """Closes a screen beside the board."""
+        window = self.desktop.windows(f"^{title}$")[0]
+        self.desktop.close(window)
+        self.desktop.gone(window)
 
     def name_file(self, path):
         """Answers the file dialog."""
@@ -67,9 +77,31 @@ def finds_the_board(evening):
            "and headers of their own")
 
 
+def has_a_game_made(evening):
+    """A game of the program's own, told once it is found, and before that, if it takes a while, that
+    it is looked for."""
+    ear = evening.ear
+    made = re.compile(r"game with (\d+) givens, (easy|medium|hard|very hard|extreme)")
+    ear.at_rest()
+    ear.events.clear()
+    evening.menu("Random")
+    told = wait_for(lambda: ear.pump() and next(filter(made.fullmatch, ear.spoken()), None),
+                    "a game to be made")
+    ear.at_rest()
+    heard = [words for words in ear.spoken()
+             if not re.fullmatch(r"searching for a game|searching, \d+ games screened", words)
+             and words not in ("window Kelvarine", "table Sudoku board")]
+    expect(heard == [told], f"the game is told once: {heard}")
+    names = [evening.cell(column, row).name for row in range(1, 10) for column in range(1, 10)]
+    expect(sum(name.endswith(", given") for name in names) == int(made.fullmatch(told)[1]),
+           "and the board has the givens that were told")
+    ear.transcript += heard
+
+
 def makes_a_game(evening):
     evening.menu("From text string")
-    box = evening.box("Kelvarine")
+    evening.press(evening.box("Kelvarine", "Would you like to save this game first?"), "No")
+    box = evening.box("Kelvarine", "Enter desired text:")
     field = evening.ear.tools.findDescendant(box, lambda item: item.getRoleName() == "text")
     field.queryEditableText().setTextContents(PUZZLE)
     evening.ear.expect(lambda: evening.press(box, "OK"), "window Kelvarine", "table Sudoku board",
@@ -90,6 +122,14 @@ def enters_by_the_toolbar(evening):
     evening.ear.expect(lambda: evening.menu("ReDo (Page Dn)"), "redone: 4")
     evening.ear.expect(lambda: evening.menu("Select column"), "9 cells selected, column C")
     expect(evening.table.getSelectedColumns() == [2], "the column is selected")
+
+
+def changes_the_mode(evening):
+    ear = evening.ear
+    ear.expect(lambda: evening.tool("Edit"), "mode: Highlight", events=3)
+    use = ear.find("push button", "All").description
+    expect(use == "Clear all highlights from selected cells", f"a button tells its use: {use}")
+    ear.expect(lambda: evening.tool("Highlight"), "mode: Edit", events=3)
 
 
 def asks_for_a_hint(evening):
@@ -172,6 +212,38 @@ def prints(evening):
     evening.ear.at_rest()
 
 
+def reads_the_statistics(evening):
+    """The tables by their headings, and a walk in one of them."""
+    ear = evening.ear
+    evening.menu("Statistics")
+    table = ear.find("table", "Solved games by level", ear.find("panel", "All Sessions"))
+    cells = table.queryTable()
+    expect([cells.getRowDescription(row) for row in range(cells.nRows)]
+           == ["Easy", "Medium", "Hard", "Very Hard", "Extreme", "Total"], "a row for each level")
+    expect([cells.getColumnDescription(column) for column in range(cells.nColumns)]
+           == ["Solved", "Best Time", "Avg Time"], "with what is counted")
+    ear.at_rest()
+    ear.expect(lambda: cells.getAccessibleAt(2, 0).queryComponent().grabFocus(), "table cell 0",
+               between=("window Statistics", "table Solved games by level"))
+    evening.close("Statistics")
+
+
+def reads_the_solution(evening):
+    """Line by line, as a screen reader does."""
+    ear = evening.ear
+    evening.menu("Show solution(s)")
+    screen = evening.box("Solutions")
+    text = ear.find("text", "Solutions", screen).queryText()
+    lines, place = [], 0
+    while place < text.characterCount:
+        line, _, end = text.getTextAtOffset(place, ear.tools.TEXT_BOUNDARY_LINE_START)
+        lines.append(line.strip())
+        place = max(end, place) + (not line.endswith("\n"))  # over the break where it is left out
+    expect(lines[1] == "| 5 3 4 | 6 7 8 | 9 1 2 |", f"the first row of the solution: {lines[1]}")
+    expect(len([line for line in lines if line.startswith("|")]) == 9, "and nine of them")
+    evening.close("Solutions")
+
+
 def pauses(evening):
     evening.ear.expect(lambda: evening.menu("Pause"), "paused")
     expect(evening.cell(1, 1).name == "hidden while the clock is paused, given", "nothing is told")
@@ -182,14 +254,18 @@ def main(program):
     with Desktop() as desktop:
         evening = Evening(desktop, program)
         finds_the_board(evening)
+        has_a_game_made(evening)
         makes_a_game(evening)
         walks(evening)
         enters_by_the_toolbar(evening)
+        changes_the_mode(evening)
         asks_for_a_hint(evening)
         keeps_a_snapshot(evening)
         is_warned(evening)
         saves_and_reopens(evening)
         pauses(evening)
+        reads_the_statistics(evening)
+        reads_the_solution(evening)
         prints(evening)
         print("\n".join(["what was heard:", *evening.ear.transcript]))
 
