@@ -2,6 +2,7 @@
 
 #include "game/search.h"
 #include "input/mouse.h"
+#include "ui/window/key_decoder.h"
 
 #include <QApplication>
 #include <QStyleHints>
@@ -26,11 +27,11 @@ void BoardTouch::Take(QTouchEvent *event)
     const QList<QEventPoint> &points = event->points();
     switch (event->type()) {
     case QEvent::TouchBegin:
-        Begin(points.front().position());
+        Begin(points.front().position(), ModifiersOf(event->modifiers()));
         break;
     case QEvent::TouchUpdate:
         if (points.size() == 1) {
-            Move(points.front().position());
+            Move(points.front().position(), ModifiersOf(event->modifiers()));
         }
         break;
     case QEvent::TouchEnd:
@@ -46,24 +47,25 @@ void BoardTouch::Take(QTouchEvent *event)
     }
 }
 
-void BoardTouch::Begin(const QPointF &place)
+void BoardTouch::Begin(const QPointF &place, std::int32_t modifiers)
 {
     board->setFocus(Qt::MouseFocusReason);
     stage = Stage::Waiting;
     start = place;
+    held = modifiers;
     hold.start(QGuiApplication::styleHints()->mousePressAndHoldInterval());
 }
 
-void BoardTouch::Move(const QPointF &place)
+void BoardTouch::Move(const QPointF &place, std::int32_t modifiers)
 {
     if (stage == Stage::Waiting && !IsNear(place, start)) {
         hold.stop();
         stage = Stage::Dragging;
-        Press(LeftButton, 0, start);
+        Press(LeftButton, held, start);
     }
     if (stage == Stage::Dragging) {
         const QPoint pixel = pixelAt(place);
-        BoardMoved(LeftButton, 0, pixel.x(), pixel.y());
+        BoardMoved(LeftButton, modifiers, pixel.x(), pixel.y());
     }
 }
 
@@ -79,7 +81,7 @@ void BoardTouch::Join(const QTouchEvent &event)
         return; // it asks once for both fingers
     }
     for (const QEventPoint &point : event.points()) {
-        Press(LeftButton, CtrlKey, point.position());
+        Press(LeftButton, held | CtrlKey, point.position());
     }
 }
 
@@ -98,13 +100,13 @@ void BoardTouch::End(std::uint64_t time)
     }
     lastTapTime = time;
     lastTap = start;
-    Press(LeftButton, 0, start);
+    Press(LeftButton, held, start);
 }
 
 void BoardTouch::Hold()
 {
     stage = Stage::None;
-    Press(RightButton, 0, start);
+    Press(RightButton, held, start);
 }
 
 void BoardTouch::Press(std::int32_t button, std::int32_t modifiers, const QPointF &place)

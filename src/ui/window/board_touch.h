@@ -1,6 +1,6 @@
 // The board under fingers: a touch is a press of the left button, a long one a press of the right
 // button, the second of two close together a double click, a drag stretches the selection, and two
-// fingers add their cells to it.
+// fingers add their cells to it. With keys held it does what the mouse does with them.
 #pragma once
 
 #include <QPointF>
@@ -31,8 +31,9 @@ private:
         Dragging, // a finger on its way
     };
 
-    void Begin(const QPointF &place);
-    void Move(const QPointF &place);
+    // With a modifier sum.
+    void Begin(const QPointF &place, std::int32_t modifiers);
+    void Move(const QPointF &place, std::int32_t modifiers);
     void Join(const QTouchEvent &event);
     void End(std::uint64_t time);
     void Hold();
@@ -43,8 +44,9 @@ private:
     PixelFinder pixelAt;
     QTimer hold;
     Stage stage = Stage::None;
-    QPointF start;   // where the finger came down
-    QPointF lastTap; // where and when a touch last was a press, for the second of two
+    QPointF start;         // where the finger came down
+    std::int32_t held = 0; // modifier sum with which it did
+    QPointF lastTap;       // where and when a touch last was a press, for the second of two
     std::uint64_t lastTapTime = 0;
 };
 

@@ -1,4 +1,5 @@
 #include "grid/grid.h"
+#include "input/mouse.h"
 #include "input/number_keys.h"
 #include "input/toolbar.h"
 #include "logic/driver.h"
@@ -11,6 +12,7 @@
 #include <QPointingDevice>
 #include <QPushButton>
 #include <QStyleHints>
+#include <QTouchEvent>
 #include <QtTest>
 #include <gtest/gtest.h>
 
@@ -19,6 +21,27 @@ namespace {
 
 // Milliseconds that no touch of a test lasts.
 constexpr int Never = 10'000'000;
+
+// Keys of a keyboard beside the screen, held for as long as this stands.
+class HeldKeys : public QObject {
+public:
+    HeldKeys(QWidget *touched, Qt::KeyboardModifiers modifiers) : held(modifiers)
+    {
+        touched->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (auto *touch = dynamic_cast<QTouchEvent *>(event)) {
+            touch->setModifiers(held);
+        }
+        return false;
+    }
+
+private:
+    Qt::KeyboardModifiers held;
+};
 
 class BoardTouch : public ::testing::Test {
 protected:
@@ -131,6 +154,69 @@ TEST_F(BoardTouch, TwoFingersAddTheirCells)
     Touch().release(0, CentreOf(1, 1), Board()).stationary(1).commit();
     Touch().release(1, CentreOf(5, 1), Board()).commit();
     EXPECT_EQ(Selected(), "1/1 5/1 9/9 ");
+}
+
+TEST_F(BoardTouch, AddsItsCellWhileCtrlIsHeld)
+{
+    Tap(CentreOf(9, 9));
+    const HeldKeys keys(Board(), Qt::ControlModifier);
+    Tap(CentreOf(1, 1));
+    EXPECT_EQ(Selected(), "1/1 9/9 ");
+}
+
+TEST_F(BoardTouch, TakesItsCellOutWhileShiftIsHeld)
+{
+    Touch().press(0, CentreOf(2, 2), Board()).commit();
+    Touch().move(0, CentreOf(4, 2), Board()).commit();
+    Touch().release(0, CentreOf(4, 2), Board()).commit();
+    const HeldKeys keys(Board(), Qt::ShiftModifier);
+    Tap(CentreOf(3, 2));
+    EXPECT_EQ(Selected(), "2/2 4/2 ");
+}
+
+TEST_F(BoardTouch, DragTakesCellsOutWhileShiftIsHeld)
+{
+    Touch().press(0, CentreOf(1, 1), Board()).commit();
+    Touch().move(0, CentreOf(3, 1), Board()).commit();
+    Touch().release(0, CentreOf(3, 1), Board()).commit();
+    const HeldKeys keys(Board(), Qt::ShiftModifier);
+    Touch().press(0, CentreOf(2, 1), Board()).commit();
+    Touch().move(0, CentreOf(3, 1), Board()).commit();
+    Touch().release(0, CentreOf(3, 1), Board()).commit();
+    EXPECT_EQ(Selected(), "1/1 ");
+}
+
+TEST_F(BoardTouch, LongOneBesideTheCellsKeepsTheSelectionWhileCtrlIsHeld)
+{
+    Tap(CentreOf(3, 4));
+    HoldAfter(1);
+    const QPoint corner(0, 0);
+    const HeldKeys keys(Board(), Qt::ControlModifier);
+    Touch().press(0, corner, Board()).commit();
+    EXPECT_TRUE(QTest::qWaitFor([] { return ClickX == 0 && ClickY == 0; }, Patience));
+    EXPECT_EQ(Selected(), "3/4 ");
+    Touch().release(0, corner, Board()).commit();
+}
+
+TEST_F(BoardTouch, MeansTheKeysThatAreHeldAsTheFingerComesDown)
+{
+    Tap(CentreOf(9, 9));
+    {
+        const HeldKeys keys(Board(), Qt::ControlModifier);
+        Touch().press(0, CentreOf(1, 1), Board()).commit();
+    }
+    Touch().release(0, CentreOf(1, 1), Board()).commit();
+    EXPECT_EQ(Selected(), "1/1 9/9 ");
+}
+
+TEST_F(BoardTouch, TwoFingersAddTheirCellsThoughShiftIsHeld)
+{
+    Tap(CentreOf(9, 9));
+    const HeldKeys keys(Board(), Qt::ShiftModifier);
+    Touch().press(0, CentreOf(1, 1), Board()).commit();
+    Touch().move(0, CentreOf(1, 1), Board()).press(1, CentreOf(5, 1), Board()).commit();
+    EXPECT_EQ(Selected(), "1/1 5/1 9/9 ");
+    Touch().release(0, CentreOf(1, 1), Board()).release(1, CentreOf(5, 1), Board()).commit();
 }
 
 TEST_F(BoardTouch, TwoFingersAskOnceWhetherToStopASearch)
