@@ -52,8 +52,6 @@ ToolButtonWidget::ToolButtonWidget(std::int32_t index, QWidget *parent)
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
     setAutoDefault(false);
-    // Neither mouse nor keys come this way, but assistive tools do.
-    connect(this, &QPushButton::clicked, this, [this] { ToolPressed(number); });
 }
 
 void ToolButtonWidget::Update()

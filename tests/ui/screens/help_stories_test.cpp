@@ -71,11 +71,12 @@ struct HelpStory : ::testing::Test {
         ToolButtonWidget *select = ToolButtonOf(*Game.Main, SelectButton);
         for (int press = 0; press < 4 && select->Caption() != QStringLiteral("Select # of digits");
              ++press) {
-            select->click();
+            Click(select, select->rect().center());
         }
         EXPECT_EQ(select->Caption().toStdString(), "Select # of digits");
-        EXPECT_EQ(ToolButtonOf(*Game.Main, AllButton)->Caption().toStdString(), "0");
-        ToolButtonOf(*Game.Main, AllButton)->click();
+        ToolButtonWidget *all = ToolButtonOf(*Game.Main, AllButton);
+        EXPECT_EQ(all->Caption().toStdString(), "0");
+        Click(all, all->rect().center());
         Press(Qt::Key_0);
     }
 

@@ -188,8 +188,6 @@ TEST_F(ToolbarOnView, AssistiveToolsCanPressTheButtons)
         return (WordAt({4, 7}) & CandidateMask) == BitTable[6];
     };
     EXPECT_TRUE(QTest::qWaitFor(placed, Patience));
-    Button(14)->click();
-    EXPECT_EQ(ToolMode, 20);
 }
 
 TEST_F(ToolbarOnView, TabReachesEveryButton)
