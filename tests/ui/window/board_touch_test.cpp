@@ -8,7 +8,7 @@
 #include "ui/window/board_widget.h"
 #include "ui/window/toolbar_widget.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QPointingDevice>
 #include <QPushButton>
 #include <QStyleHints>
@@ -142,6 +142,15 @@ TEST_F(BoardTouch, TrembleIsNoDrag)
     EXPECT_EQ(Selected(), "");
     Touch().release(0, place, Board()).commit();
     EXPECT_EQ(Selected(), "2/2 ");
+}
+
+TEST_F(BoardTouch, IsNoPressWhenTheSystemTakesTheFinger)
+{
+    Touch().press(0, CentreOf(2, 2), Board()).commit();
+    QTouchEvent taken(QEvent::TouchCancel, Screen());
+    QApplication::sendEvent(Board(), &taken);
+    Touch().release(0, CentreOf(2, 2), Board()).commit();
+    EXPECT_EQ(Selected(), "");
 }
 
 TEST_F(BoardTouch, TwoFingersAddTheirCells)
