@@ -25,6 +25,7 @@ std::string DialogName;
 std::string DialogCaption;
 std::string FilePattern;
 std::string DefaultExtension;
+std::string LastFileError;
 
 namespace {
 
@@ -53,13 +54,21 @@ bool LiesInAFolder(const std::string &path)
     return std::filesystem::is_directory(path.substr(0, path.rfind('/') + 1), failure);
 }
 
+void KeepError(int number)
+{
+    LastFileError = std::generic_category().message(number) + ", Error #" + std::to_string(number) +
+                    " occurred, at: Form File Command OK";
+}
+
 Presence PresenceOf(const std::string &path)
 {
     struct stat kind {};
     if (::stat(path.c_str(), &kind) == 0) {
         return Presence::There;
     }
-    return errno == ENOENT && LiesInAFolder(path) ? Presence::Missing : Presence::Unreachable;
+    const int error = errno;
+    KeepError(error);
+    return error == ENOENT && LiesInAFolder(path) ? Presence::Missing : Presence::Unreachable;
 }
 
 void TellToCheck(std::string_view what)
@@ -133,6 +142,7 @@ void SetFileDialogDefaults()
     DialogFolder = HomeFolder();
     DialogName.clear();
     DialogCaption.clear();
+    LastFileError.clear();
     PresetFileType(SudokuFiles);
     SetDialogFolderDefaults();
 }

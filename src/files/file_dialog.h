@@ -42,6 +42,10 @@ extern std::string DialogCaption;    // empty while there is none
 extern std::string FilePattern;      // which files are listed, such as "*.sdk"
 extern std::string DefaultExtension; // what a name without a point gets
 
+// The last error of the system that OK came upon: its words, its number and where that was. It is
+// kept for diagnosis and shown nowhere.
+extern std::string LastFileError;
+
 // Puts the state above to its defaults.
 void SetFileDialogDefaults();
 

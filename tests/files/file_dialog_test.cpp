@@ -184,6 +184,25 @@ TEST_F(FileDialogRules, FileBelowNoFolderIsOutOfReachInEveryUse)
     EXPECT_EQ(GameFilePath, "");
 }
 
+TEST_F(FileDialogRules, LastErrorIsKeptWithItsNumberAndNotShown)
+{
+    EXPECT_EQ(LastFileError, "");
+    Folder.Write("game.sdk", "");
+    Choose(OpenGameCaption, "gone");
+    EXPECT_EQ(LastFileError,
+              "No such file or directory, Error #2 occurred, at: Form File Command OK");
+    EXPECT_EQ(Seen.Messages, Texts{"File not found\r\rCheck path and file name"});
+    Choose(SaveGameCaption, Folder.Path("game.sdk/game"));
+    EXPECT_EQ(LastFileError, "Not a directory, Error #20 occurred, at: Form File Command OK");
+    EXPECT_TRUE(Choose(OpenGameCaption, "game"));
+    EXPECT_EQ(LastFileError, "Not a directory, Error #20 occurred, at: Form File Command OK");
+    EXPECT_TRUE(Choose(SaveSolutionsCaption, "new"));
+    EXPECT_EQ(LastFileError,
+              "No such file or directory, Error #2 occurred, at: Form File Command OK");
+    SetFileDialogDefaults();
+    EXPECT_EQ(LastFileError, "");
+}
+
 // ---- Saving --------------------------------------------------------------------------------
 
 TEST_F(FileDialogRules, SavingAGameSetsItsPath)
