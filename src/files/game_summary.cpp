@@ -78,9 +78,9 @@ std::optional<GameSummary> SummaryOf(std::string_view contents)
     const Flag modified = GameModified; // the game's own file may have been deleted meanwhile
     GiveBack(*game);
     GameModified = modified;
-    if (RunIsLong != False) {
-        DrawBoard(); // the banner of a long run went with the other game
-    }
+    // A long run has painted the other game when it took its banner down, and whoever else wanted
+    // to paint was refused meanwhile.
+    DrawBoard();
     return summary;
 }
 

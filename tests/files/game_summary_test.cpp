@@ -86,6 +86,22 @@ TEST(GameSummary, GameWhoseFileWentDuringTheRatingStaysModified)
     EXPECT_EQ(GameModified, True);
 }
 
+TEST(GameSummary, BoardIsPaintedWhenTheGameInHandIsBack)
+{
+    Restart();
+    ASSERT_TRUE(ReadGame(Puzzle));
+    const GridTable cells = Grid;
+    int yields = 0;
+    Seen.OnYield = [&] {
+        ++yields;
+        Seen.BoardPaints = 0;
+    };
+    ASSERT_TRUE(SummaryOf(Puzzle));
+    EXPECT_GT(yields, 0);
+    EXPECT_EQ(Seen.BoardPaints, 1);
+    EXPECT_EQ(Grid, cells);
+}
+
 TEST(GameSummary, OtherContentsAreNoGame)
 {
     Restart();
