@@ -171,6 +171,7 @@ std::string PrintAllOf(const PrinterPage &page)
     SearchKind = NotStoppable;
     PrintRunning = False;
     BringBack(*before);
+    DoAfterRun(); // the rating of a game whose givens clash is no run
     return words;
 }
 

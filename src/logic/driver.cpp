@@ -183,13 +183,6 @@ Step OnSolvedGrid(Run &run)
 
 bool bannerStands = false;
 
-void DoAfterRun()
-{
-    if (AfterRun) {
-        CallFromEventLoop(std::exchange(AfterRun, nullptr));
-    }
-}
-
 // Lets the player stop the run, and tells one that waits for long what it waits for.
 bool MayGoOn(Run &run)
 {
@@ -362,6 +355,13 @@ Step Take(Run &run, Step step)
 }
 
 } // namespace
+
+void DoAfterRun()
+{
+    if (AfterRun) {
+        CallFromEventLoop(std::exchange(AfterRun, nullptr));
+    }
+}
 
 void SetDriverDefaults()
 {

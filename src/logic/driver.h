@@ -38,6 +38,9 @@ extern Flag RunIsLong;
 extern Flag RunUnderWay;
 extern std::function<void()> AfterRun;
 
+// Hands AfterRun to the event loop, if there is one.
+void DoAfterRun();
+
 // Set when the player has agreed to stop a search; cleared by the search for a game, which asks for
 // it. It outlasts SearchActive, which every run of the driver sets anew.
 extern Flag StopRequested;

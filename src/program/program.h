@@ -21,7 +21,7 @@ void KeepBeforeAsking();
 bool EndProgram();
 
 // Whether the board holds the cells of a run of the logic or of a batch, so that nothing can be
-// asked about the game in hand. Both end with a run.
+// asked about the game in hand. What waits for the end of a run waits for that of both.
 bool BoardIsAway();
 
 // What it is made of. While a run of the logic is under way: whether it may end, which is asked

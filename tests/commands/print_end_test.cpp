@@ -15,15 +15,22 @@
 namespace kelvarine::testing {
 namespace {
 
-TEST(PrintEnd, ProgramThatIsToldToGoOverAQuestionWaitsForTheGameInHand)
+class PrintEnd : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        Restart();
+        init_genrand(4711);
+        BoardPlace = {0, 0, 500, 500};
+        StartSavedGame(EasyGame);
+        PrintMode = PrintNewGames;
+    }
+};
+
+TEST_F(PrintEnd, ProgramThatIsToldToGoOverAQuestionWaitsForTheGameInHand)
 {
-    Restart();
-    init_genrand(4711);
-    BoardPlace = {0, 0, 500, 500};
-    StartSavedGame(EasyGame);
     WordAt({3, 1}) = (WordAt({3, 1}) & SolutionMask) | BitTable[4];
     PushUndoState();
-    PrintMode = PrintNewGames;
     const GridTable cells = Grid;
     Seen.LaterDeeds.clear();
     bool asked = false;
@@ -39,6 +46,23 @@ TEST(PrintEnd, ProgramThatIsToldToGoOverAQuestionWaitsForTheGameInHand)
     EXPECT_FALSE(BoardIsAway());
     EXPECT_EQ(Grid, cells);
     EXPECT_FALSE(Seen.LaterDeeds.empty()) << "the window is closed when the game is back";
+}
+
+TEST_F(PrintEnd, ProgramThatIsToldToGoDoesSoWhenTheGameInHandCannotBeRated)
+{
+    WordAt({1, 1}) = BitTable[5] | GivenBit;
+    WordAt({2, 1}) = BitTable[5] | GivenBit;
+    Seen.LaterDeeds.clear();
+    Seen.OnBox = [] {
+        EXPECT_FALSE(EndProgram());
+        EXPECT_TRUE(Seen.LaterDeeds.empty());
+    };
+    cmdPrint();
+    EXPECT_EQ(GameRating, RatedImpossible);
+    ASSERT_EQ(Seen.LaterDeeds.size(), 1U);
+    ForgetRecord();
+    Seen.LaterDeeds.front()();
+    EXPECT_EQ(Acts(), std::vector<std::string>{"window closed: "});
 }
 
 } // namespace
