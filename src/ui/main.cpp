@@ -1,6 +1,7 @@
 #include "files/file_address.h"
 #include "program/defaults.h"
 #include "ui/window/dark_outlines.h"
+#include "ui/window/lost_display.h"
 #include "ui/window/program.h"
 #include "ui/window/program_icon.h"
 
@@ -37,17 +38,6 @@ bool AsksForAnOption(int argc, char **argv)
     return std::any_of(argv + 1, argv + argc, [](const char *word) { return *word == '-'; });
 }
 
-bool running = false;
-
-// When its display goes, the toolkit ends the program where it stands, in the middle of its work,
-// and taking down what is at work crashes. The game in hand is in its file for the next start.
-void LeaveWithTheDisplay()
-{
-    if (running) {
-        std::_Exit(EXIT_FAILURE);
-    }
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -64,10 +54,9 @@ int main(int argc, char **argv)
     QApplication::setWindowIcon(kelvarine::ProgramIcon());
     kelvarine::LightenDarkOutlines();
     kelvarine::SetDefaults();
-    std::atexit(LeaveWithTheDisplay);
-    running = true;
+    kelvarine::EndAtOnceOnExit(true);
     const int result = kelvarine::RunProgram(GivenFile(argc, argv));
-    running = false;
+    kelvarine::EndAtOnceOnExit(false);
     // Everything is kept by now. On its way off Wayland the toolkit now and then waits for ever for
     // a thread of its own, and the player would be left with a program that nobody sees.
     if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {
