@@ -84,6 +84,9 @@ void PaintCells(const Canvas &canvas, const CellFills &fills)
     ForCellsNear(canvas, FrameThickness, [&](Cell cell) {
         DrawCell(canvas, cell, fills[static_cast<std::size_t>(CellIndex(cell.Column, cell.Row))]);
     });
+    if (canvas.Paper != nullptr) {
+        DrawLinesAnew(canvas);
+    }
 }
 
 } // namespace

@@ -96,6 +96,18 @@ void TextureBetweenCells(const Canvas &canvas, const CellFills &fills, int row)
         Within(canvas, {open, canvas.Clip.Top, canvas.Clip.Right, canvas.Clip.Bottom}));
 }
 
+void DrawLinesWithin(const Canvas &canvas, const Rectangle &part)
+{
+    const Canvas lines = Within(canvas, DevicePart(canvas, part));
+    if (lines.Clip.Left == lines.Clip.Right || lines.Clip.Top == lines.Clip.Bottom) {
+        return;
+    }
+    DrawPrimaryGrid(lines);
+    CloseGrid(lines);
+    DrawSecondaryGrid(lines);
+    TextureBackground(lines);
+}
+
 } // namespace
 
 void DrawPrimaryGrid(const Canvas &canvas)
@@ -165,6 +177,23 @@ void TextureUncovered(const Canvas &canvas, const CellFills &fills)
         open = std::max(open, cell.Bottom);
     }
     TextureBackground(Within(canvas, {clip.Left, open, clip.Right, clip.Bottom}));
+}
+
+void DrawLinesAnew(const Canvas &canvas)
+{
+    const int border = BorderThickness;
+    const int width = canvas.Width - 2 * border;
+    const int height = canvas.Height - 2 * border;
+    int x = border; // of the line in front of a cell, or behind the last
+    int y = border;
+    for (int line = 1; line <= 9; ++line) {
+        DrawLinesWithin(canvas, {x, border, CellX(line) - x, height});
+        DrawLinesWithin(canvas, {border, y, width, CellY(line) - y});
+        x = CellX(line) + CellWidth;
+        y = CellY(line) + CellHeight;
+    }
+    DrawLinesWithin(canvas, {x, border, PrimaryThickness, height});
+    DrawLinesWithin(canvas, {border, y, width, PrimaryThickness});
 }
 
 void DrawExteriorBorder(const Canvas &canvas)

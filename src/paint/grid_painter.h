@@ -22,6 +22,11 @@ void TextureBackground(const Canvas &canvas);
 // The same where the fills of the cells will leave it to be seen.
 void TextureUncovered(const Canvas &canvas, const CellFills &fills);
 
+// The lines once more, with their texture, between the cells alone. What shows paper may give a
+// cell the whole of a pixel that a line has a part of, so on paper lines come last as well as
+// first; where each has pixels of its own nothing changes by it.
+void DrawLinesAnew(const Canvas &canvas);
+
 // The raised border round the board.
 void DrawExteriorBorder(const Canvas &canvas);
 

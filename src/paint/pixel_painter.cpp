@@ -178,7 +178,7 @@ void FillCorners(const Canvas &canvas, Point a, Point b, Colour colour)
     const Rectangle all{left, top, std::max(a.X, b.X) - left + 1, bottom - top + 1};
     const DeviceArea area = DevicePart(canvas, all);
     FillDeviceArea(canvas, area, colour);
-    if (canvas.Paper != nullptr) {
+    if (canvas.Paper != nullptr && area.Left < area.Right && area.Top < area.Bottom) {
         canvas.Paper->fillRect(
             QRectF(area.Left, area.Top, area.Right - area.Left, area.Bottom - area.Top),
             ToolkitColour(colour));

@@ -105,7 +105,7 @@ void LayTiles(const Canvas &canvas, const Rectangle &rectangle, std::int32_t tex
 
 // Pictures drawn on paper latest. Most cells of a page look alike, and a picture that is drawn
 // again takes no room in a document.
-constexpr std::size_t KeptPictures = 8;
+constexpr std::size_t KeptPictures = 32;
 std::array<QImage, KeptPictures> paperPictures; // picture cache
 std::size_t oldestPicture;
 

@@ -1,8 +1,11 @@
 #!/usr/bin/python3
-"""Printing to a PDF file through the print dialog: the game on the board, a batch of two pages of
-six games with its solutions, and a batch that cannot be met and is stopped."""
+"""Printing to a PDF file through the print dialog: the game on the board, thin lines that coarse
+pages show whole, a batch of two pages of six games with its solutions, and a batch that cannot be
+met and is stopped."""
 
 import sys
+
+from PIL import Image
 
 from desktop import Desktop, expect, pictures, save_picture, wait_for
 from game import Configure, Game
@@ -10,6 +13,7 @@ from positions import PUZZLE
 
 SIX_GAMES = 4  # steps down the list of games per page
 PAGES, GAMES = 2, 12
+THIN_LINES = 2  # steps from the tabs to the preset with white cells and thin lines
 
 # From the tabs: past the mode, to the list, the pages, the solutions, the grey and the button.
 TO_BATCH = ["Tab", "Down"]
@@ -60,6 +64,35 @@ def prints_the_game(desktop, game):
            "with its rating and the number of its givens")
     keep_pages(desktop, path)
     return screen
+
+
+def lines_seen(page, dots, across):
+    """Number of dark lines in the inner part of the board, which is five inches wide and stands in the
+    middle of the page; how dark each column of dots, or row, is in the mean tells."""
+    middle = [side / 2 for side in page.size]
+    reach = [2.3 * dots, 1.0 * dots]  # within the outer lines; along the lines, over digits and gaps
+    if across:
+        reach.reverse()
+    part = page.crop([round(m - r) for m, r in zip(middle, reach)]
+                     + [round(m + r) for m, r in zip(middle, reach)])
+    means = part.resize((1, part.height) if across else (part.width, 1), Image.Resampling.BOX)
+    dark = [mean < 128 for mean in means.getdata()]
+    return sum(now and not before for before, now in zip([False, *dark], dark))
+
+
+def keeps_thin_lines(desktop, screen):
+    path = desktop.home / "thin.pdf"
+    screen.press("e", *["Tab"] * THIN_LINES, "space")
+    screen.press("p", "shift+Tab", "space")
+    print_to(desktop, path)
+    wait_for(lambda: is_whole(path), "the game in thin lines on paper")
+    for dots in 70, 72, 84, 96:
+        picture = desktop.home / "thin"
+        desktop.run("pdftoppm", "-gray", "-singlefile", "-r", str(dots), str(path), str(picture))
+        page = Image.open(picture.with_suffix(".pgm"))
+        expect(lines_seen(page, dots, across=False) == lines_seen(page, dots, across=True) == 8,
+               f"all lines are seen at {dots} dots to the inch")
+    keep_pages(desktop, path)
 
 
 def cancels(desktop, screen):
@@ -139,6 +172,7 @@ def main():
         game.resize(900, 980)
         game.paste(PUZZLE)
         screen = prints_the_game(desktop, game)
+        keeps_thin_lines(desktop, screen)
         cancels(desktop, screen)
         prints_a_batch(desktop, game, screen)
         expect(game.end(save_first="alt+n") == 0, "the program ends")

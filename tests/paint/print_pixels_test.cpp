@@ -1,3 +1,4 @@
+#include "configure/presets.h"
 #include "game/clock.h"
 #include "game/win_display.h"
 #include "grid/colour.h"
@@ -201,6 +202,39 @@ TEST_F(PrintedGrid, TexturesKeepTheirPixelsWhenTheyAreLargeOnPaper)
     const QImage picture = PictureOfGrid(false);
     const QImage paper = OnPaper(3 * 502, false);
     EXPECT_TRUE(AreEqual(paper, picture.scaled(paper.size())));
+}
+
+// How dark a row of pixels is from one to another, counted in black pixels.
+double InkBetween(const QImage &picture, QPoint from, QPoint to)
+{
+    const QPoint step((to.x() > from.x()) ? 1 : 0, (to.y() > from.y()) ? 1 : 0);
+    double ink = 0;
+    for (QPoint pixel = from; pixel != to; pixel += step) {
+        ink += (255 - qGray(picture.pixel(pixel))) / 255.0;
+    }
+    return ink;
+}
+
+TEST_F(PrintedGrid, ThinLinesKeepTheirInkOnPaperOfAnySize)
+{
+    LoadPreset(1);
+    Grid = {};
+    BorderThickness = 0;
+    const int nominal = PrintGridSide();
+    for (int side = nominal / 2; side <= nominal; side += 7) {
+        const QImage paper = OnPaper(side, false);
+        const double scale = static_cast<double>(side) / nominal;
+        const double cell = side / 9.0;
+        const int middle = static_cast<int>(cell / 2);
+        for (int line = 1; line <= 8; ++line) {
+            const int from = static_cast<int>(cell * (line - 0.5));
+            const int to = static_cast<int>(cell * (line + 0.5));
+            const double thickness =
+                scale * (line % 3 == 0 ? PrimaryThickness : SecondaryThickness);
+            EXPECT_GT(InkBetween(paper, {from, middle}, {to, middle}), 0.98 * thickness) << side;
+            EXPECT_GT(InkBetween(paper, {middle, from}, {middle, to}), 0.98 * thickness) << side;
+        }
+    }
 }
 
 TEST_F(PrintedGrid, DigitsArePaintedAtTheSizeOfThePaper)
