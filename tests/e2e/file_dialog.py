@@ -1,9 +1,11 @@
 #!/usr/bin/python3
-"""The file dialog and the places that a player goes to with it: home and documents, the whole system,
-folders that were used before, hidden folders, names that are no text, ten thousand files, a folder
-without rights, one that vanishes and a volume that goes away while the dialog is open."""
+"""The file dialog and the places that a player goes to with it: home, documents and desktop, the
+whole system, folders that were used before, hidden folders, names that are no text, ten thousand
+files, a folder without rights, one that vanishes and a volume that goes away while the dialog is
+open."""
 
 import os
+import shutil
 import subprocess
 import sys
 
@@ -97,6 +99,14 @@ def system_and_recent_folders(desktop, game):
     desktop.key("Return")
     types(desktop, "above.sdk")
     enters(desktop, game, box, PUZZLE, "the whole system is a place, from which a path leads on")
+
+
+def the_desktop(desktop, game):
+    folder = desktop.home / "Desktop"
+    fills(folder, "lying about.sdk", OTHER)
+    box = opens(desktop, "alt+p", "Home", "Down", name="lying about.sdk")
+    enters(desktop, game, box, OTHER, "the desktop is a place")
+    shutil.rmtree(folder)
 
 
 def hidden_and_odd_names(desktop, game):
@@ -212,6 +222,7 @@ def main():
         game.resize(900, 980)
         home_and_documents(desktop, game)
         system_and_recent_folders(desktop, game)
+        the_desktop(desktop, game)
         hidden_and_odd_names(desktop, game)
         ten_thousand_files(desktop, game)
         vanished_folder(desktop, game)

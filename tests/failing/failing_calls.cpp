@@ -3,6 +3,7 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdarg>
+#include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/types.h>
@@ -10,18 +11,31 @@
 
 namespace {
 
-std::atomic<int> failing{0};
-std::atomic<int> failure{0};
-std::atomic<int> made{0};
+// Calls that are counted together.
+struct Count {
+    std::atomic<int> Failing{0};
+    std::atomic<int> Failure{0};
+    std::atomic<int> Made{0};
+};
+
+Count changes;
+Count entriesRead;
+
+void LetFail(Count &calls, int number, int error)
+{
+    calls.Failing = number;
+    calls.Failure = error;
+    calls.Made = 0;
+}
 
 // Whether the call that is being made is the one that fails.
-bool Fails()
+bool Fails(Count &calls = changes)
 {
-    const int number = ++made;
-    if (number != failing) {
+    const int number = ++calls.Made;
+    if (number != calls.Failing) {
         return false;
     }
-    errno = failure;
+    errno = calls.Failure;
     return true;
 }
 
@@ -39,14 +53,17 @@ extern "C" {
 
 void LetCallFail(int number, int error)
 {
-    failing = number;
-    failure = error;
-    made = 0;
+    LetFail(changes, number, error);
 }
 
 int CallsMade()
 {
-    return made;
+    return changes.Made;
+}
+
+void LetReadingFail(int number, int error)
+{
+    LetFail(entriesRead, number, error);
 }
 
 // A call that takes just what it is given.
@@ -83,10 +100,10 @@ ssize_t write(int file, const void *bytes, size_t count)
     if (!Fails()) {
         return real(file, bytes, count);
     }
-    if (failure != EINTR) {
+    if (changes.Failure != EINTR) {
         static_cast<void>(real(file, bytes, count / 2));
     }
-    errno = failure;
+    errno = changes.Failure;
     return -1;
 }
 
@@ -97,7 +114,7 @@ int close(int file)
     const bool fails = Fails();
     const int result = real(file);
     if (fails) {
-        errno = failure;
+        errno = changes.Failure;
         return -1;
     }
     return result;
@@ -121,6 +138,12 @@ int openat(int folder, const char *path, int flags, ...)
     const auto permissions = static_cast<mode_t>(va_arg(rest, unsigned int));
     va_end(rest);
     return Fails() ? -1 : real(folder, path, flags, permissions);
+}
+
+dirent *readdir(DIR *folder)
+{
+    static const auto real = Real<dirent *(*)(DIR *)>("readdir");
+    return Fails(entriesRead) ? nullptr : real(folder);
 }
 
 } // extern "C"

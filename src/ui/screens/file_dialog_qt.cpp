@@ -99,6 +99,7 @@ FileDialog::FileDialog(QWidget *parent, std::size_t fileType)
       lists(new QSplitter(Qt::Horizontal, this)), drvDrive(Named("drvDrive", new PlaceList(this))),
       dirDirectory(Named("dirDirectory", new FolderTree(this))),
       filFiles(Named("filFiles", new FileList(this))),
+      lblUnread(Named("lblUnread", new QLabel(this))),
       picGame(Named("picGame", new GamePicture(this))),
       txtFileName(Named("txtFileName", new NameBox(this))),
       cmbFileTypes(Named("cmbFileTypes", new QComboBox(this))),
@@ -140,6 +141,8 @@ void FileDialog::BuildControls(std::size_t fileType)
     dirDirectory->setAccessibleName("Folders");
     filFiles->setAccessibleName("Files");
     lblFolder->setTextFormat(Qt::PlainText);
+    lblUnread->setTextFormat(Qt::PlainText);
+    lblUnread->setWordWrap(true);
     // A long path must not widen the window.
     lblFolder->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     cmdOK->setDefault(true);
@@ -183,7 +186,9 @@ void FileDialog::ArrangeLists()
     folders->setStretchFactor(1, 1);
     folders->setSizes({150, 250});
     lists->addWidget(folders);
-    lists->addWidget(Labelled(filFiles, "Fi&les:"));
+    QWidget *files = Labelled(filFiles, "Fi&les:");
+    files->layout()->addWidget(lblUnread);
+    lists->addWidget(files);
     lists->addWidget(picGame);
     for (int part = 0; part < lists->count(); ++part) {
         lists->setCollapsible(part, false);
@@ -363,13 +368,12 @@ void FileDialog::FolderChanged()
 
 void FileDialog::ListFiles()
 {
-    std::vector<FileEntry> entries = FilesIn(DialogFolder, HiddenNow());
+    auto [entries, failure] = FilesIn(DialogFolder, HiddenNow());
     std::erase_if(entries, [](const FileEntry &entry) { return !IsListed(entry.Name); });
-    if (entries.empty()) {
-        const std::string reason = WhyUnreadable(DialogFolder);
-        filFiles->ExplainEmpty(reason.empty() ? Text("No files of this type here.")
-                                              : "This folder cannot be read.\n" + Text(reason));
-    }
+    filFiles->ExplainEmpty(failure.empty() ? Text("No files of this type here.")
+                                           : "This folder cannot be read.\n" + Text(failure));
+    lblUnread->setText("This folder cannot be read to its end.\n" + Text(failure));
+    lblUnread->setVisible(!failure.empty() && !entries.empty());
     {
         const QSignalBlocker quiet(filFiles);
         filFiles->Show(std::move(entries));
@@ -431,10 +435,10 @@ void FileDialog::OfferFor(const QString &typed)
         }
     } else if (start.startsWith(u'/') || start.startsWith("~/")) {
         const std::string folder = TypedFolder(NameBytes(start), DialogFolder);
-        for (const FileEntry &inner : FoldersIn(folder, HiddenNow())) {
+        for (const FileEntry &inner : FoldersIn(folder, HiddenNow()).Entries) {
             names.append(start + inner.Shown + u'/');
         }
-        for (const FileEntry &file : FilesIn(folder, HiddenNow())) {
+        for (const FileEntry &file : FilesIn(folder, HiddenNow()).Entries) {
             if (IsListed(file.Name)) {
                 names.append(start + file.Shown);
             }

@@ -76,6 +76,7 @@ private:
     PlaceList *drvDrive;
     FolderTree *dirDirectory;
     FileList *filFiles;
+    QLabel *lblUnread; // why not all files of the folder are in the list
     GamePicture *picGame;
     NameBox *txtFileName;
     QComboBox *cmbFileTypes;

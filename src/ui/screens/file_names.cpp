@@ -38,9 +38,9 @@ bool IsStray(const QString &text, qsizetype place)
 
 // The entries of a folder whose kind is wanted; links count as what they point at.
 template <typename Wanted>
-std::vector<FileEntry> EntriesIn(const std::string &folder, Hidden hidden, const Wanted &wanted)
+FolderContents EntriesIn(const std::string &folder, Hidden hidden, const Wanted &wanted)
 {
-    std::vector<FileEntry> entries;
+    FolderContents contents;
     std::error_code failure;
     std::filesystem::directory_iterator entry(folder, failure);
     while (!failure && entry != std::filesystem::directory_iterator()) {
@@ -50,12 +50,16 @@ std::vector<FileEntry> EntriesIn(const std::string &folder, Hidden hidden, const
         if ((hidden == Hidden::Included || !name.starts_with('.')) &&
             ::stat(path.c_str(), &kind) == 0 && wanted(kind.st_mode)) {
             QString shown = ShownName(name);
-            entries.push_back({std::move(name), std::move(shown), kind.st_size, kind.st_mtime});
+            contents.Entries.push_back(
+                {std::move(name), std::move(shown), kind.st_size, kind.st_mtime});
         }
         entry.increment(failure);
     }
-    std::ranges::sort(entries, ShownBefore);
-    return entries;
+    std::ranges::sort(contents.Entries, ShownBefore);
+    if (failure) {
+        contents.Failure = failure.message();
+    }
+    return contents;
 }
 
 } // namespace
@@ -99,21 +103,14 @@ bool ShownBefore(const FileEntry &a, const FileEntry &b)
     return order != 0 ? order < 0 : a.Name < b.Name;
 }
 
-std::vector<FileEntry> FilesIn(const std::string &folder, Hidden hidden)
+FolderContents FilesIn(const std::string &folder, Hidden hidden)
 {
     return EntriesIn(folder, hidden, [](mode_t mode) { return S_ISREG(mode); });
 }
 
-std::vector<FileEntry> FoldersIn(const std::string &folder, Hidden hidden)
+FolderContents FoldersIn(const std::string &folder, Hidden hidden)
 {
     return EntriesIn(folder, hidden, [](mode_t mode) { return S_ISDIR(mode); });
-}
-
-std::string WhyUnreadable(const std::string &folder)
-{
-    std::error_code failure;
-    const std::filesystem::directory_iterator entries(folder, failure);
-    return failure ? failure.message() : std::string();
 }
 
 } // namespace kelvarine

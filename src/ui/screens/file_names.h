@@ -28,12 +28,15 @@ bool ShownBefore(const FileEntry &a, const FileEntry &b);
 
 enum class Hidden : std::uint8_t { LeftOut, Included };
 
-// The files in a folder, and its folders, as they are shown. What begins with a point is hidden.
-// Empty when the folder cannot be read.
-std::vector<FileEntry> FilesIn(const std::string &folder, Hidden hidden = Hidden::LeftOut);
-std::vector<FileEntry> FoldersIn(const std::string &folder, Hidden hidden = Hidden::LeftOut);
+// Entries of a folder in the order in which they are shown. Where it could not be read, or not to
+// its end, the system's words say why, and the entries are those that were read before.
+struct FolderContents {
+    std::vector<FileEntry> Entries;
+    std::string Failure;
+};
 
-// Why the entries of a folder cannot be read, in the system's words; empty when they can.
-std::string WhyUnreadable(const std::string &folder);
+// The files in a folder, and its folders. What begins with a point is hidden.
+FolderContents FilesIn(const std::string &folder, Hidden hidden = Hidden::LeftOut);
+FolderContents FoldersIn(const std::string &folder, Hidden hidden = Hidden::LeftOut);
 
 } // namespace kelvarine

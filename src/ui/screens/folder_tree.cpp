@@ -116,12 +116,14 @@ void FolderTree::RemoveOthers(QTreeWidgetItem *item, const std::vector<FileEntry
 void FolderTree::Read(QTreeWidgetItem *item) const
 {
     const std::string path = FolderOf(item);
-    const std::vector<FileEntry> folders = FoldersIn(path, hidden_);
-    RemoveOthers(item, folders);
+    const FolderContents folders = FoldersIn(path, hidden_);
+    if (folders.Failure.empty()) {
+        RemoveOthers(item, folders.Entries);
+    }
     const bool wasEmpty = item->childCount() == 0;
     QList<QTreeWidgetItem *> fresh;
     int place = 0;
-    for (const FileEntry &folder : folders) {
+    for (const FileEntry &folder : folders.Entries) {
         place = PlaceFor(folder, item, place);
         const std::string inner = path + folder.Name + "/";
         if (wasEmpty) {

@@ -1,7 +1,13 @@
 // Folders of the file dialog that are hidden, out of order, closed to the player or never at rest.
+#include "failing/failing_calls.h"
 #include "files/dialog_folders.h"
 #include "support/widget_file_dialog.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+
+#include <cerrno>
 #include <filesystem>
 #include <sys/resource.h>
 
@@ -90,6 +96,39 @@ TEST_F(FileFolders, PathToAFolderThatCannotBeReadStaysInTheName)
     EXPECT_EQ(boxes.Texts, Names{"Unable to open folder.\n\nToo many open files"});
     EXPECT_EQ(Name()->text().toStdString(), Folder.Path("inner"));
     EXPECT_EQ(DialogFolder, Folder.Path());
+}
+
+TEST_F(FileFolders, FolderThatFailsInTheMiddleShowsWhatWasReadAndSaysWhy)
+{
+    for (const char *name : {"a.txt", "b.txt", "c.txt"}) {
+        Folder.Write(name, "");
+    }
+    Show(OpenGameCaption);
+    const auto *told = Find<QLabel>("lblUnread");
+    EXPECT_FALSE(told->isVisible());
+    LetReadingFail(5, EIO); // with the folder itself and the one above there are five
+    Find<QComboBox>("cmbFileTypes")->setCurrentIndex(static_cast<int>(TextFiles));
+    EXPECT_GE(Listed().size(), 2U);
+    EXPECT_TRUE(told->isVisible());
+    EXPECT_EQ(told->text(), "This folder cannot be read to its end.\nInput/output error");
+    LetReadingFail(0, 0);
+    Find<QCheckBox>("chkHidden")->toggle();
+    EXPECT_EQ(Listed(), (Names{"a.txt", "b.txt", "c.txt"}));
+    EXPECT_FALSE(told->isVisible());
+}
+
+TEST_F(FileFolders, FolderThatFailsInTheMiddleLosesNoneInTheTree)
+{
+    const Names all{"a", "b", "c"};
+    for (const std::string &name : all) {
+        std::filesystem::create_directory(Folder.Path(name));
+    }
+    Show(OpenGameCaption);
+    EXPECT_EQ(FoldersBelow(Tree()->currentItem()), all);
+    LetReadingFail(3, EIO);
+    Tree()->RefreshCurrent();
+    EXPECT_EQ(FoldersBelow(Tree()->currentItem()), all);
+    LetReadingFail(0, 0);
 }
 
 TEST_F(FileFolders, FolderThatChangesAllTheTimeIsListedAnew)

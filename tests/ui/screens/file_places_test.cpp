@@ -154,10 +154,10 @@ TEST_F(FilePlaces, FolderWithoutRightsSaysWhy)
 {
     std::filesystem::create_directory(Folder.Path("empty"));
     Show(OpenGameCaption);
-    EXPECT_EQ(WhyUnreadable(Folder.Path("empty/")), "");
-    EXPECT_EQ(WhyUnreadable(Folder.Path("gone/")), "No such file or directory");
+    EXPECT_EQ(FilesIn(Folder.Path("empty/")).Failure, "");
+    EXPECT_EQ(FilesIn(Folder.Path("gone/")).Failure, "No such file or directory");
     Folder.Write("file", "");
-    EXPECT_EQ(WhyUnreadable(Folder.Path("file/")), "Not a directory");
+    EXPECT_EQ(FilesIn(Folder.Path("file/")).Failure, "Not a directory");
 }
 
 // ---- Keys and buttons ----------------------------------------------------------------------
