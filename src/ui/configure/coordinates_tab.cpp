@@ -2,6 +2,7 @@
 
 #include "configure/naming_settings.h"
 #include "grid/names.h"
+#include "paint/sharp_lines.h"
 #include "paint/text.h"
 #include "ui/controls/configure_controls.h"
 
@@ -56,12 +57,12 @@ protected:
 
 private:
     // Box borders are doubled by a second line.
-    static void DrawLines(QPainter &painter)
+    void DrawLines(QPainter &painter) const
     {
         for (int line = 0; line <= 9; ++line) {
             const int thickness = line % 3 == 0 ? 2 : 1;
-            painter.fillRect(line * CellAcross, 0, thickness, TableHeight + 2, Qt::black);
-            painter.fillRect(0, line * CellDown, TableWidth + 2, thickness, Qt::black);
+            DrawLineDown(painter, rect(), line * CellAcross, thickness, Qt::black);
+            DrawLineAcross(painter, rect(), line * CellDown, thickness, Qt::black);
         }
     }
 

@@ -8,6 +8,7 @@
 #include "outside/printer.h"
 #include "paint/banner_painter.h"
 #include "paint/print_painter.h"
+#include "paint/sharp_lines.h"
 #include "paint/text.h"
 #include "print/page_layout.h"
 #include "print/page_words.h"
@@ -186,8 +187,7 @@ void PrintPreview::paintEvent(QPaintEvent * /*event*/)
             DrawSmall(painter, lightPicture.isNull() ? picture : lightPicture, place);
         }
     }
-    painter.setPen(Qt::darkGray);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    DrawSharpFrame(painter, rect(), Qt::darkGray);
 }
 
 } // namespace kelvarine

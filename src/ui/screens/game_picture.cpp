@@ -4,6 +4,7 @@
 #include "grid/rating_words.h"
 #include "logic/driver.h"
 #include "outside/whole_file.h"
+#include "paint/sharp_lines.h"
 #include "paint/text.h"
 
 #include <QPainter>
@@ -38,17 +39,15 @@ QString WordsOf(const GameSummary &game)
 // Lines between the cells, those between the boxes stronger.
 void PaintLines(QPainter &painter, const QRect &board, const QColor &ink)
 {
+    const QRect lined = board.adjusted(0, 0, 1, 1); // with the last lines
     for (const bool strong : {false, true}) {
         QColor colour = ink;
         colour.setAlphaF(strong ? 0.8F : 0.25F);
-        painter.setPen(colour);
         for (int line = 0; line <= 9; ++line) {
             if ((line % 3 == 0) == strong) {
                 const int along = board.width() * line / 9;
-                painter.drawLine(board.left() + along, board.top(), board.left() + along,
-                                 board.top() + board.height());
-                painter.drawLine(board.left(), board.top() + along, board.left() + board.width(),
-                                 board.top() + along);
+                DrawLineDown(painter, lined, board.left() + along, 1, colour);
+                DrawLineAcross(painter, lined, board.top() + along, 1, colour);
             }
         }
     }

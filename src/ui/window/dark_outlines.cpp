@@ -1,5 +1,8 @@
 #include "ui/window/dark_outlines.h"
 
+#include "paint/sharp_lines.h"
+
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QProxyStyle>
 #include <QStyleFactory>
@@ -40,6 +43,14 @@ QPalette WithLightOutline(QPalette palette)
     return palette;
 }
 
+// What the style takes for a frame with a palette.
+QColor FrameColour(const QPalette &palette)
+{
+    constexpr int darkening = 140; // in hundredths
+    constexpr int lightening = 108;
+    return palette.color(QPalette::Window).darker(darkening).lighter(lightening);
+}
+
 class LightOutlines : public QProxyStyle {
 public:
     LightOutlines() : QProxyStyle(QStyleFactory::create(PlainStyle))
@@ -51,6 +62,9 @@ public:
     {
         const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
         const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+        // Of a list or a text, whose sides the style loses where a pixel is no whole one.
+        const bool isFrame = element == PE_Frame && frame != nullptr &&
+                             qobject_cast<const QAbstractScrollArea *>(widget) != nullptr;
         const bool isBox = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
         if (isBox && button != nullptr && IsDark(option->palette)) {
             QStyleOptionButton light = *button;
@@ -60,6 +74,10 @@ public:
             QStyleOptionFrame light = *frame;
             light.palette = WithLightOutline(light.palette);
             QProxyStyle::drawPrimitive(element, &light, painter, widget);
+        } else if (isFrame) {
+            const QPalette palette =
+                IsDark(option->palette) ? WithLightOutline(option->palette) : option->palette;
+            DrawSharpFrame(*painter, option->rect, FrameColour(palette));
         } else {
             QProxyStyle::drawPrimitive(element, option, painter, widget);
         }

@@ -1,12 +1,13 @@
 // Boxes that can be seen on a dark desktop: the toolkit's own style draws the outlines of check
-// boxes, options and text boxes darker than their window, which leaves nothing of them where that
-// is dark.
+// boxes, options, text boxes and lists darker than their window, which leaves nothing of them where
+// that is dark.
 #pragma once
 
 namespace kelvarine {
 
-// Has the style draw such outlines lighter than a dark window. Nothing where the desktop brings a
-// style of its own, nor on a light window. To be called once.
+// Has the style draw such outlines lighter than a dark window, and the frames of lists in whole
+// pixels of the screen. Nothing else changes, and nothing at all where the desktop brings a style
+// of its own. To be called once.
 void LightenDarkOutlines();
 
 } // namespace kelvarine

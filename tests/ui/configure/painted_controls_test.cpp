@@ -41,7 +41,59 @@ protected:
     {
         return Find<QWidget>(name)->grab().toImage();
     }
+
+    // The same on a screen of a ratio.
+    QImage PictureAt(double ratio, const char *name)
+    {
+        auto *control = Find<QWidget>(name);
+        QImage picture((QSizeF(control->size()) * ratio).toSize(), QImage::Format_RGB32);
+        picture.fill(Qt::green);
+        picture.setDevicePixelRatio(ratio);
+        control->render(&picture);
+        return picture;
+    }
 };
+
+TEST_F(PaintedControls, PreviewIsFramedAllRoundAtEveryRatio)
+{
+    Open(PrintTab);
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        const QImage preview = PictureAt(ratio, "picPrintPreview");
+        const int thickness = static_cast<int>(ratio);
+        EXPECT_EQ(Edges(preview), std::vector<Colour>(4, 0x808080)) << ratio;
+        EXPECT_EQ(Edges(preview, thickness - 1), std::vector<Colour>(4, 0x808080)) << ratio;
+        EXPECT_EQ(Edges(preview, thickness), std::vector<Colour>(4, 0xFFFFFF)) << ratio;
+    }
+}
+
+TEST_F(PaintedControls, LinesOfTheSampleOfNamesAreOfTwoWidthsAtEveryRatio)
+{
+    Open(CoordinatesTab);
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        const QImage sample = PictureAt(ratio, "picCoordinateSample");
+        const int above = static_cast<int>(5 * ratio); // the names of the first row
+        std::string widths;
+        bool black = false;
+        for (int x = 0; x < sample.width(); ++x) {
+            if (ColourAt(sample, x, above) != 0) {
+                black = false;
+                continue;
+            }
+            if (!black) {
+                widths += '0';
+            }
+            black = true;
+            ++widths.back();
+        }
+        const std::string thin(2, static_cast<char>('0' + static_cast<int>(ratio)));
+        const std::string thick(1, static_cast<char>('0' + static_cast<int>(2 * ratio)));
+        std::string all = thick;
+        for (int box = 0; box < 3; ++box) {
+            all += thin + thick;
+        }
+        EXPECT_EQ(widths, all) << ratio;
+    }
+}
 
 TEST_F(PaintedControls, SwatchHasASunkenFrameOfTwoPixelsRoundItsColour)
 {

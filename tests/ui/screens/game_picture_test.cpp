@@ -45,5 +45,44 @@ TEST(GamePictureTest, ShowsTheNumbersInTheirCellsAndNoPencilmarks)
     }
 }
 
+// Lengths of the stretches of a row of pixels that are not paper.
+std::vector<int> LinesIn(const QImage &picture, int y, const QColor &paper)
+{
+    std::vector<int> lines;
+    bool line = false;
+    for (int x = 0; x < picture.width(); ++x) {
+        const bool ink = picture.pixelColor(x, y) != paper;
+        if (ink && !line) {
+            lines.push_back(0);
+        }
+        line = ink;
+        if (ink) {
+            ++lines.back();
+        }
+    }
+    return lines;
+}
+
+TEST(GamePictureTest, HasAllItsLinesOfOneWidthAtEveryRatio)
+{
+    const Program program;
+    const TemporaryFolder folder;
+    folder.Write("game.sdk", GameFileBytes());
+    GamePicture view(nullptr);
+    view.resize(view.sizeHint());
+    view.ShowFile(folder.Path("game.sdk"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !view.Words().isEmpty(); }, Patience));
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        QImage picture((QSizeF(view.size()) * ratio).toSize(), QImage::Format_RGB32);
+        picture.fill(view.palette().color(QPalette::Base));
+        picture.setDevicePixelRatio(ratio);
+        view.render(&picture, {}, {}, {});
+        const int inside = static_cast<int>(5 * ratio); // the first row
+        EXPECT_EQ(LinesIn(picture, inside, view.palette().color(QPalette::Base)),
+                  std::vector<int>(10, static_cast<int>(ratio)))
+            << ratio;
+    }
+}
+
 } // namespace
 } // namespace kelvarine::testing

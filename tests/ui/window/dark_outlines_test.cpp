@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QStyleFactory>
 #include <gtest/gtest.h>
@@ -36,6 +37,7 @@ protected:
         boxes.push_back(std::make_unique<QCheckBox>());
         boxes.push_back(std::make_unique<QRadioButton>());
         boxes.push_back(std::make_unique<QLineEdit>());
+        boxes.push_back(std::make_unique<QPlainTextEdit>());
         std::vector<QImage> pictures;
         for (const auto &box : boxes) {
             box->setPalette(QPalette(window, window));
@@ -75,6 +77,26 @@ TEST_F(DarkOutlines, AreTheToolkitsOwnOnALightWindow)
     const std::vector<QImage> before = Boxes(LightWindow);
     LightenDarkOutlines();
     EXPECT_EQ(Boxes(LightWindow), before);
+}
+
+// The style loses sides of a frame where a pixel of its own is no whole number of the screen's.
+TEST_F(DarkOutlines, FrameAListOnAllSidesAtEveryRatio)
+{
+    LightenDarkOutlines();
+    QPlainTextEdit list;
+    list.resize(91, 71);
+    for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        QImage picture((QSizeF(list.size()) * ratio).toSize(), QImage::Format_RGB32);
+        picture.setDevicePixelRatio(ratio);
+        list.render(&picture);
+        const int right = picture.width() - 1;
+        const int bottom = picture.height() - 1;
+        const QRgb frame = picture.pixel(right / 2, 0);
+        EXPECT_NE(frame, picture.pixel(right / 2, bottom / 2)) << ratio;
+        EXPECT_EQ(picture.pixel(right / 2, bottom), frame) << ratio;
+        EXPECT_EQ(picture.pixel(0, bottom / 2), frame) << ratio;
+        EXPECT_EQ(picture.pixel(right, bottom / 2), frame) << ratio;
+    }
 }
 
 TEST_F(DarkOutlines, LeaveAStyleOfTheDesktopAlone)
