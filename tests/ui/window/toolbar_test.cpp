@@ -14,6 +14,7 @@
 #include "ui/window/toolbar_widget.h"
 
 #include <QAccessible>
+#include <QImage>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QtTest>
@@ -280,6 +281,36 @@ TEST_F(ToolbarOnView, CaptionsAreReadableOnEveryColour)
                   4.5)
             << std::hex << ToolButtons[10].Background;
     }
+}
+
+// The part of a button within its edge that is nearer to the ink than to the ground.
+QRect InkOf(ToolButtonWidget *button)
+{
+    const QImage painted = button->grab().toImage();
+    const int ground = qGray(button->palette().color(QPalette::Button).rgb());
+    const int ink = qGray(button->palette().color(QPalette::ButtonText).rgb());
+    const QRect inner = painted.rect().adjusted(4, 4, -4, -4);
+    QRect inked;
+    for (int y = inner.top(); y <= inner.bottom(); ++y) {
+        for (int x = inner.left(); x <= inner.right(); ++x) {
+            const int shade = qGray(painted.pixel(x, y));
+            if (std::abs(shade - ink) < std::abs(shade - ground)) {
+                inked |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return inked;
+}
+
+TEST_F(ToolbarOnView, CaptionsArePaintedInTheMiddle)
+{
+    for (const int number : {8, 10}) {
+        const QRect inked = InkOf(Button(number));
+        ASSERT_FALSE(inked.isEmpty()) << number;
+        EXPECT_LE((inked.center() - Button(number)->rect().center()).manhattanLength(), 4)
+            << number;
+    }
+    EXPECT_GT(InkOf(Button(10)).width(), InkOf(Button(8)).width());
 }
 
 TEST_F(ToolbarOnView, HeldModifierShowsItsSign)
