@@ -169,8 +169,8 @@ std::string PrintAllOf(const PrinterPage &page)
     std::string words = EndDocument();
     // From here on there is nothing to be stopped, not even the rating of the game in hand.
     SearchKind = NotStoppable;
-    PrintRunning = False;
     BringBack(*before);
+    PrintRunning = False;
     DoAfterRun(); // the rating of a game whose givens clash is no run
     return words;
 }
@@ -204,11 +204,8 @@ void SetPrintRunDefaults()
 
 void cmdPrint()
 {
-    if (PrintRunning != False) {
-        QueryStopSearch();
-        return;
-    }
-    if (!ReadyForCommand()) {
+    // A batch at work is a search like others, which this asks about.
+    if (!ReadyForCommand() || PrintRunning != False) {
         return;
     }
     if (PrintMode == PrintNewGames) {

@@ -107,6 +107,23 @@ TEST_F(PrintedBatch, ClickDuringARunAsksAndAYesEndsTheDocumentWithWhatWasPrinted
     EXPECT_EQ(HandState(), before);
 }
 
+TEST_F(PrintedBatch, IsOnUntilTheGameInHandIsRatedAndCannotBeStoppedThen)
+{
+    int turns = 0;
+    Seen.OnYield = [&] {
+        if (!Seen.EndedDocuments.empty()) {
+            ++turns;
+            EXPECT_EQ(PrintRunning, True);
+            cmdPrint();
+        }
+    };
+    cmdPrint();
+    EXPECT_GT(turns, 0);
+    EXPECT_TRUE(Seen.Questions.empty());
+    EXPECT_EQ(Seen.EndedDocuments.size(), 1U);
+    EXPECT_EQ(PrintRunning, False);
+}
+
 TEST_F(PrintedBatch, NoToTheQuestionLetsItRunOn)
 {
     PrintGamesPerPage = SixPerPage;

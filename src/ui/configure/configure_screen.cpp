@@ -105,10 +105,10 @@ bool IsPressOfEnter(const QEvent &event)
     return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-// While a batch is printed the player is asked whether to stop it, and may say no.
+// While a batch is made the player is asked whether to stop it, and may say no.
 bool MayClose()
 {
-    if (PrintRunning == False || StopRequested != False) {
+    if (PrintRunning == False || SearchKind == NotStoppable || StopRequested != False) {
         return true;
     }
     QueryStopSearch();

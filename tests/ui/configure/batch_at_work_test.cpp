@@ -81,6 +81,17 @@ TEST_F(BatchAtWork, ClosingDoesNotAskAgainWhenItIsToStop)
     EXPECT_TRUE(boxes.Texts.empty());
 }
 
+TEST_F(BatchAtWork, NothingIsAskedWhenOnlyTheGameInHandIsRated)
+{
+    SearchKind = NotStoppable;
+    const BoxRecord boxes = AnswerBoxes([&] {
+        QTest::keyClick(Screen, Qt::Key_Return);
+        EXPECT_TRUE(Screen->close());
+    });
+    EXPECT_TRUE(boxes.Texts.empty());
+    EXPECT_EQ(SearchActive, True);
+}
+
 TEST_F(BatchAtWork, NamesForToolsAreWhatIsToBeRead)
 {
     auto *print = Find<QPushButton>("cmdPrint");
