@@ -2,8 +2,8 @@
 
 #include "commands/print_run.h"
 #include "configure/presets.h"
+#include "game/search.h"
 #include "generator/generator.h"
-#include "grid/grid.h"
 #include "logic/driver.h"
 #include "outside/printer.h"
 #include "paint/banner_painter.h"
@@ -48,7 +48,7 @@ void DrawSmall(QPainter &painter, const QImage &picture, const PagePlace &place)
 // Whether Grid belongs to a run of the logic or to the generator instead of the player.
 bool GridIsAway()
 {
-    return SearchActive != False || SearchKind != NotStoppable;
+    return IsBusy() || SearchKind != NotStoppable;
 }
 
 // Where the page has pictures.

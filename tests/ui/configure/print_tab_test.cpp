@@ -407,6 +407,9 @@ TEST_F(PrintTabs, PreviewKeepsItsPictureWhileALongRunWorksOnTheGrid)
         SearchActive = True; // a run of the logic
         EXPECT_EQ(Preview(), before) << mode;
         SearchActive = False;
+        RunUnderWay = True; // one that was told to stop
+        EXPECT_EQ(Preview(), before) << mode;
+        RunUnderWay = False;
         SearchKind = SearchingGame; // between two runs for a game
         EXPECT_EQ(Preview(), before) << mode;
         SearchKind = NotStoppable;
