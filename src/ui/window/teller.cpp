@@ -1,12 +1,12 @@
 #include "ui/window/teller.h"
 
-#include "game/search.h"
 #include "grid/grid.h"
 #include "input/spoken.h"
 #include "input/told.h"
 #include "logic/driver.h"
 #include "outside/events.h"
 #include "paint/text.h"
+#include "program/program.h"
 #include "ui/window/board_accessible.h"
 #include "ui/window/board_widget.h"
 #include "ui/window/main_window.h"
@@ -63,7 +63,7 @@ void TellNow()
     if (!ToolsListen()) {
         return;
     }
-    if (IsBusy()) { // what the run does with the board is not the player's
+    if (SearchActive != False || BoardIsAway()) { // what is done with the board is not the player's
         if (SearchActive != False) {
             TellRun();
         }

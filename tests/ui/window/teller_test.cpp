@@ -1,3 +1,4 @@
+#include "commands/print_run.h"
 #include "grid/grid.h"
 #include "input/toolbar.h"
 #include "logic/driver.h"
@@ -30,6 +31,7 @@ protected:
         SearchActive = False;
         RunUnderWay = False;
         RunIsLong = False;
+        PrintRunning = False;
     }
 
     [[nodiscard]] BoardWidget *Board() const
@@ -60,19 +62,22 @@ TEST_F(Teller, LongRunIsToldOnce)
     EXPECT_EQ(listener.Heard(), Texts{});
 }
 
-TEST_F(Teller, BoardOfARunThatIsToStopIsNotToldYet)
+// A run that was told to stop, and a batch that asks about its file.
+TEST_F(Teller, BoardThatIsNotThePlayersIsNotTold)
 {
     Listener listener;
     Press(Qt::Key_Down);
     listener.Heard();
-    RunUnderWay = True;
-    Grid[1][1] |= BitTable[5];
-    UpdateCaptions();
-    EXPECT_EQ(listener.Heard(), Texts{});
-    Grid[1][1] &= ~BitTable[5];
-    RunUnderWay = False;
-    UpdateCaptions();
-    EXPECT_EQ(listener.Heard(), Texts{});
+    for (Flag *away : {&RunUnderWay, &PrintRunning}) {
+        *away = True;
+        Grid[1][1] |= BitTable[5];
+        UpdateCaptions();
+        EXPECT_EQ(listener.Heard(), Texts{});
+        Grid[1][1] &= ~BitTable[5];
+        *away = False;
+        UpdateCaptions();
+        EXPECT_EQ(listener.Heard(), Texts{});
+    }
 }
 
 TEST_F(Teller, ToolThatComesBackIsNotToldWhatHappenedMeanwhile)
