@@ -1,8 +1,11 @@
 """The program as assistive tools meet it, on a session bus of its own: what it says is written down,
 and what it offers is found by role and name and used by the actions that tools are given."""
 
+import atexit
 import os
+import shutil
 import sys
+import tempfile
 
 from desktop import expect, wait_for
 
@@ -11,10 +14,13 @@ OWN_BUS = "KELVARINE_OWN_BUS"
 
 def on_own_bus():
     """Begins the script again under a session bus that ends with it. On the bus of the machine there
-    may be tools and programs of others."""
-    if os.environ.pop(OWN_BUS, None) is None:
-        os.environ[OWN_BUS] = "yes"
+    may be tools and programs of others. The bus of the tools themselves has its place in the runtime
+    folder, so that scripts at the same time need one each."""
+    folder = os.environ.pop(OWN_BUS, None)
+    if folder is None:
+        os.environ[OWN_BUS] = os.environ["XDG_RUNTIME_DIR"] = tempfile.mkdtemp(prefix="kelvarine-bus-")
         os.execvp("dbus-run-session", ["dbus-run-session", "--", sys.executable, *sys.argv])
+    atexit.register(shutil.rmtree, folder, ignore_errors=True)
 
 
 class Ear:
