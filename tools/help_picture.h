@@ -5,6 +5,7 @@
 #pragma once
 
 #include "help_example.h"
+#include "ui/screens/help_page.h"
 
 #include <QColor>
 #include <QImage>
@@ -43,6 +44,7 @@ constexpr int PicturePlace(int line)
 }
 
 inline constexpr int PictureSide = PicturePlace(9) + PictureCellSide + 4;
+static_assert(PictureSide == HelpPictureSide);
 
 // What a picture shows: the hint of a technique, or, under a supposition, what only looks like it.
 struct PictureSubject {

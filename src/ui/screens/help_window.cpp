@@ -43,6 +43,7 @@ namespace {
 
 constexpr QSize StartSize{930, 760};
 constexpr int SideWidth = 280;
+constexpr int SmallestPage = 420; // width that every table and every position as text fits into
 constexpr int SmallestZoom = -4;
 constexpr int LargestZoom = 12;
 constexpr double PictureStep = 0.1; // by which a step of zoom changes a picture
@@ -86,8 +87,10 @@ HelpBrowser::HelpBrowser(const QHelpEngineCore &helpEngine, QWidget *parent)
     setOpenLinks(false);
     setAccessibleName("Help page");
     document()->setDocumentMargin(PageMargin);
+    setMinimumWidth(SmallestPage);
     pictureRatio = devicePixelRatioF();
     pictureDark = IsDark();
+    pictureSide = UsualSide();
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &name)
@@ -108,6 +111,14 @@ bool HelpBrowser::IsDark() const
            palette().color(QPalette::Text).lightness();
 }
 
+// The width of a picture that is not zoomed: its own, or what a narrow page has for it.
+int HelpBrowser::UsualSide() const
+{
+    const int room = width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width() -
+                     2 * static_cast<int>(PageMargin);
+    return std::clamp(room, 1, HelpPictureSide);
+}
+
 // The picture in the form for the window's colours, at the size that the zoom asks for, in the
 // pixels of the screen.
 QVariant HelpBrowser::Picture(const QUrl &name) const
@@ -115,8 +126,8 @@ QVariant HelpBrowser::Picture(const QUrl &name) const
     const QUrl form = IsDark() && !isOnPaper ? QUrl(DarkFormOf(name.toString())) : name;
     QImage picture = QImage::fromData(engine.fileData(form)).convertToFormat(QImage::Format_RGB32);
     const double ratio = devicePixelRatioF();
-    const double scale = ratio * (1 + zoom * PictureStep) / HelpPictureRatio;
-    picture = picture.scaledToWidth(static_cast<int>(std::lround(picture.width() * scale)),
+    const double side = UsualSide() * (1 + zoom * PictureStep);
+    picture = picture.scaledToWidth(static_cast<int>(std::lround(side * ratio)),
                                     Qt::SmoothTransformation);
     picture.setDevicePixelRatio(ratio);
     return picture;
@@ -130,13 +141,15 @@ void HelpBrowser::LoadAgain()
     verticalScrollBar()->setValue(place);
 }
 
-// Another screen or other colours of the desktop want other pictures.
+// Another screen, other colours of the desktop or a narrower page want other pictures.
 void HelpBrowser::paintEvent(QPaintEvent *event)
 {
     QTextBrowser::paintEvent(event);
-    if (pictureRatio != devicePixelRatioF() || pictureDark != IsDark()) {
+    if (pictureRatio != devicePixelRatioF() || pictureDark != IsDark() ||
+        pictureSide != UsualSide()) {
         pictureRatio = devicePixelRatioF();
         pictureDark = IsDark();
+        pictureSide = UsualSide();
         Later(this, &HelpBrowser::LoadAgain);
     }
 }

@@ -37,6 +37,7 @@ protected:
 private:
     [[nodiscard]] QVariant Picture(const QUrl &name) const;
     [[nodiscard]] bool IsDark() const;
+    [[nodiscard]] int UsualSide() const;
     void LoadAgain();
 
     const QHelpEngineCore &engine;
@@ -44,6 +45,7 @@ private:
     // What the pictures on view were made for.
     double pictureRatio = 0;
     bool pictureDark = false;
+    int pictureSide = 0;    // before the zoom
     bool isOnPaper = false; // while the page is being printed
 };
 

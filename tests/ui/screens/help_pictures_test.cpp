@@ -112,6 +112,15 @@ struct HelpView : ::testing::Test {
         return window;
     }
 
+    // All pages of the help.
+    static QList<QUrl> Pages()
+    {
+        const std::unique_ptr<HelpCollection> help = OpenHelp(HelpFolder());
+        return help != nullptr ? help->Engine->files(QStringLiteral("kelvarine"), QStringList(),
+                                                     QStringLiteral("html"))
+                               : QList<QUrl>();
+    }
+
     // The picture as the page shows it.
     static QImage PictureOnView(const QString &name)
     {
@@ -211,10 +220,10 @@ TEST_F(HelpPictures, TheWholeHelpStaysBelowSixMegabytes)
     EXPECT_LT(QFileInfo(HelpFolder() + QStringLiteral("kelvarine.qch")).size(), 6'000'000);
 }
 
-TEST_F(HelpView, NothingEmptyStandsBelowAPicture)
+// How many pictures the page on view has; each fills its block of the page.
+int ExpectPicturesWithoutStripes(const HelpBrowser &browser)
 {
-    HelpWindow *window = Show(QStringLiteral("naked-pair.html"));
-    QTextDocument *document = window->Browser->document();
+    const QTextDocument *document = browser.document();
     int pictures = 0;
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         if (block.text().contains(QChar::ObjectReplacementCharacter)) {
@@ -224,13 +233,55 @@ TEST_F(HelpView, NothingEmptyStandsBelowAPicture)
             EXPECT_LE(height, PictureSide + 24);
         }
     }
-    EXPECT_EQ(pictures, 3);
+    return pictures;
 }
 
-TEST_F(HelpView, PictureFitsIntoTheFirstWindow)
+TEST_F(HelpView, NothingEmptyStandsBelowAPicture)
 {
-    const HelpWindow *window = Show(QStringLiteral("naked-pair.html"));
-    EXPECT_FALSE(window->Browser->horizontalScrollBar()->isVisible());
+    const HelpWindow *window = Show(QStringLiteral("index.html"));
+    int pictures = 0;
+    for (const QUrl &page : Pages()) {
+        SCOPED_TRACE(page.fileName().toStdString());
+        window->Browser->setSource(page);
+        pictures += ExpectPicturesWithoutStripes(*window->Browser);
+    }
+    EXPECT_EQ(pictures, 3 * 18 + 11);
+}
+
+// At the size at which the window opens, and at the smallest that it can be given.
+TEST_F(HelpView, NoPageScrollsSideways)
+{
+    HelpWindow *window = Show(QStringLiteral("naked-pair.html"));
+    const QScrollBar *bar = window->Browser->horizontalScrollBar();
+    const QUrl first = window->Browser->source();
+    const QList<QUrl> all = Pages();
+    EXPECT_GT(all.size(), 50);
+    for (const QSize size : {window->size(), QSize(1, 1)}) {
+        window->Browser->setSource(first);
+        window->resize(size);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return bar->maximum() == 0; }, Patience))
+            << "the page on view";
+        for (const QUrl &page : all) {
+            window->Browser->setSource(page);
+            QCoreApplication::processEvents();
+            EXPECT_EQ(bar->maximum(), 0)
+                << page.fileName().toStdString() << " at " << window->width();
+        }
+    }
+    EXPECT_LT(window->width(), 800) << "a small screen";
+}
+
+// What a narrow page has made smaller is back at its size when there is room.
+TEST_F(HelpView, PictureFollowsTheWindow)
+{
+    const QString name = QStringLiteral("naked-pair.png");
+    HelpWindow *window = Show(QStringLiteral("naked-pair.html"));
+    const QSize before = window->size();
+    const int side = PictureOnView(name).width();
+    window->resize(1, 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return PictureOnView(name).width() < side; }, Patience));
+    window->resize(before);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return PictureOnView(name).width() == side; }, Patience));
 }
 
 TEST_F(HelpView, DarkWindowShowsTheDarkForm)
