@@ -1,9 +1,8 @@
-// Makes what the pages of the help cannot hold as words: the table of keys, from the table that the
-// menus are built from, the reference, from menus and other pages, and the examples of techniques
-// and lessons, drawn by what the game's own hint marks and says. Run by the build.
+// Makes what the pages of the help cannot hold as words: tables of keys, from the table that the
+// menus are built from and from other pages, and the examples of techniques and lessons, drawn by
+// what the game's own hint marks and says. Run by the build.
 //
-//   make_help keyboard PAGE OUTPUT            PAGE with the table of keys in place of @KEYS@
-//   make_help reference PAGE OUTPUT           PAGE with tables of menus and of the pages beside it
+//   make_help tables PAGE OUTPUT              PAGE with tables of menus and of the pages beside it
 //   make_help example PAGE FRAMES OUTPUT      PAGE with frames of that folder filled in, and beside
 //                                             OUTPUT the pictures of the page's positions with the
 //                                             first hint on each, in a light and a dark form
@@ -39,6 +38,7 @@ namespace {
 constexpr std::int32_t FirstStage = 3; // of a hint
 constexpr std::int32_t FullHint = 5;
 constexpr std::size_t MostSteps = 20; // of a game that is played to its end
+constexpr std::string_view AllMenus = "all";
 
 [[noreturn]] void Fail(const std::string &words)
 {
@@ -113,7 +113,7 @@ std::string Range(std::string_view text, const MenuRow &row)
     return first == last ? first : first + " to " + last;
 }
 
-// The keys of one menu, by its name in the table, or of all when only is empty.
+// The keys of one menu, by its name in the table, or of all menus.
 std::string KeyTableHtml(std::string_view only)
 {
     std::string html;
@@ -123,7 +123,7 @@ std::string KeyTableHtml(std::string_view only)
     for (const MenuRow &row : MenuTable) {
         if (row.Level == 1) {
             menu = Words(row.Caption);
-            wanted = only.empty() || only == row.Name;
+            wanted = only == AllMenus || only == row.Name;
         }
         if (row.Level < 3) {
             submenu = row.Run == nullptr ? Words(row.Caption) + ": " : "";
@@ -142,16 +142,9 @@ std::string KeyTableHtml(std::string_view only)
     return "<table class=\"keys\">\n" + html + "</table>\n";
 }
 
-void MakeKeyboardPage(const std::string &page, const std::string &output)
-{
-    std::string text = ReadText(page);
-    Fill(text, "@KEYS@", KeyTableHtml({}));
-    WriteText(output, text);
-}
+// ---- Tables of other pages -------------------------------------------------------------------
 
-// ---- The reference ---------------------------------------------------------------------------
-
-// A table of another page beside the reference, the first being 1.
+// A table of a page, the first being 1.
 std::string TableOf(const std::string &page, int which)
 {
     const std::string text = ReadText(page);
@@ -167,7 +160,8 @@ std::string TableOf(const std::string &page, int which)
     return text.substr(start, end - start + closing.size());
 }
 
-// "@menu mnuGame@" becomes the keys of that menu, "@toolbar 1@" the first table of that page.
+// "@menu mnuGame@" becomes the keys of that menu, "@menu all@" those of all, and "@toolbar 1@" the
+// first table of that page.
 std::string Inset(const std::string &folder, const std::string &mark)
 {
     const std::size_t blank = mark.find(' ');
@@ -177,7 +171,7 @@ std::string Inset(const std::string &folder, const std::string &mark)
                           : TableOf(folder + '/' + name + ".html", std::stoi(argument));
 }
 
-void MakeReference(const std::string &page, const std::string &output)
+void FillTables(const std::string &page, const std::string &output)
 {
     const std::string folder = QFileInfo(QString::fromStdString(page)).path().toStdString();
     std::string text = ReadText(page);
@@ -377,19 +371,15 @@ int Run(std::span<char *> arguments)
 {
     SetDefaults();
     const std::string_view kind = arguments.size() > 1 ? arguments[1] : "";
-    if (kind == "keyboard" && arguments.size() == 4) {
-        MakeKeyboardPage(arguments[2], arguments[3]);
-        return EXIT_SUCCESS;
-    }
-    if (kind == "reference" && arguments.size() == 4) {
-        MakeReference(arguments[2], arguments[3]);
+    if (kind == "tables" && arguments.size() == 4) {
+        FillTables(arguments[2], arguments[3]);
         return EXIT_SUCCESS;
     }
     if (kind == "example" && arguments.size() == 5) {
         MakeExamplePage(arguments[2], arguments[3], arguments[4]);
         return EXIT_SUCCESS;
     }
-    Fail("keyboard PAGE OUTPUT, reference PAGE OUTPUT, or example PAGE FRAMES OUTPUT");
+    Fail("tables PAGE OUTPUT, or example PAGE FRAMES OUTPUT");
 }
 
 } // namespace

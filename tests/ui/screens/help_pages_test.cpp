@@ -1,5 +1,6 @@
 // What the pages of the help promise, held against the game.
 #include "commands/text_commands.h"
+#include "files/file_dialog.h"
 #include "files/text_format.h"
 #include "game/alert_scan.h"
 #include "grid/grid.h"
@@ -10,13 +11,21 @@
 #include "input/toolbar.h"
 #include "logic/technique_table.h"
 #include "outside/clipboard.h"
+#include "outside/help.h"
 #include "support/positions.h"
 #include "support/widget_program.h"
+#include "ui/screens/file_dialog_qt.h"
 #include "ui/screens/help_collection.h"
+#include "ui/screens/help_window.h"
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QFile>
 #include <QHelpLink>
+#include <QLabel>
 #include <QRegularExpression>
+#include <QShortcut>
+#include <QTabBar>
 #include <gtest/gtest.h>
 
 #include <map>
@@ -112,6 +121,50 @@ QString KeyName(std::int32_t code)
     }
     const bool letter = code >= 'A' && code <= 'Z';
     return letter ? QString(QChar(static_cast<char16_t>(code))) : QString();
+}
+
+// Whether the first cells of rows of tables name a key.
+bool NamesKey(const QString &cells, const QString &key)
+{
+    return cells.contains(QRegularExpression(
+        QStringLiteral("(^|[ +,])%1($|[ ,])").arg(QRegularExpression::escape(key))));
+}
+
+// The first cells of the tables under a heading of a page.
+QString KeysUnder(const QString &page, const QString &heading)
+{
+    const QString section = page.section(QStringLiteral("<h2>%1</h2>").arg(heading), 1, 1)
+                                .section(QStringLiteral("<h2>"), 0, 0);
+    return Captures(section, "<tr><td>([^<]*)</td>").join(QStringLiteral(", "));
+}
+
+// All keys that a window and its controls listen to, of an entry with several the first.
+QStringList KeysOf(const QWidget &window)
+{
+    QList<QKeySequence> keys;
+    for (const auto *shortcut : window.findChildren<QShortcut *>()) {
+        keys += shortcut->key();
+    }
+    for (const auto *button : window.findChildren<QAbstractButton *>()) {
+        keys += button->shortcut();
+    }
+    for (const auto *action : window.findChildren<QAction *>()) {
+        keys += action->shortcut();
+    }
+    for (const auto *label : window.findChildren<QLabel *>()) {
+        keys += label->buddy() != nullptr ? QKeySequence::mnemonic(label->text()) : QKeySequence();
+    }
+    for (const auto *bar : window.findChildren<QTabBar *>()) {
+        for (int tab = 0; tab < bar->count(); ++tab) {
+            keys += QKeySequence::mnemonic(bar->tabText(tab));
+        }
+    }
+    keys.removeAll(QKeySequence());
+    QStringList names;
+    for (const QKeySequence &key : keys) {
+        names += key.toString();
+    }
+    return names;
 }
 
 } // namespace
@@ -336,11 +389,35 @@ TEST_F(HelpPages, KeyboardPageAndReferenceNameEveryKeyOfTheBoard)
             }
             const QString key = KeyName(row.Code);
             ASSERT_FALSE(key.isEmpty()) << "no name for key " << row.Code;
-            const QRegularExpression word(
-                QStringLiteral("(^|[ +,])%1($|[ ,])").arg(QRegularExpression::escape(key)));
-            EXPECT_TRUE(cells.contains(word)) << page << ' ' << key.toStdString();
+            EXPECT_TRUE(NamesKey(cells, key)) << page << ' ' << key.toStdString();
         }
     }
+}
+
+TEST_F(HelpPages, KeyboardPageNamesEveryKeyOfTheFileWindowAndOfTheHelp)
+{
+    ASSERT_NE(Help, nullptr);
+    const Program program;
+    const FileDialog dialog(program.Main.get(), SudokuFiles);
+    ShowHelpTopic(0);
+    const std::unique_ptr<HelpWindow> help(OpenHelpWindow());
+    ASSERT_NE(help, nullptr);
+    const auto expectKeys = [this](const QString &heading, const QStringList &keys) {
+        const QString cells = KeysUnder(Page(QStringLiteral("keyboard.html")), heading);
+        for (const QString &key : keys) {
+            EXPECT_TRUE(NamesKey(cells, key)) << key.toStdString();
+        }
+    };
+    const QStringList fileKeys = KeysOf(dialog);
+    EXPECT_EQ(fileKeys.size(), 11) << fileKeys.join(u' ').toStdString();
+    expectKeys(QStringLiteral("In the file window"), fileKeys);
+    // Those that the lists, the name and every such window take by themselves.
+    expectKeys(QStringLiteral("In the file window"),
+               {QStringLiteral("Backspace"), QStringLiteral("Delete"), QStringLiteral("Up"),
+                QStringLiteral("Down"), QStringLiteral("Enter"), QStringLiteral("Esc")});
+    const QStringList helpKeys = KeysOf(*help);
+    EXPECT_EQ(helpKeys.size(), 14) << helpKeys.join(u' ').toStdString();
+    expectKeys(QStringLiteral("In the help"), helpKeys);
 }
 
 TEST_F(HelpPages, ReferenceTellsEveryModeOfTheToolbarAndThePressesOfTheMouse)
