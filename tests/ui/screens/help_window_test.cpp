@@ -360,7 +360,8 @@ TEST_F(HelpWindowTest, F1WaitsWhileASearchRuns)
 TEST(ProgramIcon, HasEverySizeByItself)
 {
     const QIcon icon = ProgramIcon();
-    for (const int size : {16, 32, 48, 64, 128, 256}) {
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
+        EXPECT_TRUE(icon.availableSizes().contains(QSize(size, size))) << size;
         const QImage picture = icon.pixmap(size, size).toImage();
         ASSERT_EQ(picture.size(), QSize(size, size));
         EXPECT_EQ(picture.pixelColor(size / 2, size * 11 / 32), QColor(32, 96, 80)) << "a line";
