@@ -147,6 +147,17 @@ double RingCover(const std::vector<Colour> &column)
     return cover;
 }
 
+TEST_F(CellPicture, AlertRingHasSmoothEdges)
+{
+    UnknownCells3D = False;
+    ColourTable[UnknownCellColour] = 0x0000FF;
+    ColourTable[AlertColour] = 0xFF0000;
+    const QImage picture = CellPainted(AlertBit);
+    const Rectangle area = AreaOf(Place);
+    const int plain = CountOf(picture, area, 0x0000FF) + CountOf(picture, area, 0xFF0000);
+    EXPECT_GT(area.Width * area.Height - plain, 100);
+}
+
 TEST_F(CellPicture, AlertRingIsTwoPixelsThickInTheAlertColour)
 {
     ColourTable[UnknownCellColour] = 0x0000FF;

@@ -126,11 +126,18 @@ TEST_F(FinePixels, RuledLinesAreOfOneWidthAndEndWithTheCell)
                 EXPECT_EQ(std::set<int>(rules.begin(), rules.end()), std::set<int>{pen}) << ratio;
             }
             // A line of the grid is of its own colour all along.
-            const int x = DeviceX(canvas, CellX(2)) - 1;
             const int bottom = DeviceY(canvas, CellY(3) + CellHeight);
-            const auto along = ColumnOf(board, x, DeviceY(canvas, CellY(1)), bottom - 1);
-            EXPECT_EQ(std::set<Colour>(along.begin(), along.end()), std::set<Colour>{Line})
-                << ratio;
+            for (int x = DeviceX(canvas, CellX(1) + side); x < DeviceX(canvas, CellX(2)); ++x) {
+                const auto along = ColumnOf(board, x, DeviceY(canvas, CellY(1)), bottom - 1);
+                EXPECT_EQ(std::set<Colour>(along.begin(), along.end()), std::set<Colour>{Line})
+                    << ratio;
+            }
+            const int right = DeviceX(canvas, CellX(3) + CellWidth);
+            for (int y = DeviceY(canvas, CellY(1) + side); y < DeviceY(canvas, CellY(2)); ++y) {
+                const auto along = RowOf(board, y, DeviceX(canvas, CellX(1)), right - 1);
+                EXPECT_EQ(std::set<Colour>(along.begin(), along.end()), std::set<Colour>{Line})
+                    << ratio;
+            }
         }
     }
 }
