@@ -81,7 +81,7 @@ void BoardTouch::Join(const QTouchEvent &event)
         return; // it asks once for both fingers
     }
     for (const QEventPoint &point : event.points()) {
-        Press(LeftButton, held | CtrlKey, point.position());
+        Press(LeftButton, CtrlKey, point.position());
     }
 }
 

@@ -109,6 +109,13 @@ TEST_F(BoardTouch, SelectsWhenTheFingerIsLifted)
     EXPECT_EQ(Selected(), "3/4 ");
     Tap(CentreOf(5, 6));
     EXPECT_EQ(Selected(), "5/6 ");
+}
+
+TEST_F(BoardTouch, TakesTheKeyboardToTheBoard)
+{
+    ToolButtonOf(*program.Main, EditButton)->setFocus();
+    ASSERT_FALSE(Board()->hasFocus());
+    Tap(CentreOf(5, 6));
     EXPECT_TRUE(Board()->hasFocus());
 }
 
