@@ -103,6 +103,31 @@ TEST_F(CoordinatesTabTest, SampleIsATableOfNineByNineWithDoubledBoxBorders)
     }
 }
 
+// The part of a cell of the table that its name takes.
+QRect LettersIn(const QImage &table, int column, int row)
+{
+    QRect letters;
+    for (int x = 41 * column - 38; x < 41 * column - 1; ++x) {
+        for (int y = 36 * row - 33; y < 36 * row - 1; ++y) {
+            if (qGray(table.pixel(x, y)) < 128) {
+                letters |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return letters;
+}
+
+TEST_F(CoordinatesTabTest, NamesStandUnderTheirColumns)
+{
+    Open(CoordinatesTab);
+    ASSERT_EQ(CellName(9, 5), "[J5]");
+    const QImage table = Sample();
+    for (int row = 1; row <= 9; ++row) {
+        EXPECT_LT(LettersIn(table, 9, row).width() + 2, LettersIn(table, 8, row).width())
+            << "a J is narrower than an H, in row " << row;
+    }
+}
+
 TEST_F(CoordinatesTabTest, EveryNameStandsInTheMiddleOfItsCell)
 {
     Open(CoordinatesTab);
@@ -114,14 +139,7 @@ TEST_F(CoordinatesTabTest, EveryNameStandsInTheMiddleOfItsCell)
         const QImage table = Sample();
         for (int column = 1; column <= 9; ++column) {
             for (int row = 1; row <= 9; ++row) {
-                QRect letters;
-                for (int x = 41 * column - 38; x < 41 * column - 1; ++x) {
-                    for (int y = 36 * row - 33; y < 36 * row - 1; ++y) {
-                        if (qGray(table.pixel(x, y)) < 128) {
-                            letters |= QRect(x, y, 1, 1);
-                        }
-                    }
-                }
+                const QRect letters = LettersIn(table, column, row);
                 EXPECT_FALSE(letters.isEmpty()) << column << ' ' << row;
                 EXPECT_LE(std::abs(letters.center().x() - (41 * column - 20)), 3);
                 EXPECT_LE(std::abs(letters.center().y() - (36 * row - 17)), 4);

@@ -15,6 +15,8 @@
 #include <QLineEdit>
 #include <QMenu>
 
+#include <algorithm>
+
 namespace kelvarine::testing {
 namespace {
 
@@ -179,6 +181,21 @@ TEST_F(LogicTabTest, SelectAllButtons)
     EXPECT_EQ(PaintedNow(), before);
     Click("chkShowConflicts2");
     EXPECT_EQ(AlertMask, 0x4U) << "the guard is off again";
+}
+
+TEST_F(LogicTabTest, SelectAllButtonsSayWhatTheyDo)
+{
+    Open(LogicTab);
+    for (const auto &[words, name] : {std::pair("Select all", "cmdSelectAllSolves"),
+                                      std::pair("De-select all", "cmdDeselectAllSolves")}) {
+        const auto *button = Find<QAbstractButton>(name);
+        const QList<QLabel *> labels = button->parentWidget()->findChildren<QLabel *>();
+        const auto label = std::ranges::find(labels, QString(words), &QLabel::text);
+        ASSERT_NE(label, labels.end()) << words;
+        EXPECT_TRUE((*label)->isVisible());
+        EXPECT_EQ((*label)->x(), button->x());
+        EXPECT_LE((*label)->geometry().bottom(), button->y());
+    }
 }
 
 TEST_F(LogicTabTest, SelectingAllAlertsWritesOnceAndNotBoxByBox)

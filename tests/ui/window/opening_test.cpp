@@ -27,6 +27,8 @@ TEST(Opening, WindowLargerThanTheScreenIsMadeToFit)
         window.show();
         EXPECT_TRUE(QRect({}, screen).contains(QRect({}, window.size()))) << "at once";
         EXPECT_TRUE(ComesToFit(window));
+        EXPECT_EQ(window.frameGeometry().size(), size.boundedTo(screen))
+            << "no smaller than it must be";
     }
     program.Main->hide();
     program.Main->resize(2 * screen);
