@@ -212,6 +212,7 @@ void Turn()
         CallFromEventLoop(ApplyLogicForLong); // not from here, for the turns go on meanwhile
         return;
     }
+    TellState(); // what a run has left
     PlayOn();
     TellState();
 }
