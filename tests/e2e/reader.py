@@ -55,8 +55,11 @@ class Reader:
         def there():
             self.ear.pump()
             self.ear.application.clearCache()
-            return next((one for one in self.ear.application
-                         if one and one.name == title and one != beside), None)
+            try:
+                return next((one for one in self.ear.application
+                             if one and one.name == title and one != beside), None)
+            except Exception:  # a box that closes meanwhile, told by an error of the bindings
+                return None
         return wait_for(there, f"a window called {title}")
 
     def name(self, item):
