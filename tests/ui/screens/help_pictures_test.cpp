@@ -134,16 +134,28 @@ struct HelpView : ::testing::Test {
 
 } // namespace
 
-// Every cell that holds a number or a pencilmark on the board shows it large and strong enough.
+// The room of a pencilmark in a cell of a picture: every number has a place of its own.
+QRect MarkOf(QRect cell, int number)
+{
+    const int side = HelpPictureRatio * PictureCellSide / 3;
+    return QRect(cell.x() - 2 + (number - 1) % 3 * side, cell.y() - 2 + (number - 1) / 3 * side,
+                 side, side)
+        .intersected(cell);
+}
+
+// Every number and every pencilmark on the board is large and strong enough in the picture.
 void ExpectNumbersToStandOut(const QImage &picture)
 {
     ASSERT_EQ(picture.width(), HelpPictureRatio * PictureSide);
-    for (int column = 1; column <= 9; ++column) {
-        for (int line = 1; line <= 9; ++line) {
-            if (CountCandidates(column, line) > 0) {
-                const QRect cell = CellOf(column, line);
-                const QRect ink = InkOf(picture, cell, GroundOf(picture, cell), 3);
-                EXPECT_GE(ink.height(), 14 * HelpPictureRatio) << column << ' ' << line;
+    for (const Cell where : Cells) {
+        const QRect cell = CellOf(where.Column, where.Row);
+        const QColor ground = GroundOf(picture, cell);
+        for (int number = 1; number <= 9; ++number) {
+            if ((WordAt(where) & BitTable[static_cast<std::size_t>(number)]) != 0) {
+                const bool alone = CountCandidates(where.Column, where.Row) == 1;
+                const QRect ink = InkOf(picture, alone ? cell : MarkOf(cell, number), ground, 3);
+                EXPECT_GE(ink.height(), 14 * HelpPictureRatio)
+                    << where.Column << ' ' << where.Row << ' ' << number;
             }
         }
     }
