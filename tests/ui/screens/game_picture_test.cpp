@@ -34,6 +34,7 @@ TEST(GamePictureTest, ShowsTheNumbersInTheirCellsAndNoPencilmarks)
     StartGame(NewGame);
     folder.Write("game.sdk", GameFileBytes());
     GamePicture view(nullptr);
+    EXPECT_EQ(view.accessibleName(), "Selected game");
     view.resize(view.sizeHint());
     view.ShowFile(folder.Path("game.sdk"));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !view.Words().isEmpty(); }, Patience));
