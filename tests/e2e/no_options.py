@@ -5,16 +5,17 @@ nothing where there is no sound."""
 import subprocess
 import sys
 
-from desktop import Desktop, expect
+from desktop import Desktop, expect, wait_for
 from game import Configure, Game
 
 
 def refused(desktop, program):
     for words in ["--help"], ["-platform", "offscreen"], ["game.sdk", "-x"], ["-"]:
-        done = subprocess.run([program, *words], env=desktop.environment, stderr=subprocess.PIPE,
-                              check=False)
-        expect(done.returncode == 2, f"{words} are refused")
-        expect(b"kelvarine [file]" in done.stderr, "the one way to start is told")
+        process = desktop.start([program, *words], stderr=subprocess.PIPE)
+        wait_for(lambda started=process: started.poll() is not None
+                 or desktop.windows("^Kelvarine"), "an end or a window")
+        expect(process.poll() == 2, f"{words} are refused, and no window opens")
+        expect(b"kelvarine [file]" in process.stderr.read(), "the one way to start is told")
     expect(not desktop.files(), "nothing has started")
 
 
