@@ -113,6 +113,42 @@ def sign_that_stuck(desktop, game):
             expect(cell(game, 3, 1) == "3", f"{name}, {box}: a press places the number alone")
 
 
+def toolbar_picture(game):
+    top = game.board().top
+    return game.picture().crop((0, top - TOOLBAR, 700, top - 4)).tobytes()
+
+
+def leave_for(desktop, game, other):
+    """Gives the keyboard to another program's window. The toolkit takes no note of that for a moment,
+    in case it comes straight back; two ticks of the clock are longer."""
+    desktop.focus(other)
+    game.wait_for_a_tick()
+    game.wait_for_a_tick()
+
+
+def held_elsewhere(desktop, game):
+    """What is pressed and let go over another program's window nobody tells this one."""
+    window = desktop.root.create_window(0, 0, 60, 40, 0, X.CopyFromParent)
+    window.map()
+    other = str(window.id)
+    wait_for(lambda: other in desktop.managed_windows(), "the other window")
+    game.click(3, 1)  # takes the pointer off the toolbar
+    plain = toolbar_picture(game)
+    for modifier in "shift", "ctrl":
+        leave_for(desktop, game, other)
+        desktop.xdotool("keydown", modifier)
+        game.focus()
+        expect(toolbar_picture(game) != plain,
+               f"{modifier}, held when the window gets the keyboard, shows its sign")
+        leave_for(desktop, game, other)
+        desktop.xdotool("keyup", modifier)
+        game.focus()
+        expect(toolbar_picture(game) == plain, "which goes when it has come up elsewhere")
+    window.destroy()
+    desktop.server.sync()
+    game.focus()
+
+
 def modifiers_alone(desktop, game):
     game.click(3, 1)
     desktop.key("5", "Tab", "Tab", "Tab", "shift+Tab")
@@ -136,10 +172,13 @@ def boxes_of_screens(desktop, game):
         known = [game.window, screen]
         box = wait_for(lambda: next((w for w in desktop.managed_windows() if w not in known), None),
                        "the box of the screen")
+        owner = desktop.is_box(box)
+        expect(owner and str(owner.id) == screen, f"{title}: its box stands over it")
         desktop.focus(box)
         desktop.key("Escape")
         desktop.gone(box)
-        wait_for(lambda: desktop.focused() == screen, "the screen to be in front again")
+        wait_for(lambda: desktop.focused() in known, "a window to be in front again")
+        expect(desktop.focused() == screen, "that is the screen that asked")
         selected = [game.board().fill(*place) == SELECTED_FILL for place in ((3, 1), (9, 9))]
         desktop.key("Escape")
         desktop.gone(screen)
@@ -195,6 +234,7 @@ def main():
         open_late(desktop, game)
         pause(desktop, game)
         sign_that_stuck(desktop, game)
+        held_elsewhere(desktop, game)
         modifiers_alone(desktop, game)
         boxes_of_screens(desktop, game)
         start_with_screens(desktop, program, game)
