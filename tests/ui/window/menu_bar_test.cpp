@@ -237,6 +237,33 @@ TEST_F(BarOnView, ClosedMenuGivesTheKeyboardToTheBoard)
     }
 }
 
+// The toolkit would give the keyboard back to whatever had it before the walk.
+TEST_F(BarOnView, ClosedMenuGivesTheKeyboardToTheBoardFromAButtonToo)
+{
+    const auto press = [this](Qt::Key key) {
+        Press(key);
+    };
+    const auto clickOutside = [](Qt::Key /*key*/) {
+        SendMouse(QApplication::activePopupWidget(), QEvent::MouseButtonPress, {-5, 300},
+                  Qt::LeftButton, Qt::LeftButton);
+    };
+    const std::pair<std::function<void(Qt::Key)>, Qt::Key> ways[] = {
+        {press, Qt::Key_Escape}, // left
+        {press, Qt::Key_Return}, // an entry chosen: Pause
+        {clickOutside, Qt::Key_unknown}};
+    for (const auto &[close, key] : ways) {
+        ToolButtonOf(*program.Main, 3)->setFocus(Qt::TabFocusReason);
+        Press(Qt::Key_G, Qt::AltModifier);
+        Press(Qt::Key_Left);
+        ASSERT_EQ(Opened(), "mnuTime");
+        close(key);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(Opened(), "none") << key;
+        EXPECT_EQ(Chosen(), "none") << key;
+        EXPECT_EQ(program.Main->focusWidget(), Board()) << key;
+    }
+}
+
 TEST_F(BarOnView, ToolsFindTheClockAndItsEntries)
 {
     ClockTick();
