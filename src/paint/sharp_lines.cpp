@@ -16,8 +16,7 @@ struct Direction {
 // Device pixel at which a logical one begins. The toolkit cuts widgets in the same way.
 int Edge(const Direction &direction, int position)
 {
-    return static_cast<int>(std::lround(direction.Origin) +
-                            std::lround(position * direction.Ratio));
+    return static_cast<int>(std::lround(direction.Origin + position * direction.Ratio));
 }
 
 // Never more than what is left behind an edge for so many logical pixels.

@@ -12,6 +12,12 @@ namespace {
 
 constexpr std::array Ratios{1.0, 1.25, 1.5, 1.75, 2.0, 3.0};
 
+// Device pixel at which a logical one of the window begins, as the toolkit cuts widgets.
+int DevicePixel(double ratio, int position)
+{
+    return static_cast<int>(std::lround(position * ratio));
+}
+
 // Paints on a white picture of 100 by 100 logical pixels at a ratio, as a widget that stands at a
 // point of its window does.
 template <typename Paint>
@@ -69,10 +75,11 @@ TEST(SharpLines, ReachFromEdgeToEdge)
         const QImage picture = PaintedAt(ratio, {3, 5}, [](QPainter &painter) {
             DrawLineDown(painter, {0, 0, 60, 40}, 10, 1, Qt::black);
         });
-        const int x = static_cast<int>(std::lround(3 * ratio) + std::lround(10 * ratio));
-        const int height = static_cast<int>(std::lround(40 * ratio));
+        const int x = DevicePixel(ratio, 3 + 10);
+        const int top = DevicePixel(ratio, 5);
+        const int height = DevicePixel(ratio, 5 + 40) - top;
         EXPECT_EQ(BlackRuns(ColumnOf(picture, x, 0, picture.height() - 1)), std::vector{height});
-        EXPECT_EQ(PixelAt(picture, x, static_cast<int>(std::lround(5 * ratio))), 0U) << ratio;
+        EXPECT_EQ(PixelAt(picture, x, top), 0U) << ratio;
     }
 }
 
@@ -82,10 +89,10 @@ TEST(SharpLines, FrameHasFourSidesOfOneWidth)
         const QImage picture = PaintedAt(ratio, {3, 5}, [](QPainter &painter) {
             DrawSharpFrame(painter, {0, 0, 33, 51}, Qt::black);
         });
-        const int left = static_cast<int>(std::lround(3 * ratio));
-        const int top = static_cast<int>(std::lround(5 * ratio));
-        const int width = static_cast<int>(std::lround(33 * ratio));
-        const int height = static_cast<int>(std::lround(51 * ratio));
+        const int left = DevicePixel(ratio, 3);
+        const int top = DevicePixel(ratio, 5);
+        const int width = DevicePixel(ratio, 3 + 33) - left;
+        const int height = DevicePixel(ratio, 5 + 51) - top;
         const int side = static_cast<int>(ratio);
         EXPECT_EQ(CountOf(picture, {left, top, width, height}, 0),
                   2 * side * (width + height - 2 * side))

@@ -3,9 +3,11 @@
 #include "game/screens.h"
 #include "support/widget_configure.h"
 #include "support/widget_events.h"
+#include "support/widget_ratio.h"
 #include "ui/configure/tab_strip.h"
 #include "ui/controls/level_label.h"
 #include "ui/controls/preset_pictures.h"
+#include "ui/controls/print_preview.h"
 
 #include <QImage>
 
@@ -63,6 +65,25 @@ TEST_F(PaintedControls, PreviewIsFramedAllRoundAtEveryRatio)
         EXPECT_EQ(Edges(preview), std::vector<Colour>(4, 0x808080)) << ratio;
         EXPECT_EQ(Edges(preview, thickness - 1), std::vector<Colour>(4, 0x808080)) << ratio;
         EXPECT_EQ(Edges(preview, thickness), std::vector<Colour>(4, 0xFFFFFF)) << ratio;
+    }
+}
+
+TEST_F(PaintedControls, PreviewIsFramedAllRoundAtEveryPlaceOfItsWindow)
+{
+    Open(PrintTab); // which leaves the edges of the page white
+    QWidget window;
+    PrintPreview preview(&window);
+    window.resize(preview.size() + QSize(8, 8));
+    for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0, 3.0}) {
+        for (const QPoint place : {QPoint(0, 0), QPoint(1, 2), QPoint(2, 1), QPoint(3, 3)}) {
+            preview.move(place);
+            const QImage picture = PictureInWindow(preview, ratio);
+            const int thickness = static_cast<int>(ratio);
+            SCOPED_TRACE(::testing::Message() << ratio << " at " << place.x());
+            EXPECT_EQ(Edges(picture), std::vector<Colour>(4, 0x808080));
+            EXPECT_EQ(Edges(picture, thickness - 1), std::vector<Colour>(4, 0x808080));
+            EXPECT_EQ(Edges(picture, thickness), std::vector<Colour>(4, 0xFFFFFF));
+        }
     }
 }
 

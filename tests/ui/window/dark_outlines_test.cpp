@@ -1,3 +1,4 @@
+#include "support/widget_ratio.h"
 #include "ui/window/dark_outlines.h"
 
 #include <QApplication>
@@ -79,23 +80,28 @@ TEST_F(DarkOutlines, AreTheToolkitsOwnOnALightWindow)
     EXPECT_EQ(Boxes(LightWindow), before);
 }
 
-// The style loses sides of a frame where a pixel of its own is no whole number of the screen's.
-TEST_F(DarkOutlines, FrameAListOnAllSidesAtEveryRatio)
+// The style loses sides of a frame where a pixel of its own is no whole number of the screen's, or
+// where the list begins between two of the screen's.
+TEST_F(DarkOutlines, FrameAListOnAllSidesAtEveryRatioAndPlace)
 {
     LightenDarkOutlines();
-    QPlainTextEdit list;
+    QWidget window;
+    window.resize(100, 80);
+    QPlainTextEdit list(&window);
     list.resize(91, 71);
     for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0}) {
-        QImage picture((QSizeF(list.size()) * ratio).toSize(), QImage::Format_RGB32);
-        picture.setDevicePixelRatio(ratio);
-        list.render(&picture);
-        const int right = picture.width() - 1;
-        const int bottom = picture.height() - 1;
-        const QRgb frame = picture.pixel(right / 2, 0);
-        EXPECT_NE(frame, picture.pixel(right / 2, bottom / 2)) << ratio;
-        EXPECT_EQ(picture.pixel(right / 2, bottom), frame) << ratio;
-        EXPECT_EQ(picture.pixel(0, bottom / 2), frame) << ratio;
-        EXPECT_EQ(picture.pixel(right, bottom / 2), frame) << ratio;
+        for (const QPoint place : {QPoint(0, 0), QPoint(1, 2), QPoint(2, 1), QPoint(3, 3)}) {
+            list.move(place);
+            const QImage picture = PictureInWindow(list, ratio);
+            const int right = picture.width() - 1;
+            const int bottom = picture.height() - 1;
+            const QRgb frame = picture.pixel(right / 2, 0);
+            SCOPED_TRACE(::testing::Message() << ratio << " at " << place.x());
+            EXPECT_NE(frame, picture.pixel(right / 2, bottom / 2));
+            EXPECT_EQ(picture.pixel(right / 2, bottom), frame);
+            EXPECT_EQ(picture.pixel(0, bottom / 2), frame);
+            EXPECT_EQ(picture.pixel(right, bottom / 2), frame);
+        }
     }
 }
 
