@@ -15,6 +15,10 @@
 #include <QtTest>
 #include <gtest/gtest.h>
 
+#include <array>
+#include <functional>
+#include <utility>
+
 namespace kelvarine::testing {
 namespace {
 
@@ -247,10 +251,10 @@ TEST_F(BarOnView, ClosedMenuGivesTheKeyboardToTheBoardFromAButtonToo)
         SendMouse(QApplication::activePopupWidget(), QEvent::MouseButtonPress, {-5, 300},
                   Qt::LeftButton, Qt::LeftButton);
     };
-    const std::pair<std::function<void(Qt::Key)>, Qt::Key> ways[] = {
-        {press, Qt::Key_Escape}, // left
-        {press, Qt::Key_Return}, // an entry chosen: Pause
-        {clickOutside, Qt::Key_unknown}};
+    using Way = std::pair<std::function<void(Qt::Key)>, Qt::Key>;
+    const std::array ways{Way{press, Qt::Key_Escape}, // left
+                          Way{press, Qt::Key_Return}, // an entry chosen: Pause
+                          Way{clickOutside, Qt::Key_unknown}};
     for (const auto &[close, key] : ways) {
         ToolButtonOf(*program.Main, 3)->setFocus(Qt::TabFocusReason);
         Press(Qt::Key_G, Qt::AltModifier);
