@@ -10,6 +10,7 @@
 #include "support/outside_double.h"
 #include "support/play.h"
 #include "support/positions.h"
+#include "support/quick_fields.h"
 #include "support/random_fields.h"
 
 #include <gtest/gtest.h>
@@ -68,6 +69,33 @@ TEST_F(FillingRuns, LeaveWhatTheWalkLeaves)
         }
     }
     EXPECT_GT(Ended, 2 * fields);
+}
+
+// The count alone, on fields that are drawn quickly enough for millions.
+TEST_F(FillingRuns, CountAsTheWalkOnFieldsOfEveryDensity)
+{
+    constexpr std::int64_t mostPasses = 200;
+    QuickFields fields(29);
+    const std::int64_t count = FieldsToCompare(100'000);
+    for (std::int64_t round = 0; round < count; ++round) {
+        SetField(fields.Next());
+        const GridTable start = Grid;
+        SolveMask = CountingMask;
+        Seen.Yields = 0;
+        ApplyLogicWithin(mostPasses, CountSolutions);
+        if (Seen.Yields > mostPasses) {
+            continue; // it has not come to its end
+        }
+        ++Ended;
+        const std::int32_t walked = SolutionCount;
+        const GridTable left = Grid;
+        Grid = start;
+        RunByFillings(CountSolutions);
+        ASSERT_EQ(SolutionCount, walked) << "round " << round;
+        ASSERT_EQ(Grid, left) << "round " << round;
+    }
+    EXPECT_GT(Ended, count / 2);
+    RecordProperty("compared", std::to_string(Ended));
 }
 
 TEST_F(FillingRuns, AreTheWalkWhereItCountsWhatIsNoFilling)
