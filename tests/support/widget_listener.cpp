@@ -38,11 +38,14 @@ std::string KindOf(QAccessible::Event kind)
     }
 }
 
+// Where a cell of a table stands, in the names of the board; nothing for what heads a line.
 std::string PlaceOf(QAccessibleInterface &item)
 {
     const QAccessibleTableCellInterface *cell = item.tableCellInterface();
-    return cell == nullptr ? std::string()
-                           : CellName(cell->columnIndex() + 1, cell->rowIndex() + 1) + " ";
+    if (cell == nullptr || cell->columnIndex() < 0 || cell->rowIndex() < 0) {
+        return {};
+    }
+    return CellName(cell->columnIndex() + 1, cell->rowIndex() + 1) + " ";
 }
 
 void Note(const QAccessibleEvent &event)
