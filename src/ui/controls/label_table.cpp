@@ -69,13 +69,16 @@ void LabelTable::GoTo(TablePlace place)
 
 void LabelTable::TellTexts()
 {
-    for (int child = 0; child < told.size(); ++child) {
-        const QString text = At({child / Columns(), child % Columns()})->text();
-        if (told[child] != text) {
-            told[child] = text;
-            QAccessibleEvent event(this, QAccessible::NameChanged);
-            event.setChild(child);
-            QAccessible::updateAccessibility(&event);
+    int child = 0;
+    for (int row = 0; row < Rows(); ++row) {
+        for (int column = 0; column < Columns() && child < told.size(); ++column, ++child) {
+            const QString text = At({row, column})->text();
+            if (told[child] != text) {
+                told[child] = text;
+                QAccessibleEvent event(this, QAccessible::NameChanged);
+                event.setChild(child);
+                QAccessible::updateAccessibility(&event);
+            }
         }
     }
 }

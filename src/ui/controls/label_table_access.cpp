@@ -159,6 +159,8 @@ public:
         }
         if (!parts.contains(index)) {
             const TablePlace place{index / labels->Columns(), index % labels->Columns()};
+            // What is registered belongs to the toolkit until it is deleted by its number.
+            // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
             parts[index] = QAccessible::registerAccessibleInterface(new LabelAccess(labels, place));
         }
         return QAccessible::accessibleInterface(parts[index]);
