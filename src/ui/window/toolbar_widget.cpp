@@ -52,6 +52,8 @@ ToolButtonWidget::ToolButtonWidget(std::int32_t index, QWidget *parent)
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
     setAutoDefault(false);
+    // Mouse, keys and fingers are taken as they come; this is the way of the toolkit's own click.
+    connect(this, &QPushButton::clicked, this, [this] { ToolPressed(number); });
 }
 
 void ToolButtonWidget::Update()

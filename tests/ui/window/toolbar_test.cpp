@@ -189,6 +189,9 @@ TEST_F(ToolbarOnView, AssistiveToolsCanPressTheButtons)
         return (WordAt({4, 7}) & CandidateMask) == BitTable[6];
     };
     EXPECT_TRUE(QTest::qWaitFor(placed, Patience));
+    // Neither mouse nor keys come by the toolkit's own click, but a tool may.
+    Button(14)->click();
+    EXPECT_EQ(ToolMode, 20);
 }
 
 TEST_F(ToolbarOnView, TabReachesEveryButton)
