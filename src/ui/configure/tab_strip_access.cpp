@@ -2,6 +2,7 @@
 
 #include "game/screens.h"
 #include "ui/configure/tab_strip.h"
+#include "ui/window/described_kind.h"
 #include "ui/window/part_accessible.h"
 
 #include <QAccessible>
@@ -127,21 +128,11 @@ private:
     std::array<QAccessible::Id, TabCount> tabs{};
 };
 
-QAccessibleInterface *MakeAccess(const QString & /*className*/, QObject *object)
-{
-    auto *strip = qobject_cast<TabStrip *>(object);
-    return strip != nullptr ? new TabStripAccess(strip) : nullptr;
-}
-
 } // namespace
 
 void InstallTabStripAccess()
 {
-    static bool installed = false;
-    if (!installed) {
-        QAccessible::installFactory(MakeAccess);
-        installed = true;
-    }
+    DescribeKindToTools<TabStrip, TabStripAccess>();
 }
 
 } // namespace kelvarine

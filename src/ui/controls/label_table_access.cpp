@@ -1,6 +1,7 @@
 #include "ui/controls/label_table_access.h"
 
 #include "ui/controls/label_table.h"
+#include "ui/window/described_kind.h"
 #include "ui/window/part_accessible.h"
 
 #include <QAccessibleWidget>
@@ -12,9 +13,7 @@ namespace kelvarine {
 
 namespace {
 
-class LabelAccess : public PartAccessible,
-                    public QAccessibleTableCellInterface,
-                    public QAccessibleActionInterface {
+class LabelAccess : public TablePartAccessible, public QAccessibleActionInterface {
 public:
     LabelAccess(LabelTable *owner, TablePlace where) : labels(owner), place(where)
     {
@@ -54,14 +53,9 @@ public:
     }
     void *interface_cast(QAccessible::InterfaceType type) override
     {
-        switch (type) {
-        case QAccessible::TableCellInterface:
-            return static_cast<QAccessibleTableCellInterface *>(this);
-        case QAccessible::ActionInterface:
-            return static_cast<QAccessibleActionInterface *>(this);
-        default:
-            return nullptr;
-        }
+        return type == QAccessible::ActionInterface
+                   ? static_cast<QAccessibleActionInterface *>(this)
+                   : TablePartAccessible::interface_cast(type);
     }
 
     [[nodiscard]] bool isSelected() const override
@@ -86,18 +80,6 @@ public:
     [[nodiscard]] int rowIndex() const override
     {
         return place.Row - 1;
-    }
-    [[nodiscard]] int columnExtent() const override
-    {
-        return 1;
-    }
-    [[nodiscard]] int rowExtent() const override
-    {
-        return 1;
-    }
-    [[nodiscard]] QAccessibleInterface *table() const override
-    {
-        return parent();
     }
 
     [[nodiscard]] QStringList actionNames() const override
@@ -281,20 +263,11 @@ private:
     mutable std::map<int, QAccessible::Id> parts; // those that were asked for
 };
 
-QAccessibleInterface *Describe(const QString & /*kind*/, QObject *object)
-{
-    auto *table = qobject_cast<LabelTable *>(object);
-    return table == nullptr ? nullptr : new LabelTableAccess(table);
-}
-
 } // namespace
 
 void DescribeLabelTablesToTools()
 {
-    [[maybe_unused]] static const bool done = [] {
-        QAccessible::installFactory(Describe);
-        return true;
-    }();
+    DescribeKindToTools<LabelTable, LabelTableAccess>();
 }
 
 } // namespace kelvarine

@@ -2,6 +2,7 @@
 
 #include "ui/controls/finger_room.h"
 #include "ui/controls/focus_frame.h"
+#include "ui/window/described_kind.h"
 
 #include <QAccessibleWidget>
 #include <QKeyEvent>
@@ -64,27 +65,12 @@ public:
     }
 };
 
-QAccessibleInterface *Describe(const QString & /*kind*/, QObject *object)
-{
-    auto *level = qobject_cast<LevelLabel *>(object);
-    return level == nullptr ? nullptr : new LevelAccess(level);
-}
-
-// Before anything asks for the description of a label, because that is kept.
-void DescribeToTools()
-{
-    [[maybe_unused]] static const bool done = [] {
-        QAccessible::installFactory(Describe);
-        return true;
-    }();
-}
-
 } // namespace
 
 LevelLabel::LevelLabel(QWidget *parent, std::function<void()> openMenu)
     : QLabel(parent), openLevels(std::move(openMenu))
 {
-    DescribeToTools();
+    DescribeKindToTools<LevelLabel, LevelAccess>();
     setFocusPolicy(Qt::StrongFocus);
     // The press and the keys below are all that opens the menu.
     setContextMenuPolicy(Qt::PreventContextMenu);

@@ -15,6 +15,7 @@
 #include "print/print_settings.h"
 #include "ui/controls/configure_controls.h"
 #include "ui/controls/kept_painting.h"
+#include "ui/window/described_kind.h"
 
 #include <QAccessibleWidget>
 #include <QPainter>
@@ -107,26 +108,19 @@ std::string WordsNow()
     return PrintRunning != False ? "searching," + BatchProgressText() : PageInWords(DecimalSign());
 }
 
-QAccessibleInterface *Describe(const QString & /*kind*/, QObject *object)
-{
-    auto *preview = qobject_cast<PrintPreview *>(object);
-    return preview == nullptr ? nullptr : new QAccessibleWidget(preview, QAccessible::Graphic);
-}
-
-// Before anything asks for the description of a preview, because that is kept.
-void DescribeToTools()
-{
-    [[maybe_unused]] static const bool done = [] {
-        QAccessible::installFactory(Describe);
-        return true;
-    }();
-}
+// A picture, and not the empty widget that the toolkit takes it for.
+class PageAccess : public QAccessibleWidget {
+public:
+    explicit PageAccess(PrintPreview *preview) : QAccessibleWidget(preview, QAccessible::Graphic)
+    {
+    }
+};
 
 } // namespace
 
 PrintPreview::PrintPreview(QWidget *parent) : QWidget(parent)
 {
-    DescribeToTools();
+    DescribeKindToTools<PrintPreview, PageAccess>();
     setObjectName("picPrintPreview");
     FitPage();
     ShowPage();

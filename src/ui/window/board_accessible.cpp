@@ -10,6 +10,7 @@
 #include "paint/text.h"
 #include "ui/window/board_widget.h"
 #include "ui/window/cell_accessible.h"
+#include "ui/window/described_kind.h"
 #include "ui/window/main_window.h"
 #include "ui/window/teller.h"
 
@@ -273,12 +274,6 @@ private:
     std::array<QAccessible::Id, PartCount> parts{};
 };
 
-QAccessibleInterface *Describe(const QString & /*kind*/, QObject *object)
-{
-    auto *board = qobject_cast<BoardWidget *>(object);
-    return board == nullptr ? nullptr : new BoardAccessible(board);
-}
-
 } // namespace
 
 int ChildOf(Cell cell)
@@ -293,10 +288,7 @@ int ChildOfHeader(HouseKind kind, int line)
 
 void DescribeBoardToTools()
 {
-    [[maybe_unused]] static const bool done = [] {
-        QAccessible::installFactory(Describe);
-        return true;
-    }();
+    DescribeKindToTools<BoardWidget, BoardAccessible>();
 }
 
 } // namespace kelvarine

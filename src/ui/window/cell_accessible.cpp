@@ -51,7 +51,7 @@ QAccessibleInterface *HeaderOf(HouseKind kind, int line)
 
 // ---- Headers -------------------------------------------------------------------------------
 
-class HeaderAccessible : public PartAccessible, public QAccessibleTableCellInterface {
+class HeaderAccessible : public TablePartAccessible {
 public:
     HeaderAccessible(HouseKind houseKind, int lineNumber) : kind(houseKind), line(lineNumber)
     {
@@ -86,12 +86,6 @@ public:
         state.readOnly = true;
         return state;
     }
-    void *interface_cast(QAccessible::InterfaceType type) override
-    {
-        return type == QAccessible::TableCellInterface
-                   ? static_cast<QAccessibleTableCellInterface *>(this)
-                   : nullptr;
-    }
 
     [[nodiscard]] bool isSelected() const override
     {
@@ -114,18 +108,6 @@ public:
     {
         return IsColumn() ? -1 : line - 1;
     }
-    [[nodiscard]] int columnExtent() const override
-    {
-        return 1;
-    }
-    [[nodiscard]] int rowExtent() const override
-    {
-        return 1;
-    }
-    [[nodiscard]] QAccessibleInterface *table() const override
-    {
-        return BoardInterface();
-    }
 
 private:
     [[nodiscard]] bool IsColumn() const
@@ -139,9 +121,7 @@ private:
 
 // ---- Cells ---------------------------------------------------------------------------------
 
-class CellAccessible : public PartAccessible,
-                       public QAccessibleTableCellInterface,
-                       public QAccessibleActionInterface {
+class CellAccessible : public TablePartAccessible, public QAccessibleActionInterface {
 public:
     explicit CellAccessible(Cell cell) : place(cell)
     {
@@ -187,14 +167,9 @@ public:
     }
     void *interface_cast(QAccessible::InterfaceType type) override
     {
-        switch (type) {
-        case QAccessible::TableCellInterface:
-            return static_cast<QAccessibleTableCellInterface *>(this);
-        case QAccessible::ActionInterface:
-            return static_cast<QAccessibleActionInterface *>(this);
-        default:
-            return nullptr;
-        }
+        return type == QAccessible::ActionInterface
+                   ? static_cast<QAccessibleActionInterface *>(this)
+                   : TablePartAccessible::interface_cast(type);
     }
 
     [[nodiscard]] bool isSelected() const override
@@ -216,18 +191,6 @@ public:
     [[nodiscard]] int rowIndex() const override
     {
         return place.Row - 1;
-    }
-    [[nodiscard]] int columnExtent() const override
-    {
-        return 1;
-    }
-    [[nodiscard]] int rowExtent() const override
-    {
-        return 1;
-    }
-    [[nodiscard]] QAccessibleInterface *table() const override
-    {
-        return BoardInterface();
     }
 
     [[nodiscard]] QStringList actionNames() const override

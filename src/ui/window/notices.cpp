@@ -1,5 +1,6 @@
 #include "ui/window/notices.h"
 
+#include "ui/window/described_kind.h"
 #include "ui/window/main_window.h"
 #include "ui/window/part_accessible.h"
 #include "ui/window/tools_listen.h"
@@ -116,20 +117,11 @@ private:
     std::size_t said = 0;
 };
 
-QAccessibleInterface *Describe(const QString & /*kind*/, QObject *object)
-{
-    auto *client = qobject_cast<ClientArea *>(object);
-    return client == nullptr ? nullptr : new ClientAccessible(client);
-}
-
 } // namespace
 
 void DescribeNoticesToTools()
 {
-    [[maybe_unused]] static const bool done = [] {
-        QAccessible::installFactory(Describe);
-        return true;
-    }();
+    DescribeKindToTools<ClientArea, ClientAccessible>();
 }
 
 void Tell(const QString &words)

@@ -34,4 +34,28 @@ public:
     }
 };
 
+// A cell of a table, or what heads a line of it: one line high and one wide, in the table whose
+// part it is.
+class TablePartAccessible : public PartAccessible, public QAccessibleTableCellInterface {
+public:
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::TableCellInterface
+                   ? static_cast<QAccessibleTableCellInterface *>(this)
+                   : nullptr;
+    }
+    [[nodiscard]] int columnExtent() const override
+    {
+        return 1;
+    }
+    [[nodiscard]] int rowExtent() const override
+    {
+        return 1;
+    }
+    [[nodiscard]] QAccessibleInterface *table() const override
+    {
+        return parent();
+    }
+};
+
 } // namespace kelvarine

@@ -4,6 +4,7 @@
 #include "input/toolbar.h"
 #include "outside/events.h"
 #include "paint/text.h"
+#include "ui/window/described_kind.h"
 #include "ui/window/toolbar_widget.h"
 
 #include <QAccessibleWidget>
@@ -50,20 +51,11 @@ private:
     std::int32_t number;
 };
 
-QAccessibleInterface *Describe(const QString & /*kind*/, QObject *object)
-{
-    auto *button = qobject_cast<ToolButtonWidget *>(object);
-    return button == nullptr ? nullptr : new ToolAccessible(button);
-}
-
 } // namespace
 
 void DescribeToolsToTools()
 {
-    [[maybe_unused]] static const bool done = [] {
-        QAccessible::installFactory(Describe);
-        return true;
-    }();
+    DescribeKindToTools<ToolButtonWidget, ToolAccessible>();
 }
 
 } // namespace kelvarine
