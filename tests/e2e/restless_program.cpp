@@ -6,9 +6,9 @@
 // offered                     a lost game was offered and wanted
 // state MILLISECONDS DIGEST   the game has changed
 // saved                       the game is in its file
-// tick                        the recovery has looked at the game
-// kept                        and nothing is on its way to the disk any more
-// busy                        it could not look, for the disk was still at work
+// tick                        the recovery looks at the game
+// kept                        and nothing is on its way any more
+// busy                        the disk is still at work on an earlier look
 // run                         the logic works on the board, and for long unless it is stopped
 #include "commands/file_commands.h"
 #include "game/assistance.h"
@@ -28,6 +28,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QEvent>
 #include <QMessageBox>
 #include <QTimer>
 
@@ -219,19 +220,30 @@ void Turn()
 
 // What the game on the board looks like during a run is no state of the player's: the recovery
 // keeps what was put aside, or nothing where nothing was.
-void Ticked()
+void TellTick()
 {
     TellKept();
+    if (!IsBusy()) {
+        TellState();
+    }
     if (writing) {
         Tell("busy");
     } else if (!IsBusy() || GameAside != nullptr) {
-        if (!IsBusy()) {
-            TellState();
-        }
         Tell("tick");
         writing = true;
     }
 }
+
+// Tells of a look before the recovery takes it: afterwards nobody may be there to tell of it.
+class BeforeTicks : public QObject {
+    bool eventFilter(QObject * /*timer*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::Timer) {
+            TellTick();
+        }
+        return false;
+    }
+};
 
 // After what the start of the program has put into the event loop before.
 void Begin(QTimer *turns)
@@ -242,7 +254,8 @@ void Begin(QTimer *turns)
     }
     shownState = Digest();
     Tell("begin " + Now() + " " + shownState);
-    QObject::connect(Window()->findChild<QTimer *>("tmrRecovery"), &QTimer::timeout, Ticked);
+    static BeforeTicks ticks;
+    Window()->findChild<QTimer *>("tmrRecovery")->installEventFilter(&ticks);
     SolveMask = MaskOf({XWing}) | TrialBit;
     turns->start(15);
 }
