@@ -2,26 +2,19 @@
 
 #include "files/game_file.h"
 #include "files/recovered_folder.h"
+#include "files/recovery_place.h"
 #include "game/clock.h"
 #include "game/game_in_hand.h"
 #include "game/lifecycle.h"
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
-#include "outside/file_lock.h"
-#include "outside/folders.h"
 #include "outside/later_write.h"
 #include "outside/messages.h"
 #include "outside/whole_file.h"
 
-#include <algorithm>
-#include <filesystem>
-#include <functional>
-#include <memory>
 #include <optional>
-#include <system_error>
 #include <utility>
-#include <vector>
 
 namespace kelvarine {
 
@@ -75,60 +68,15 @@ bool IsModified()
     return (GameAside != nullptr ? GameAside->Modified : GameModified) != False;
 }
 
-// ---- Places: each program has a number of its own --------------------------------------------
+// ---- Places --------------------------------------------------------------------------------
 
-constexpr int MostPrograms = 100;
+RecoveryPlace own;
+RecoveryPlace lost;
 
-struct Place {
-    std::string Path;
-    std::unique_ptr<FileLock> Lock;
-    bool IsWritten = false; // so that what stands there is this program's, whole or begun
-};
-
-std::string PathOf(int number)
-{
-    return DataFolder() + "recovery-" + std::to_string(number) + ".sdk";
-}
-
-// Takes a place that no program holds; not Held when it cannot be had.
-Place Hold(int number)
-{
-    return {PathOf(number),
-            std::make_unique<FileLock>(
-                DataFolder() + "recovery-" + std::to_string(number) + ".lock", 0, LockFile::Goes),
-            false};
-}
-
-bool IsHeld(const Place &place)
-{
-    return place.Lock != nullptr && place.Lock->State() == LockState::Held;
-}
-
-// The numbers of the recovery files that there are, the newest first.
-std::vector<int> KeptGames()
-{
-    std::vector<std::pair<std::filesystem::file_time_type, int>> games;
-    for (int number = 1; number <= MostPrograms; ++number) {
-        std::error_code failure;
-        const auto changed = std::filesystem::last_write_time(PathOf(number), failure);
-        if (!failure) {
-            games.emplace_back(changed, number);
-        }
-    }
-    std::ranges::sort(games, std::greater());
-    std::vector<int> numbers;
-    numbers.reserve(games.size());
-    for (const auto &[changed, number] : games) {
-        numbers.push_back(number);
-    }
-    return numbers;
-}
-
-Place own;
-Place lost;
-
-// What stands in the own file, or is on its way there; empty when nothing does.
+// What stands in the own file on the disk and in the fresh one, or is on its way there; empty when
+// nothing does.
 std::string kept;
+std::string keptFresh;
 
 // Set at the end of the program.
 bool hasEnded = false;
@@ -148,53 +96,73 @@ void TellFailure(const std::string &words)
 // Finds a place of one's own. The words of a failure, or nothing.
 std::string FindPlace()
 {
-    if (IsHeld(own) && !own.IsWritten && FileExists(own.Path)) {
+    if (IsHeld(own) && !own.IsWritten && GameStandsIn(own)) {
         own = {}; // on a disk without locks another program may hold the same
     }
     for (int number = 1; !IsHeld(own) && number <= MostPrograms; ++number) {
-        if (FileExists(PathOf(number))) {
+        if (GameStandsAt(number)) {
             continue; // another program's, or one that is to be offered
         }
-        own = Hold(number);
+        own = HoldPlace(number);
         if (own.Lock->State() == LockState::Failed) {
             return own.Lock->Error();
         }
         // It may have come between the look and the lock.
-        if (IsHeld(own) && FileExists(own.Path)) {
+        if (IsHeld(own) && GameStandsIn(own)) {
             own = {};
         }
     }
     return IsHeld(own) ? std::string() : "Too many programs are running.";
 }
 
-void RemoveOwnFile()
+void RemoveOwnFiles()
 {
     if (own.IsWritten) {
-        std::error_code unseen;
-        std::filesystem::remove(own.Path, unseen);
+        RemoveFiles(own);
         own.IsWritten = false;
         kept.clear();
+        keptFresh.clear();
     }
+}
+
+// Waits for what is on its way. The words of a failure, or nothing.
+std::string EndWrites()
+{
+    if (!EndWrite(Reach::System).empty()) {
+        keptFresh.clear(); // the disk may take it all the same
+    }
+    return EndWrite(Reach::Disk);
 }
 
 void GiveUpPlace()
 {
-    EndWrite();
-    RemoveOwnFile();
+    EndWrites();
+    RemoveOwnFiles();
     own = {};
 }
 
 // ---- Writing ---------------------------------------------------------------------------------
 
-// True when the clock alone has gone on since, which is written over where it stands: the disk
-// takes the eight bytes or does not.
-bool KeepTimeAlone(const std::string &bytes)
+// True when of what stands in a file the clock alone has gone on since, which is written over where
+// it stands: the disk takes the eight bytes or does not.
+bool KeepTimeAlone(const std::string &path, const std::string &there, const std::string &bytes)
 {
-    if (kept.size() != bytes.size() || kept.compare(0, TimePlace, bytes, 0, TimePlace) != 0 ||
-        kept.compare(TimePlace + TimeSize, std::string::npos, bytes, TimePlace + TimeSize) != 0) {
+    if (there.size() != bytes.size() || there.compare(0, TimePlace, bytes, 0, TimePlace) != 0 ||
+        there.compare(TimePlace + TimeSize, std::string::npos, bytes, TimePlace + TimeSize) != 0) {
         return false;
     }
-    return OverwritePart(own.Path, TimePlace, std::string_view(bytes).substr(TimePlace, TimeSize));
+    return OverwritePart(path, TimePlace, std::string_view(bytes).substr(TimePlace, TimeSize));
+}
+
+// Brings a game into the system's hands, so that the program may be killed.
+void KeepFresh(const std::string &bytes)
+{
+    const std::string fresh = FreshBytes(bytes);
+    if (!fresh.empty() && bytes != keptFresh && !KeepTimeAlone(own.FreshPath, keptFresh, bytes)) {
+        own.IsWritten = true;
+        BeginWrite(Reach::System, own.FreshPath, fresh);
+    }
+    keptFresh = bytes;
 }
 
 void Keep(const std::string &bytes)
@@ -202,13 +170,14 @@ void Keep(const std::string &bytes)
     if (bytes == kept) {
         return;
     }
-    if (!KeepTimeAlone(bytes)) {
-        if (const std::string failure = FindPlace(); !failure.empty()) {
-            TellFailure(failure);
-            return;
-        }
+    if (const std::string failure = FindPlace(); !failure.empty()) {
+        TellFailure(failure);
+        return;
+    }
+    KeepFresh(bytes);
+    if (!KeepTimeAlone(own.Path, kept, bytes)) {
         own.IsWritten = true;
-        BeginWrite(own.Path, bytes);
+        BeginWrite(Reach::Disk, own.Path, bytes);
     }
     kept = bytes;
 }
@@ -220,7 +189,7 @@ bool LastWriteIsDone()
     if (IsWriting()) {
         return false;
     }
-    if (const std::string failure = EndWrite(); !failure.empty()) {
+    if (const std::string failure = EndWrites(); !failure.empty()) {
         TellFailure(failure);
         return false;
     }
@@ -232,23 +201,28 @@ bool LastWriteIsDone()
 
 void SetRecoveryDefaults()
 {
-    EndWrite();
+    EndWrites();
     hasEnded = false;
     own = {};
     lost = {};
     kept.clear();
+    keptFresh.clear();
     failureTold = false;
 }
 
 void RecoveryTick()
 {
-    if (!LastWriteIsDone()) {
-        return;
-    }
+    const bool diskIsFree = LastWriteIsDone();
     if (!IsModified()) {
-        RemoveOwnFile();
+        if (diskIsFree) {
+            RemoveOwnFiles();
+        }
     } else if (const std::optional<std::string> bytes = RecoveryBytes()) {
-        Keep(*bytes);
+        if (diskIsFree) {
+            Keep(*bytes);
+        } else if (own.IsWritten && !IsWriting(Reach::System)) {
+            KeepFresh(*bytes);
+        }
     }
 }
 
@@ -257,37 +231,38 @@ bool WriteRecovery()
     if (hasEnded) {
         return true;
     }
-    if (!EndWrite().empty()) {
+    if (!EndWrites().empty()) {
         kept.clear();
     }
     if (!IsModified()) {
-        RemoveOwnFile();
+        RemoveOwnFiles();
         return true;
     }
     const std::optional<std::string> bytes = RecoveryBytes();
-    std::string error;
     if (!bytes || !FindPlace().empty()) {
         return false;
     }
+    KeepFresh(*bytes);
     own.IsWritten = true;
-    if (!ReplaceWholeFile(own.Path, *bytes, error)) {
+    BeginWrite(Reach::Disk, own.Path, *bytes);
+    kept = *bytes;
+    if (!EndWrites().empty()) {
         kept.clear(); // the new bytes may have come there before it failed
         return false;
     }
-    kept = *bytes;
     return true;
 }
 
 void DropRecovery()
 {
-    EndWrite();
-    RemoveOwnFile();
+    EndWrites();
+    RemoveOwnFiles();
 }
 
 void EndRecovery(bool answered)
 {
     hasEnded = true;
-    EndWrite();
+    EndWrites();
     if (answered) {
         GiveUpPlace();
     }
@@ -302,9 +277,9 @@ bool RecoveryHasEnded()
 
 bool FindLostGame()
 {
-    for (const int number : KeptGames()) {
-        lost = Hold(number);
-        if (IsHeld(lost) && FileExists(lost.Path)) {
+    for (const int number : PlacesOfGames()) {
+        lost = HoldPlace(number);
+        if (IsHeld(lost) && GameStandsIn(lost)) {
             return true;
         }
     }
@@ -314,16 +289,14 @@ bool FindLostGame()
 
 bool TakeLostGame()
 {
-    std::string bytes;
-    std::string unread;
-    if (!ReadWholeFile(lost.Path, bytes, unread) || bytes.size() < FilePath ||
-        !IsWholeGame(bytes) || !ReadGame(bytes)) {
+    const std::string bytes = GameIn(lost);
+    if (bytes.size() < FilePath || !IsWholeGame(bytes) || !ReadGame(bytes)) {
         return false;
     }
     GiveUpPlace();
     own = std::move(lost);
     own.IsWritten = true;
-    kept = bytes;
+    (IsOnDisk(own) ? kept : keptFresh) = bytes;
     TakeItsFile(bytes);
     GameModified = True;
     return true;
@@ -331,7 +304,10 @@ bool TakeLostGame()
 
 bool PutLostGameAside()
 {
-    const bool moved = KeepRecoveredGame(lost.Path);
+    const bool moved = BringToDisk(lost) && KeepRecoveredGame(lost.Path);
+    if (moved) {
+        RemoveFiles(lost); // what is left of another start of the machine
+    }
     lost = {};
     return moved;
 }

@@ -1,39 +1,67 @@
 #include "outside/later_write.h"
 
-#include "outside/whole_file.h"
-
 #include <cassert>
 #include <chrono>
+#include <filesystem>
 #include <future>
+#include <system_error>
 #include <utility>
 
 namespace kelvarine {
 
 namespace {
 
-std::future<std::string> underWay; // the words of a failure
+using Work = std::shared_future<std::string>; // the words of a failure
+
+Work toSystem;
+Work toDisk;
+
+Work &WorkOf(Reach reach)
+{
+    return reach == Reach::System ? toSystem : toDisk;
+}
+
+std::string Write(Reach reach, const std::string &path, const std::string &bytes)
+{
+    std::string error;
+    if (!ReplaceWholeFile(path, bytes, error, MissingFolders::Made, reach) &&
+        reach == Reach::System) {
+        std::error_code unseen;
+        std::filesystem::remove(path, unseen);
+    }
+    return error;
+}
 
 } // namespace
 
-void BeginWrite(std::string path, std::string bytes)
+void BeginWrite(Reach reach, std::string path, std::string bytes)
 {
-    assert(!IsWriting());
-    underWay = std::async(std::launch::async, [path = std::move(path), bytes = std::move(bytes)] {
-        std::string error;
-        ReplaceWholeFile(path, bytes, error);
-        return error;
-    });
+    assert(!IsWriting(reach));
+    const Work before = reach == Reach::Disk ? toSystem : Work();
+    WorkOf(reach) = std::async(std::launch::async, [reach, before, path = std::move(path),
+                                                    bytes = std::move(bytes)] {
+                        if (before.valid()) {
+                            before.wait();
+                        }
+                        return Write(reach, path, bytes);
+                    }).share();
+}
+
+bool IsWriting(Reach reach)
+{
+    const Work &work = WorkOf(reach);
+    return work.valid() && work.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
 }
 
 bool IsWriting()
 {
-    return underWay.valid() &&
-           underWay.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+    return IsWriting(Reach::System) || IsWriting(Reach::Disk);
 }
 
-std::string EndWrite()
+std::string EndWrite(Reach reach)
 {
-    return underWay.valid() ? underWay.get() : std::string();
+    const Work work = std::exchange(WorkOf(reach), Work());
+    return work.valid() ? work.get() : std::string();
 }
 
 } // namespace kelvarine

@@ -98,26 +98,26 @@ bool FlushFolder(int folder)
     return !open.IsOpen() || Flush(open.Number()) || errno == EINVAL || errno == EOPNOTSUPP;
 }
 
-bool WriteBeside(const Target &target, std::string_view bytes, Beside way)
+bool WriteBeside(const Target &target, std::string_view bytes, Reach reach, Beside way)
 {
     FileBeside file(target.Folder.Number(), target.Old ? PrivatePermissions : NewFilePermissions,
                     way);
     return file.IsOpen() && (!target.Old || TakeMarks(file.Number(), target.Path, *target.Old)) &&
-           WriteAll(file.Number(), bytes) && Flush(file.Number()) && file.EndWriting() &&
-           file.TakeName() && file.TakePlace(NameIn(target.Path));
+           WriteAll(file.Number(), bytes) && (reach == Reach::System || Flush(file.Number())) &&
+           file.EndWriting() && file.TakeName() && file.TakePlace(NameIn(target.Path));
 }
 
-bool Replace(Target &target, std::string_view bytes)
+bool Replace(Target &target, std::string_view bytes, Reach reach)
 {
     if (!LookAt(target)) {
         return false;
     }
-    if (!WriteBeside(target, bytes, Beside::WithoutName) &&
-        !(LacksFilesWithoutName() && WriteBeside(target, bytes, Beside::Named))) {
+    if (!WriteBeside(target, bytes, reach, Beside::WithoutName) &&
+        !(LacksFilesWithoutName() && WriteBeside(target, bytes, reach, Beside::Named))) {
         return false;
     }
     RemoveLeftovers(target.Folder.Number());
-    return FlushFolder(target.Folder.Number());
+    return reach == Reach::System || FlushFolder(target.Folder.Number());
 }
 
 // ---- Writing in place ------------------------------------------------------------------------
@@ -184,7 +184,7 @@ bool ReadWholeFile(const std::string &path, std::string &bytes, std::string &err
 }
 
 bool ReplaceWholeFile(const std::string &path, std::string_view bytes, std::string &error,
-                      MissingFolders missing)
+                      MissingFolders missing, Reach reach)
 {
     error.clear();
     Target target;
@@ -200,7 +200,7 @@ bool ReplaceWholeFile(const std::string &path, std::string_view bytes, std::stri
         error = failure.message();
         return false;
     }
-    if (!Replace(target, bytes)) {
+    if (!Replace(target, bytes, reach)) {
         error = SystemWords();
         return false;
     }

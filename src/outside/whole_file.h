@@ -21,15 +21,20 @@ bool ReadWholeFile(const std::string &path, std::string &bytes, std::string &err
 // The program's own folders are made where they are missing; the player's are not.
 enum class MissingFolders : std::uint8_t { Made, Refused };
 
+// How far bytes have to come: into the system's hands, where no end of the program harms them, or
+// onto the disk, where no power cut does either. A file in the system's hands is whole until the
+// machine stops, and may be anything after that.
+enum class Reach : std::uint8_t { System, Disk };
+
 // Replaces a file, or makes it, with the folders above it if wanted: written in its folder, flushed
-// to the disk, renamed. Symbolic links keep pointing where they point, also where nothing stands
-// yet, and the new file takes over owner, permissions, access list and attributes as far as the
-// system lets it. What is write-protected, a directory, a pipe or a device is not replaced. False
-// when any of that fails; error holds the system's own words then, and the old file is whole and
-// nothing left beside it, save that where the disk does not take the change of names the new one
-// stands whole.
+// to the disk where it is to come there, renamed. Symbolic links keep pointing where they point,
+// also where nothing stands yet, and the new file takes over owner, permissions, access list and
+// attributes as far as the system lets it. What is write-protected, a directory, a pipe or a device
+// is not replaced. False when any of that fails; error holds the system's own words then, and the
+// old file is whole and nothing left beside it, save that where the disk does not take the change
+// of names the new one stands whole.
 bool ReplaceWholeFile(const std::string &path, std::string_view bytes, std::string &error,
-                      MissingFolders missing = MissingFolders::Made);
+                      MissingFolders missing = MissingFolders::Made, Reach reach = Reach::Disk);
 
 // True when a file may be written, and yet a new one would not do in its place: it has other names,
 // something is mounted on it, or the folder lets the player put none there. Where it can be neither

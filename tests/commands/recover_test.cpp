@@ -15,10 +15,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <filesystem>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <sys/time.h>
 #include <sys/wait.h>
@@ -65,7 +67,7 @@ TEST_F(Recovery, GameThatCameBackStaysSafeAndGoesWithAnOrderlyEnd)
     StartAnew();
     Seen.YesNoAnswers = {true};
     OfferLostGames();
-    EXPECT_EQ(Files(), (Texts{"recovery-1.lock", "recovery-1.sdk"}));
+    EXPECT_EQ(Files(), FilesOf(1));
     Play();
     TickAndWrite();
     EXPECT_TRUE(Kept() == GameFileBytes() + "GR");
@@ -139,7 +141,9 @@ TEST_F(Recovery, NoKeepsTheGameUnderItsDate)
     });
     const std::string game = Kept();
     const std::array<timeval, 2> times{{{1795341600, 0}, {1795341600, 0}}};
-    ASSERT_EQ(::utimes((DataFolder() + "recovery-1.sdk").c_str(), times.data()), 0);
+    for (const char *name : {"recovery-1.sdk", "recovery-1.fresh"}) {
+        ASSERT_EQ(::utimes((DataFolder() + name).c_str(), times.data()), 0);
+    }
     StartAnew();
     OfferLostGames();
     EXPECT_EQ(Files(), Texts{"recovered"});
@@ -251,14 +255,17 @@ TEST_F(Recovery, EachProgramHasAFileOfItsOwnAndOffersNoneInUse)
     Play();
     Play();
     TickAndWrite();
-    EXPECT_EQ(Files(),
-              (Texts{"recovery-1.lock", "recovery-1.sdk", "recovery-2.lock", "recovery-2.sdk"}));
+    Texts files = FilesOf(1);
+    std::ranges::copy(FilesOf(2), std::back_inserter(files));
+    EXPECT_EQ(Files(), files);
     EXPECT_TRUE(Kept() == others);
     ::kill(other, SIGKILL);
     ::waitpid(other, &status, 0);
     OfferLostGames();
     EXPECT_EQ(Seen.Questions.size(), 1U) << "for the other has gone";
-    EXPECT_EQ(Files(), (Texts{"recovered", "recovery-2.lock", "recovery-2.sdk"}));
+    files = FilesOf(2);
+    files.insert(files.begin(), "recovered");
+    EXPECT_EQ(Files(), files);
 }
 
 } // namespace

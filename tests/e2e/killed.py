@@ -23,6 +23,8 @@ from positions import PUZZLE
 GAME_SIZE = 41360
 HEADER = b"Kelvarine game file v1.0".ljust(32)
 
+START = pathlib.Path("/proc/sys/kernel/random/boot_id").read_bytes().strip()
+
 # What a life lasts for, by the lines that the program tells: how many of them, at least and at most.
 LIVES = {"state": (0, 300), "kept": (1, 2), "run": (1, 1)}
 # And how much longer at most, in seconds, so that the kill falls anywhere between two lines.
@@ -128,8 +130,11 @@ class Home:
         expect(contents == PUZZLE.encode() or (len(contents) == GAME_SIZE
                                                and contents[8:40] == HEADER),
                "the game's file is whole")
-        for path in self.data.glob("recovery-*.sdk"):
+        for path in [*self.data.glob("recovery-*.sdk"), *self.data.glob("recovery-*.fresh")]:
             contents = path.read_bytes()
+            if path.suffix == ".fresh":
+                expect(contents.endswith(START), "a fresh file is of this start of the machine")
+                contents = contents.removesuffix(START)
             expect(len(contents) > GAME_SIZE and contents[8:40] == HEADER
                    and contents[GAME_SIZE:] in (b"GR" + bytes(self.game), b"TR" + bytes(self.game)),
                    "a recovery file is whole")

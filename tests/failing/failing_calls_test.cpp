@@ -16,6 +16,7 @@
 #include "grid/history.h"
 #include "outside/folders.h"
 #include "outside/later_write.h"
+#include "outside/machine_start.h"
 #include "outside/whole_file.h"
 #include "print/print_settings.h"
 #include "support/outside_double.h"
@@ -159,6 +160,7 @@ TEST_P(FailingCalls, KeepingTheGameThroughACrash)
 TEST_P(FailingCalls, LookingAtTheGameFromTimeToTime)
 {
     const std::string path = DataFolder() + "recovery-1.sdk";
+    const std::string freshPath = DataFolder() + "recovery-1.fresh";
     PushUndoState();
     std::string old;
     const auto look = [] {
@@ -182,6 +184,9 @@ TEST_P(FailingCalls, LookingAtTheGameFromTimeToTime)
             const std::string fresh = GameFileBytes() + "GR";
             ASSERT_TRUE(now == fresh || (now == old && Seen.Messages.size() == 1))
                 << "call " << call;
+            ASSERT_TRUE(now == old || !FileExists(freshPath) ||
+                        Contents(freshPath) == fresh + MachineStart())
+                << "nothing older is taken for the newest, call " << call;
             ASSERT_EQ(GameModified, True) << "call " << call;
             look();
             ASSERT_TRUE(Contents(path) == fresh) << "the next look, call " << call;

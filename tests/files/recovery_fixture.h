@@ -97,6 +97,13 @@ protected:
         return bytes;
     }
 
+    // The files of a program whose game is modified.
+    static Texts FilesOf(int number)
+    {
+        const std::string beginning = "recovery-" + std::to_string(number);
+        return {beginning + ".fresh", beginning + ".lock", beginning + ".sdk"};
+    }
+
     static std::string Kept()
     {
         return Contents(DataFolder() + "recovery-1.sdk");

@@ -169,6 +169,9 @@ ssize_t __wrap_write(int file, const void *bytes, size_t count)
 
 int __wrap_fsync(int file)
 {
+    if (SystemCalls *calls = SystemCalls::OfThisThread(); calls != nullptr && calls->BeforeFlush) {
+        calls->BeforeFlush();
+    }
     return Through({.Name = "fsync", .File = FileOf(file)}, [&] { return __real_fsync(file); });
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cerrno>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,9 @@ public:
     [[nodiscard]] std::vector<std::string> Names() const;
 
     std::vector<SystemCall> Calls;
+
+    // Set for a disk that takes its time: called before each flush, in the thread that asks for it.
+    std::function<void()> BeforeFlush;
 
     // Set for a disk of another machine, which gives the one lock to nobody who may only read.
     bool LocksNeedWriting = false;

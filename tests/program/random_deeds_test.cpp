@@ -186,7 +186,8 @@ protected:
         }
         if (second * 1000 % RecoveryInterval == 0) {
             RecoveryTick();
-            EXPECT_EQ(EndWrite(), "");
+            EXPECT_EQ(EndWrite(Reach::System), "");
+            EXPECT_EQ(EndWrite(Reach::Disk), "");
         }
     }
 
