@@ -95,7 +95,7 @@ class Home:
         looked, on_its_way, in_a_run = 0, False, False
         self.saves = self.keeps = 0
         for words in lines:
-            in_a_run = words[0] == "run" or (in_a_run and words[0] != "state")
+            in_a_run = words[0] == "run" or (in_a_run and words[0] != "ran")
             if words[0] in ("begin", "state"):
                 states.append((float(words[1]), words[2]))
             elif words[0] == "offered":

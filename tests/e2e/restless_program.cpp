@@ -10,6 +10,7 @@
 // kept                        and nothing is on its way any more
 // busy                        the disk is still at work on an earlier look
 // run                         the logic works on the board, and for long unless it is stopped
+// ran                         it has ended
 #include "commands/file_commands.h"
 #include "game/assistance.h"
 #include "game/game_in_hand.h"
@@ -189,6 +190,8 @@ void ApplyLogicForLong()
     TellState();
     Tell("run");
     mnuApplyLogic();
+    TellState();
+    Tell("ran");
 }
 
 void MayStopRun()
@@ -213,7 +216,6 @@ void Turn()
         CallFromEventLoop(ApplyLogicForLong); // not from here, for the turns go on meanwhile
         return;
     }
-    TellState(); // what a run has left
     PlayOn();
     TellState();
 }
