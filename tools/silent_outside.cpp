@@ -71,7 +71,8 @@ bool PrintPicture(PrintedPicture /*picture*/, const PagePlace & /*place*/) { ret
 bool PrintText(double /*left*/, double /*top*/, std::string_view /*text*/) { return false; }
 double PrintedTextWidth(std::string_view /*text*/) { return 0; }
 bool NewPage() { return false; }
-std::string EndDocument() { return {}; }
+void EndDocument() {}
+std::string HandOverDocument() { return {}; }
 std::string DecimalSign() { return "."; }
 
 // clang-format on

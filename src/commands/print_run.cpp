@@ -22,6 +22,7 @@
 namespace kelvarine {
 
 Flag PrintRunning;
+Flag BatchUnderWay;
 std::int32_t PrintGameNumber;
 std::int32_t PrintGameCount;
 
@@ -48,9 +49,9 @@ std::string GameLabel(int number)
     return "Game #" + std::to_string(number);
 }
 
-void EndAndReport()
+void HandOverAndReport()
 {
-    if (const std::string words = EndDocument(); !words.empty()) {
+    if (const std::string words = HandOverDocument(); !words.empty()) {
         ShowMessage(words);
     }
 }
@@ -66,7 +67,8 @@ void PrintCurrentGame()
     if (PrintPicture(PrintedPicture::Board, place)) {
         PrintLabels(place, WordsOfRating(GameRating).Capital, GivenCountText());
     }
-    EndAndReport();
+    EndDocument();
+    HandOverAndReport();
 }
 
 // ---- Batches -------------------------------------------------------------------------------
@@ -128,8 +130,9 @@ bool PrintGames(const PrinterPage &page, std::vector<SolvedGrid> &solutions)
     const auto index = static_cast<std::size_t>(PrintGamesPerPage);
     const PageLayout layout = LayoutOfGames(index, page.Width, page.Height);
     PrintGameCount = GamesInBatch();
-    for (PrintGameNumber = 1; PrintGameNumber <= PrintGameCount; ++PrintGameNumber) {
-        if (!MakeGame() || !PrintGame(layout, PrintGameNumber)) {
+    for (int number = 1; number <= PrintGameCount; ++number) {
+        PrintGameNumber = number;
+        if (!MakeGame() || !PrintGame(layout, number)) {
             return false;
         }
         solutions.push_back(SolutionOfGrid());
@@ -154,9 +157,8 @@ void PrintSolutions(const PrinterPage &page, const std::vector<SolvedGrid> &solu
     }
 }
 
-// Prints the batch, ends its document and puts the game in hand back. The words of a failure, or
-// nothing.
-std::string PrintAllOf(const PrinterPage &page)
+// Prints the batch, ends its document and puts the game in hand back.
+void PrintAllOf(const PrinterPage &page)
 {
     const auto before = std::make_unique<GameInHand>();
     const Flag withSolutions = PrintIncludeSolutions;
@@ -166,13 +168,11 @@ std::string PrintAllOf(const PrinterPage &page)
     if (PrintGames(page, solutions) && withSolutions != False) {
         PrintSolutions(page, solutions);
     }
-    std::string words = EndDocument();
+    EndDocument();
     // From here on there is nothing to be stopped, not even the rating of the game in hand.
     SearchKind = NotStoppable;
     BringBack(*before);
     PrintRunning = False;
-    DoAfterRun(); // the rating of a game whose givens clash is no run
-    return words;
 }
 
 void PrintBatch()
@@ -185,12 +185,13 @@ void PrintBatch()
         return;
     }
     TakePrintableArea();
-    const std::string words = PrintAllOf(CurrentPrinterPage());
+    BatchUnderWay = True;
+    PrintAllOf(CurrentPrinterPage());
     DrawBoard();
     RefreshWindow();
-    if (!words.empty()) {
-        ShowMessage(words);
-    }
+    HandOverAndReport(); // what it may ask is asked over the game in hand
+    BatchUnderWay = False;
+    DoAfterRun();
 }
 
 } // namespace
@@ -198,6 +199,7 @@ void PrintBatch()
 void SetPrintRunDefaults()
 {
     PrintRunning = False;
+    BatchUnderWay = False;
     PrintGameNumber = 0;
     PrintGameCount = 0;
 }
@@ -205,7 +207,7 @@ void SetPrintRunDefaults()
 void cmdPrint()
 {
     // A batch at work is a search like others, which this asks about.
-    if (!ReadyForCommand() || PrintRunning != False) {
+    if (!ReadyForCommand() || BatchUnderWay != False) {
         return;
     }
     if (PrintMode == PrintNewGames) {

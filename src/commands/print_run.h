@@ -9,6 +9,7 @@
 namespace kelvarine {
 
 extern Flag PrintRunning;            // a batch is being made and printed
+extern Flag BatchUnderWay;           // until its document has been handed over, too
 extern std::int32_t PrintGameNumber; // the game of the batch that is being made, from 1
 extern std::int32_t PrintGameCount;  // games of the batch
 

@@ -48,9 +48,13 @@ double PrintedTextWidth(std::string_view text);
 // Begins a new page. False when that failed.
 bool NewPage();
 
-// Ends the document and hands it over. Returns the system's own words when that or anything before
-// failed, and nothing when all went well. A document on which nothing was printed is none.
-std::string EndDocument();
+// Ends the document: what is printed from now on is another one's. One on which nothing was printed
+// is none.
+void EndDocument();
+
+// Hands over the document that was ended last; about a file the player may be asked. Returns the
+// system's own words when that or anything before failed, and nothing when all went well.
+std::string HandOverDocument();
 
 // The sign between whole numbers and decimals where the player lives.
 std::string DecimalSign();

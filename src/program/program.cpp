@@ -89,9 +89,9 @@ void KeepBeforeAsking()
     KeepConfiguration(untold);
 }
 
-bool BoardIsAway()
+bool EndMustWait()
 {
-    return RunUnderWay != False || PrintRunning != False;
+    return RunUnderWay != False || BatchUnderWay != False;
 }
 
 bool MayEndRun()
@@ -106,7 +106,7 @@ bool MayEndRun()
 
 bool AskBeforeTheEnd()
 {
-    assert(!BoardIsAway());
+    assert(!EndMustWait());
     QuerySaveGame();
     return LastAnswer != AnsweredCancel;
 }
@@ -138,7 +138,7 @@ void EndProgramAnswered()
 
 bool EndProgram()
 {
-    if (BoardIsAway()) {
+    if (EndMustWait()) {
         // The closing goes on when the run has ended.
         AfterRun = MayEndRun() ? CloseMainWindow : nullptr;
         return false;

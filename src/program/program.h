@@ -20,9 +20,10 @@ void KeepBeforeAsking();
 // and keeps the settings. False when the player would rather stay.
 bool EndProgram();
 
-// Whether the board holds the cells of a run of the logic or of a batch, so that nothing can be
-// asked about the game in hand. What waits for the end of a run waits for that of both.
-bool BoardIsAway();
+// Whether the program cannot end yet: the board holds the cells of a run of the logic or of a
+// batch, so that nothing can be asked about the game in hand, or a batch's document is being handed
+// over. What waits for the end of a run waits for that of both.
+bool EndMustWait();
 
 // What it is made of. While a run of the logic is under way: whether it may end, which is asked
 // where it can be stopped. Without a run: the question whether to save, false when the player would

@@ -1,6 +1,8 @@
 // The end of a printed document, where a question about its file may come up.
 #include "board/geometry.h"
 #include "commands/print_run.h"
+#include "files/game_file.h"
+#include "game/game_in_hand.h"
 #include "generator/random_source.h"
 #include "grid/history.h"
 #include "outside/window.h"
@@ -11,6 +13,9 @@
 #include "support/positions.h"
 
 #include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
 
 namespace kelvarine::testing {
 namespace {
@@ -27,25 +32,53 @@ protected:
     }
 };
 
-TEST_F(PrintEnd, ProgramThatIsToldToGoOverAQuestionWaitsForTheGameInHand)
+TEST_F(PrintEnd, QuestionAboutTheFileStandsOverTheGameInHand)
 {
     WordAt({3, 1}) = (WordAt({3, 1}) & SolutionMask) | BitTable[4];
     PushUndoState();
-    const GridTable cells = Grid;
+    const std::string game = GameFileBytes();
+    bool asked = false;
+    Seen.OnBox = [&] {
+        asked = true;
+        EXPECT_TRUE(GameFileBytes() == game) << "what is saved now is the player's";
+        EXPECT_EQ(GameAside, nullptr);
+        EXPECT_EQ(PrintRunning, False);
+        cmdPrint();
+    };
+    ForgetRecord();
+    cmdPrint();
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(Acts(),
+              (std::vector<std::string>{"choose printer: ", "search banner: 1", "end document: ",
+                                        "board: ", "refresh: ", "hand over document: "}));
+    EXPECT_EQ(Seen.EndedDocuments.size(), 1U) << "and no other is begun meanwhile";
+}
+
+TEST_F(PrintEnd, ProgramThatIsToldToGoWaitsUntilTheDocumentIsHandedOver)
+{
     Seen.LaterDeeds.clear();
     bool asked = false;
     Seen.OnBox = [&] {
         asked = true;
-        EXPECT_TRUE(BoardIsAway());
+        EXPECT_TRUE(EndMustWait());
         ForgetRecord();
         EXPECT_FALSE(EndProgram());
-        EXPECT_TRUE(Acts().empty()) << "the board is not the game in hand";
+        EXPECT_TRUE(Acts().empty()) << "one question at a time";
+        EXPECT_TRUE(Seen.LaterDeeds.empty());
     };
     cmdPrint();
     EXPECT_TRUE(asked);
-    EXPECT_FALSE(BoardIsAway());
-    EXPECT_EQ(Grid, cells);
-    EXPECT_FALSE(Seen.LaterDeeds.empty()) << "the window is closed when the game is back";
+    EXPECT_FALSE(EndMustWait());
+    EXPECT_FALSE(Seen.LaterDeeds.empty()) << "the window is closed then";
+}
+
+TEST_F(PrintEnd, ProgressEndsWithTheLastGame)
+{
+    Seen.OnYield = [] {
+        EXPECT_LE(PrintGameNumber, PrintGameCount);
+    };
+    cmdPrint();
+    EXPECT_EQ(PrintGameNumber, PrintGameCount);
 }
 
 TEST_F(PrintEnd, ProgramThatIsToldToGoDoesSoWhenTheGameInHandCannotBeRated)

@@ -380,13 +380,17 @@ bool NewPage()
     return true;
 }
 
-std::string EndDocument()
+void EndDocument()
 {
     Record("end document", "");
+    Seen.EndedDocuments.push_back(Seen.PrintsBeforeFailure == 0 ? Seen.PrinterWords : "");
+}
+
+std::string HandOverDocument()
+{
+    Record("hand over document", "");
     StandAsBox(); // writing a file may ask
-    std::string words = Seen.PrintsBeforeFailure == 0 ? Seen.PrinterWords : "";
-    Seen.EndedDocuments.push_back(words);
-    return words;
+    return Seen.EndedDocuments.back();
 }
 
 std::string DecimalSign()

@@ -21,6 +21,7 @@
 #include <cassert>
 #include <cmath>
 #include <memory>
+#include <utility>
 
 namespace kelvarine {
 
@@ -41,6 +42,7 @@ struct Document {
 
 std::unique_ptr<QPrinter> chosenPrinter;
 std::unique_ptr<Document> document;
+std::unique_ptr<Document> ended; // and not yet handed over
 
 bool WritesPdf()
 {
@@ -125,12 +127,12 @@ double WholePixels(double position)
     return std::clamp(std::round(position), -farthest, farthest);
 }
 
-std::string WriteDocument()
+std::string Write(const Document &whole)
 {
-    std::string failure = document->Failure;
-    if (failure.empty() && document->Pdf != nullptr) {
-        const QByteArray &bytes = document->Bytes.data();
-        WritePlayerFile(document->File, {bytes.constData(), static_cast<std::size_t>(bytes.size())},
+    std::string failure = whole.Failure;
+    if (failure.empty() && whole.Pdf != nullptr) {
+        const QByteArray &bytes = whole.Bytes.data();
+        WritePlayerFile(whole.File, {bytes.constData(), static_cast<std::size_t>(bytes.size())},
                         failure);
     }
     return failure;
@@ -220,17 +222,18 @@ bool IsPrinting()
     return document != nullptr;
 }
 
-std::string EndDocument()
+void EndDocument()
 {
-    if (document == nullptr) {
-        return {};
-    }
-    if (document->Pen.isActive() && !document->Pen.end()) {
+    if (document != nullptr && document->Pen.isActive() && !document->Pen.end()) {
         Fail();
     }
-    std::string failure = WriteDocument();
-    document.reset();
-    return failure;
+    ended = std::move(document);
+}
+
+std::string HandOverDocument()
+{
+    const std::unique_ptr<Document> whole = std::move(ended);
+    return whole != nullptr ? Write(*whole) : std::string();
 }
 
 std::string PrintInOneGo(const std::function<bool(QPagedPaintDevice &)> &print)
@@ -240,7 +243,8 @@ std::string PrintInOneGo(const std::function<bool(QPagedPaintDevice &)> &print)
     if (!print(Device())) {
         Fail();
     }
-    return EndDocument();
+    EndDocument();
+    return HandOverDocument();
 }
 
 std::string DecimalSign()

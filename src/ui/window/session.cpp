@@ -107,7 +107,7 @@ void PrepareForTheEnd(QSessionManager &manager)
         answeredGame = Grid;
         return;
     }
-    if (BoardIsAway()) {
+    if (EndMustWait()) {
         AskAboutRun(manager);
     } else {
         AskAboutGame(manager);

@@ -1,12 +1,12 @@
 #include "ui/window/teller.h"
 
+#include "commands/print_run.h"
 #include "grid/grid.h"
 #include "input/spoken.h"
 #include "input/told.h"
 #include "logic/driver.h"
 #include "outside/events.h"
 #include "paint/text.h"
-#include "program/program.h"
 #include "ui/window/board_accessible.h"
 #include "ui/window/board_widget.h"
 #include "ui/window/main_window.h"
@@ -63,7 +63,8 @@ void TellNow()
     if (!ToolsListen()) {
         return;
     }
-    if (SearchActive != False || BoardIsAway()) { // what is done with the board is not the player's
+    // What is done with the board then is not the player's.
+    if (SearchActive != False || RunUnderWay != False || PrintRunning != False) {
         if (SearchActive != False) {
             TellRun();
         }

@@ -1,6 +1,7 @@
 // The file that a document is printed into: as safe as a game's own.
 #include "failing/failing_calls.h"
 #include "outside/printer.h"
+#include "support/ended_document.h"
 #include "support/temporary_folder.h"
 #include "support/widget_program.h"
 #include "ui/outside/printer_qt.h"
@@ -31,7 +32,7 @@ protected:
     static std::string PrintAPage()
     {
         EXPECT_TRUE(PrintText(10, 10, "a page"));
-        return EndDocument();
+        return EndAndHandOver();
     }
 
     // Ends a document again and again, each time with another call of its writing failing.
@@ -68,7 +69,7 @@ protected:
 
 TEST_F(PaperFile, IsTheOldOneOrTheNewOneWhicheverCallFails)
 {
-    FailEach([] { ASSERT_TRUE(PrintText(10, 10, "a page")); }, EndDocument);
+    FailEach([] { ASSERT_TRUE(PrintText(10, 10, "a page")); }, EndAndHandOver);
 }
 
 TEST_F(PaperFile, OfAnotherWindowIsAsSafe)
@@ -92,7 +93,7 @@ TEST_F(PaperFile, WhoseNameIsNoTextIsToldAndStays)
     const QByteArray path = QByteArray::fromStdString(Folder.Path("lat\xe4in.pdf"));
     ChosenPrinter().setOutputFileName(QFile::decodeName(path));
     EXPECT_FALSE(PrintText(10, 10, "a page"));
-    EXPECT_EQ(EndDocument(), "The name of this file is no text.\r\rPlease choose another one.");
+    EXPECT_EQ(EndAndHandOver(), "The name of this file is no text.\r\rPlease choose another one.");
     EXPECT_EQ(Folder.Read("lat\xe4in.pdf"), Former);
     const std::filesystem::directory_iterator files(Folder.Path());
     EXPECT_EQ(std::distance(begin(files), end(files)), 2) << "and the page of every test";
@@ -102,7 +103,7 @@ TEST_F(PaperFile, IsTheOneThatThePrinterHadWhenTheDocumentBegan)
 {
     ASSERT_TRUE(PrintText(10, 10, "a page"));
     ChosenPrinter().setOutputFileName(QString::fromStdString(Folder.Path("help.pdf")));
-    EXPECT_EQ(EndDocument(), "");
+    EXPECT_EQ(EndAndHandOver(), "");
     EXPECT_TRUE(HoldsAPage("page.pdf"));
     EXPECT_FALSE(std::filesystem::exists(Folder.Path("help.pdf")));
 }

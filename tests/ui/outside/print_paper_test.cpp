@@ -7,6 +7,7 @@
 #include "outside/whole_file.h"
 #include "print/page_layout.h"
 #include "print/print_settings.h"
+#include "support/ended_document.h"
 #include "support/play.h"
 #include "support/positions.h"
 #include "support/widget_modal.h"
@@ -333,9 +334,9 @@ TEST_F(Paper, FileThatCannotBeWrittenIsToldInTheSystemsWords)
     ChosenPrinter().setOutputFormat(QPrinter::PdfFormat);
     ChosenPrinter().setOutputFileName(QString::fromStdString(Path("file/page.pdf")));
     EXPECT_TRUE(PrintText(0, 0, "words"));
-    const std::string words = EndDocument();
+    const std::string words = EndAndHandOver();
     EXPECT_EQ(words, std::generic_category().message(ENOTDIR));
-    EXPECT_EQ(EndDocument(), "") << "the document has gone with its failure";
+    EXPECT_EQ(EndAndHandOver(), "") << "the document has gone with its failure";
 }
 
 TEST_F(Paper, FolderThatIsGoneIsToldAndNotMadeAnew)
@@ -343,14 +344,14 @@ TEST_F(Paper, FolderThatIsGoneIsToldAndNotMadeAnew)
     ChosenPrinter().setOutputFormat(QPrinter::PdfFormat);
     ChosenPrinter().setOutputFileName(QString::fromStdString(Path("gone/page.pdf")));
     EXPECT_TRUE(PrintText(0, 0, "words"));
-    EXPECT_EQ(EndDocument(), std::generic_category().message(ENOENT));
+    EXPECT_EQ(EndAndHandOver(), std::generic_category().message(ENOENT));
     EXPECT_FALSE(FileExists(Path("gone")));
 }
 
 TEST_F(Paper, DocumentOnWhichNothingWasPrintedIsNone)
 {
     ChosenPrinter().setOutputFileName(QString::fromStdString(Path()));
-    EXPECT_EQ(EndDocument(), "");
+    EXPECT_EQ(EndAndHandOver(), "");
     EXPECT_FALSE(FileExists(Path()));
 }
 

@@ -1,5 +1,6 @@
 // The player's choice among printers, and what comes of places on their paper.
 #include "outside/printer.h"
+#include "support/ended_document.h"
 #include "support/widget_paper.h"
 #include "support/widget_printers.h"
 #include "support/widget_program.h"
@@ -45,7 +46,7 @@ TEST(Printer, PlacesAreRoundedToWholePixels)
     ChosenPrinter().setResolution(coarse);
     ChosenPrinter().setOutputFileName(folder.filePath("page.pdf"));
     EXPECT_TRUE(PrintPicture(PrintedPicture::Game, {19.7, 29.6, 80.8, 79.6}));
-    EXPECT_EQ(EndDocument(), "");
+    EXPECT_EQ(EndAndHandOver(), "");
     ChosenPrinter().setResolution(usual);
     const std::vector<QImage> pages = PagesOf(folder.filePath("page.pdf").toStdString());
     ASSERT_EQ(pages.size(), 1U);

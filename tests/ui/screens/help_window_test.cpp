@@ -5,6 +5,7 @@
 #include "outside/clipboard.h"
 #include "outside/help.h"
 #include "outside/printer.h"
+#include "support/ended_document.h"
 #include "support/temporary_folder.h"
 #include "support/widget_events.h"
 #include "support/widget_front.h"
@@ -240,7 +241,7 @@ TEST_F(HelpWindowTest, PrintLeavesThePrinterToTheGameWhileThatPrints)
     ChosenPrinter().setOutputFileName(QString::fromStdString(folder.Path("page.pdf")));
     ASSERT_TRUE(PrintText(10, 10, "a page"));
     tryToPrint();
-    EXPECT_EQ(EndDocument(), "");
+    EXPECT_EQ(EndAndHandOver(), "");
 }
 
 TEST_F(HelpWindowTest, CanBeUsedBesideAModalWindow)
