@@ -9,8 +9,10 @@
 #include "grid/grid.h"
 #include "grid/history.h"
 #include "logic/driver.h"
+#include "outside/events.h"
 #include "outside/later_write.h"
 #include "outside/messages.h"
+#include "outside/timers.h"
 #include "outside/whole_file.h"
 
 #include <optional>
@@ -197,6 +199,15 @@ bool LastWriteIsDone()
     return true;
 }
 
+// The look that a run of the logic was in the way of; the next one comes an interval later.
+void LookNow()
+{
+    if (!hasEnded) {
+        SetRecoveryTimer(true, RecoveryInterval);
+        RecoveryTick();
+    }
+}
+
 } // namespace
 
 void SetRecoveryDefaults()
@@ -223,6 +234,8 @@ void RecoveryTick()
         } else if (own.IsWritten && !IsWriting(Reach::System)) {
             KeepFresh(*bytes);
         }
+    } else {
+        CallFromEventLoop(LookNow); // which may still find the run there
     }
 }
 

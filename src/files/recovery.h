@@ -16,7 +16,7 @@ void SetRecoveryDefaults();
 // Called once an interval. Begins to write the game in hand when it is modified and has changed
 // since; the time alone is written over in the file that stands. Without a modified game there is
 // no file. A failure is told once, until a write goes well again. While the board holds no game
-// that is the player's, nothing changes.
+// that is the player's, nothing changes, and the look is taken as soon as it does.
 void RecoveryTick();
 
 // Writes the game in hand now, when it is modified, for a program that may be ended without another

@@ -228,7 +228,7 @@ void TellTick()
     if (!IsBusy()) {
         TellState();
     }
-    if (writing) {
+    if (writing || IsWriting()) {
         Tell("busy");
     } else if (!IsBusy() || GameAside != nullptr) {
         Tell("tick");

@@ -90,6 +90,41 @@ TEST_F(Recovery, WhatTheLogicTriesOnTheBoardIsNotWritten)
     EXPECT_TRUE(Kept() == game);
 }
 
+TEST_F(Recovery, LookThatARunWasInTheWayOfIsTakenWhenItHasEnded)
+{
+    Play();
+    RunUnderWay = True;
+    Seen.LaterDeeds.clear();
+    Seen.RecoveryTimerOn = false;
+    TickAndWrite();
+    ASSERT_EQ(Seen.LaterDeeds.size(), 1U);
+    Seen.LaterDeeds.back()();
+    ASSERT_EQ(Seen.LaterDeeds.size(), 2U) << "it is still there";
+    EXPECT_EQ(Files(), Texts{});
+    RunUnderWay = False;
+    Seen.LaterDeeds.back()();
+    while (IsWriting()) {
+    }
+    EXPECT_TRUE(Kept() == GameFileBytes() + "GR");
+    EXPECT_EQ(Seen.LaterDeeds.size(), 2U);
+    EXPECT_TRUE(Seen.RecoveryTimerOn) << "the next look comes an interval later";
+    EXPECT_EQ(Seen.RecoveryMilliseconds, RecoveryInterval);
+}
+
+TEST_F(Recovery, LookThatIsLeftOverComesNoMoreAfterTheEnd)
+{
+    Play();
+    RunUnderWay = True;
+    Seen.LaterDeeds.clear();
+    RecoveryTick();
+    RunUnderWay = False;
+    EndRecovery(false);
+    Seen.RecoveryTimerOn = false;
+    Seen.LaterDeeds.back()();
+    EXPECT_FALSE(Seen.RecoveryTimerOn);
+    EXPECT_EQ(Files(), Texts{});
+}
+
 TEST_F(Recovery, GameToWhichLogicIsAppliedIsWrittenAsItWas)
 {
     Play();
