@@ -22,8 +22,15 @@ void ShowGameThatCameBack()
 
 bool GoOnWithIt()
 {
-    return AskYesNo("The last game was not closed. Would you like to go on with it?") &&
-           TakeLostGame();
+    if (!AskYesNo("The last game was not closed. Would you like to go on with it?")) {
+        return false;
+    }
+    if (TakeLostGame()) {
+        return true;
+    }
+    ShowMessage("Unable to go on with this game.\r\r"
+                "Its file is kept in the folder of recovered games.");
+    return false;
 }
 
 } // namespace

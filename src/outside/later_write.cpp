@@ -32,19 +32,31 @@ std::string Write(Reach reach, const std::string &path, const std::string &bytes
     return error;
 }
 
+// What has come to an end already.
+Work Ended(std::string words)
+{
+    std::promise<std::string> end;
+    end.set_value(std::move(words));
+    return end.get_future().share();
+}
+
 } // namespace
 
 void BeginWrite(Reach reach, std::string path, std::string bytes)
 {
     assert(!IsWriting(reach));
     const Work before = reach == Reach::Disk ? toSystem : Work();
-    WorkOf(reach) = std::async(std::launch::async, [reach, before, path = std::move(path),
-                                                    bytes = std::move(bytes)] {
-                        if (before.valid()) {
-                            before.wait();
-                        }
-                        return Write(reach, path, bytes);
-                    }).share();
+    const auto write = [reach, before, path = std::move(path), bytes = std::move(bytes)] {
+        if (before.valid()) {
+            before.wait();
+        }
+        return Write(reach, path, bytes);
+    };
+    try {
+        WorkOf(reach) = std::async(std::launch::async, write).share();
+    } catch (const std::system_error &) {
+        WorkOf(reach) = Ended(write()); // the system has no thread left, so this one waits
+    }
 }
 
 bool IsWriting(Reach reach)

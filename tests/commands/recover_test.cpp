@@ -154,6 +154,18 @@ TEST_F(Recovery, NoKeepsTheGameUnderItsDate)
     EXPECT_EQ(Seen.Questions.size(), 1U) << "it is not offered again";
 }
 
+TEST_F(Recovery, GameThatCannotBeReadIsToldAndKeptAllTheSame)
+{
+    std::string error;
+    ASSERT_TRUE(ReplaceWholeFile(DataFolder() + "recovery-1.sdk", "no game", error)) << error;
+    Seen.YesNoAnswers = {true};
+    OfferLostGames();
+    EXPECT_EQ(Seen.Messages, Texts{"Unable to go on with this game.\r\r"
+                                   "Its file is kept in the folder of recovered games."});
+    ASSERT_EQ(RecoveredGames().size(), 1U);
+    EXPECT_EQ(Contents(RecoveredFolder() + RecoveredGames()[0]), "no game");
+}
+
 TEST_F(Recovery, QuestionThatGoesWithTheProgramDecidesNothing)
 {
     Killed([] {

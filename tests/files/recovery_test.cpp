@@ -137,6 +137,17 @@ TEST_F(Recovery, FailureIsToldOnceUntilItWorksAgain)
     EXPECT_TRUE(Kept() == GameFileBytes() + "GR") << "tried again without a change";
 }
 
+TEST_F(Recovery, SystemWithoutAThreadToSpareStillKeepsTheGame)
+{
+    const int kept = RunInChild([] {
+        const bool forbidden = ForbidThreads();
+        Play();
+        TickAndWrite();
+        return forbidden && Kept() == GameFileBytes() + "GR" ? 0 : 1;
+    });
+    EXPECT_EQ(kept, 0);
+}
+
 TEST_F(Recovery, FailureOnTheDiskIsToldAtTheNextTickAndTriedAgain)
 {
     Play();

@@ -1,10 +1,14 @@
 // Runs a piece of a test in a process of its own, so that limits, rights and mounts end with it.
 #pragma once
 
+#include <array>
 #include <csignal>
 #include <cstdint>
 #include <functional>
+#include <linux/capability.h>
 #include <sys/ptrace.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -20,6 +24,25 @@ inline int RunInChild(const std::function<int()> &action)
     int status = 0;
     ::waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+// Lets a child make no threads any more, and leaves it its files. For the system's first user a
+// limit counts only without two of its rights, and under another name.
+inline bool ForbidThreads()
+{
+    constexpr uid_t somebody = 65534;
+    constexpr std::uint32_t rights = 1U << CAP_SYS_RESOURCE | 1U << CAP_SYS_ADMIN;
+    __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+    std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3> sets{};
+    const rlimit none{0, 0};
+    if (::setrlimit(RLIMIT_NPROC, &none) != 0 || ::getuid() != 0) {
+        return ::getuid() != 0;
+    }
+    if (::setresuid(somebody, 0, 0) != 0 || ::syscall(SYS_capget, &header, sets.data()) != 0) {
+        return false;
+    }
+    sets[0].effective &= ~rights;
+    return ::syscall(SYS_capset, &header, sets.data()) == 0;
 }
 
 // What became of a child that was to be killed.
