@@ -17,6 +17,7 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace kelvarine {
 
@@ -156,15 +157,31 @@ bool KeepTimeAlone(const std::string &path, const std::string &there, const std:
     return OverwritePart(path, TimePlace, std::string_view(bytes).substr(TimePlace, TimeSize));
 }
 
-// Brings a game into the system's hands, so that the program may be killed.
-void KeepFresh(const std::string &bytes)
+// Adds the write that brings a game into the system's hands, so that the program may be killed;
+// none where it is there, but for the time, or where nothing is safe there.
+void AddFresh(std::vector<LaterWrite> &writes, const std::string &bytes)
 {
-    const std::string fresh = FreshBytes(bytes);
+    std::string fresh = FreshBytes(bytes);
     if (!fresh.empty() && bytes != keptFresh && !KeepTimeAlone(own.FreshPath, keptFresh, bytes)) {
-        own.IsWritten = true;
-        BeginWrite(Reach::System, own.FreshPath, fresh);
+        writes.push_back({own.FreshPath, std::move(fresh), Reach::System});
     }
     keptFresh = bytes;
+}
+
+void Begin(std::vector<LaterWrite> writes)
+{
+    if (!writes.empty()) {
+        own.IsWritten = true;
+        BeginWrite(std::move(writes));
+    }
+}
+
+// While the disk is still at work on an earlier game.
+void KeepMeanwhile(const std::string &bytes)
+{
+    std::vector<LaterWrite> writes;
+    AddFresh(writes, bytes);
+    Begin(std::move(writes));
 }
 
 void Keep(const std::string &bytes)
@@ -176,11 +193,12 @@ void Keep(const std::string &bytes)
         TellFailure(failure);
         return;
     }
-    KeepFresh(bytes);
+    std::vector<LaterWrite> writes;
+    AddFresh(writes, bytes);
     if (!KeepTimeAlone(own.Path, kept, bytes)) {
-        own.IsWritten = true;
-        BeginWrite(Reach::Disk, own.Path, bytes);
+        writes.push_back({own.Path, bytes, Reach::Disk});
     }
+    Begin(std::move(writes));
     kept = bytes;
 }
 
@@ -232,7 +250,7 @@ void RecoveryTick()
         if (diskIsFree) {
             Keep(*bytes);
         } else if (own.IsWritten && !IsWriting(Reach::System)) {
-            KeepFresh(*bytes);
+            KeepMeanwhile(*bytes);
         }
     } else {
         CallFromEventLoop(LookNow); // which may still find the run there
@@ -255,9 +273,10 @@ bool WriteRecovery()
     if (!bytes || !FindPlace().empty()) {
         return false;
     }
-    KeepFresh(*bytes);
-    own.IsWritten = true;
-    BeginWrite(Reach::Disk, own.Path, *bytes);
+    std::vector<LaterWrite> writes;
+    AddFresh(writes, *bytes);
+    writes.push_back({own.Path, *bytes, Reach::Disk});
+    Begin(std::move(writes));
     kept = *bytes;
     if (!EndWrites().empty()) {
         kept.clear(); // the new bytes may have come there before it failed

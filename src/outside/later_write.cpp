@@ -4,14 +4,20 @@
 #include <chrono>
 #include <filesystem>
 #include <future>
+#include <memory>
 #include <system_error>
+#include <thread>
 #include <utility>
 
 namespace kelvarine {
 
 namespace {
 
-using Work = std::shared_future<std::string>; // the words of a failure
+// What is under way of one reach: the words of its failure are to come.
+struct Work {
+    std::future<std::string> Words;
+    std::jthread Writer; // if no other work has it
+};
 
 Work toSystem;
 Work toDisk;
@@ -21,48 +27,52 @@ Work &WorkOf(Reach reach)
     return reach == Reach::System ? toSystem : toDisk;
 }
 
-std::string Write(Reach reach, const std::string &path, const std::string &bytes)
+std::string Write(const LaterWrite &file)
 {
     std::string error;
-    if (!ReplaceWholeFile(path, bytes, error, MissingFolders::Made, reach) &&
-        reach == Reach::System) {
+    if (!ReplaceWholeFile(file.Path, file.Bytes, error, MissingFolders::Made, file.HowFar) &&
+        file.HowFar == Reach::System) {
         std::error_code unseen;
-        std::filesystem::remove(path, unseen);
+        std::filesystem::remove(file.Path, unseen);
     }
     return error;
 }
 
-// What has come to an end already.
-Work Ended(std::string words)
+struct Job {
+    std::vector<LaterWrite> Files;
+    std::vector<std::promise<std::string>> Ends;
+};
+
+void DoAll(Job &job)
 {
-    std::promise<std::string> end;
-    end.set_value(std::move(words));
-    return end.get_future().share();
+    for (std::size_t k = 0; k < job.Files.size(); ++k) {
+        job.Ends[k].set_value(Write(job.Files[k]));
+    }
 }
 
 } // namespace
 
-void BeginWrite(Reach reach, std::string path, std::string bytes)
+void BeginWrite(std::vector<LaterWrite> files)
 {
-    assert(!IsWriting(reach));
-    const Work before = reach == Reach::Disk ? toSystem : Work();
-    const auto write = [reach, before, path = std::move(path), bytes = std::move(bytes)] {
-        if (before.valid()) {
-            before.wait();
-        }
-        return Write(reach, path, bytes);
-    };
+    assert(!files.empty());
+    const auto job = std::make_shared<Job>();
+    job->Files = std::move(files);
+    job->Ends.resize(job->Files.size());
+    for (std::size_t k = 0; k < job->Files.size(); ++k) {
+        assert(!IsWriting(job->Files[k].HowFar));
+        WorkOf(job->Files[k].HowFar).Words = job->Ends[k].get_future();
+    }
     try {
-        WorkOf(reach) = std::async(std::launch::async, write).share();
+        WorkOf(job->Files.back().HowFar).Writer = std::jthread([job] { DoAll(*job); });
     } catch (const std::system_error &) {
-        WorkOf(reach) = Ended(write()); // the system has no thread left, so this one waits
+        DoAll(*job);
     }
 }
 
 bool IsWriting(Reach reach)
 {
-    const Work &work = WorkOf(reach);
-    return work.valid() && work.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+    const std::future<std::string> &words = WorkOf(reach).Words;
+    return words.valid() && words.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
 }
 
 bool IsWriting()
@@ -72,8 +82,8 @@ bool IsWriting()
 
 std::string EndWrite(Reach reach)
 {
-    const Work work = std::exchange(WorkOf(reach), Work());
-    return work.valid() ? work.get() : std::string();
+    std::future<std::string> &words = WorkOf(reach).Words;
+    return words.valid() ? words.get() : std::string();
 }
 
 } // namespace kelvarine

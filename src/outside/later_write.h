@@ -1,18 +1,25 @@
-// Files that are written while the program goes on: nobody waits for the disk. Threads hand the
-// bytes to the system and touch nothing else of the program.
+// Files that are written while the program goes on: nobody waits for the disk. A thread hands the
+// bytes to the system and touches nothing else of the program.
 #pragma once
 
 #include "outside/whole_file.h"
 
 #include <string>
+#include <vector>
 
 namespace kelvarine {
 
-// Begins to replace a file as ReplaceWholeFile does. There is one writer for each reach, and no
-// other write of the same reach may be under way. What is to come to the disk waits for what was
-// begun before to come into the system's hands, but not the other way round. Where that fails the
-// file is taken away, so that nothing older is taken for it.
-void BeginWrite(Reach reach, std::string path, std::string bytes);
+struct LaterWrite {
+    std::string Path;
+    std::string Bytes;
+    Reach HowFar = Reach::Disk;
+};
+
+// Begins to replace files as ReplaceWholeFile does, one after the other; at most one of each reach,
+// of which no other write may be under way. Where one fails that is to come no further than the
+// system, its file is taken away, so that nothing older is taken for it. Where the system has no
+// thread left, all is written before this returns.
+void BeginWrite(std::vector<LaterWrite> files);
 
 // True from the beginning of a write until its end: of one reach, or of any.
 bool IsWriting(Reach reach);
