@@ -84,7 +84,6 @@ void ShowButtons()
 {
     UpdateToolTips();
     UpdateToolbar();
-    FocusBoard();
 }
 
 // ---- The mode buttons ----------------------------------------------------------------------
@@ -147,6 +146,7 @@ void PressModeButton(std::int32_t index)
     }
     ShowMode();
     ShowButtons();
+    FocusBoard();
 }
 
 // ---- The other buttons ---------------------------------------------------------------------
@@ -213,6 +213,13 @@ void FreezeHighlights()
     }
 }
 
+void StepSign()
+{
+    ToolSign = ToolSign <= 0 ? Add : ToolSign - 1;
+    SetNumberCaptions();
+    ShowButtons();
+}
+
 void PressSign()
 {
     if (ToolMode == SelectDomainsMode) {
@@ -222,9 +229,8 @@ void PressSign()
         FreezeHighlights();
         return;
     }
-    ToolSign = ToolSign <= 0 ? Add : ToolSign - 1;
-    SetNumberCaptions();
-    ShowButtons();
+    StepSign();
+    FocusBoard();
 }
 
 void ShowSign(std::int32_t sign)
@@ -310,6 +316,14 @@ void ShowPlainSign()
 {
     ToolSign = Replace + 1;
     ShowSign(ToolSign);
+}
+
+void LetSignGo()
+{
+    ToolSign = Replace + 1;
+    if (HasSign()) {
+        StepSign();
+    }
 }
 
 void LayoutToolbar(int width)

@@ -66,6 +66,10 @@ void ShowSignOfShift();
 void ShowSignOfCtrl();
 void ShowPlainSign();
 
+// A modifier key is no longer the board's: as when it comes up there, but the keyboard stays where
+// it is.
+void LetSignGo();
+
 // Places the buttons in a toolbar of a width, in pixels.
 void LayoutToolbar(int width);
 

@@ -37,6 +37,11 @@ bool IsTabulator(int key)
     return key == Qt::Key_Tab || key == Qt::Key_Backtab;
 }
 
+bool GoesByTabulator(const QFocusEvent &event)
+{
+    return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason;
+}
+
 } // namespace
 
 BoardWidget::BoardWidget(QWidget *parent)
@@ -137,6 +142,13 @@ void BoardWidget::TakeKeyRelease(const QKeyEvent &event)
     KeyUp(code);
 }
 
+void BoardWidget::TakeReleaseElsewhere(const QKeyEvent &event)
+{
+    if (IsSignKey(KeyCodeOf(event))) {
+        LetModifiersGo();
+    }
+}
+
 bool BoardWidget::SignFollowsKey() const
 {
     return modifierHeld;
@@ -161,7 +173,7 @@ void BoardWidget::LetModifiersGo()
 {
     // A sign that the player has set by the button is his own.
     if (std::exchange(modifierHeld, false)) {
-        ShowPlainSign();
+        LetSignGo();
     }
 }
 
@@ -178,7 +190,9 @@ void BoardWidget::keyReleaseEvent(QKeyEvent *event)
 void BoardWidget::focusInEvent(QFocusEvent *event)
 {
     QWidget::focusInEvent(event);
-    TakeModifiers();
+    if (event->reason() != Qt::BacktabFocusReason) { // whose Shift has done what it was pressed for
+        TakeModifiers();
+    }
     // The toolkit names the table; where the player is in it comes afterwards.
     TellPlaceAgain();
     TellChanges();
@@ -186,8 +200,10 @@ void BoardWidget::focusInEvent(QFocusEvent *event)
 
 void BoardWidget::focusOutEvent(QFocusEvent *event)
 {
-    // Where the focus goes nobody sees them come up.
-    LetModifiersGo();
+    // Where the focus goes nobody sees them come up, but at a button that Shift+Tab reaches.
+    if (!GoesByTabulator(*event)) {
+        LetModifiersGo();
+    }
     QWidget::focusOutEvent(event);
 }
 

@@ -26,6 +26,9 @@ public:
     // It shows no sign of a modifier any more: none is watched from now on.
     void LetModifiersGo();
 
+    // A key comes up at a button that Shift+Tab has reached from the board: a modifier is let go.
+    void TakeReleaseElsewhere(const QKeyEvent &event);
+
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;

@@ -4,7 +4,9 @@
 #include "input/toolbar.h"
 #include "paint/text.h"
 #include "paint/toolkit_colour.h"
+#include "ui/window/board_widget.h"
 #include "ui/window/key_decoder.h"
+#include "ui/window/main_window.h"
 #include "ui/window/tool_accessible.h"
 #include "ui/window/tools_listen.h"
 
@@ -173,9 +175,10 @@ void ToolButtonWidget::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void ToolButtonWidget::keyReleaseEvent(QKeyEvent * /*event*/)
+void ToolButtonWidget::keyReleaseEvent(QKeyEvent *event)
 {
     // Given on, a modifier that comes up would take the focus to the board.
+    Window()->Client->Board->TakeReleaseElsewhere(*event);
 }
 
 ToolbarWidget::ToolbarWidget(QWidget *parent) : QWidget(parent)

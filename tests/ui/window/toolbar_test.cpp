@@ -166,6 +166,27 @@ TEST_F(ToolbarOnView, ShiftAndTabGoBackFromAButtonAndPlaceNothing)
     EXPECT_EQ(WordAt({4, 7}), before);
 }
 
+TEST_F(ToolbarOnView, ShiftAndTabGoBackFromTheBoardAndKeepTheSignUntilShiftComesUp)
+{
+    QWindow *window = program.Main->windowHandle();
+    QTest::keyEvent(QTest::Press, window, Qt::Key_Backtab, Qt::ShiftModifier); // and Shift before
+    EXPECT_EQ(QApplication::focusWidget(), Button(14));
+    EXPECT_EQ(Button(1)->Caption(), "- 1");
+    QTest::keyEvent(QTest::Release, window, Qt::Key_Backtab, Qt::ShiftModifier); // and Shift after
+    EXPECT_EQ(Button(1)->Caption(), "1");
+    EXPECT_EQ(QApplication::focusWidget(), Button(14));
+}
+
+TEST_F(ToolbarOnView, ShiftAndTabToTheBoardShowNoSign)
+{
+    Button(0)->setFocus(Qt::TabFocusReason);
+    QWindow *window = program.Main->windowHandle();
+    QTest::keyEvent(QTest::Press, window, Qt::Key_Backtab, Qt::ShiftModifier); // and Shift before
+    EXPECT_EQ(QApplication::focusWidget(), Board());
+    EXPECT_EQ(Button(1)->Caption(), "1");
+    QTest::keyEvent(QTest::Release, window, Qt::Key_Backtab, Qt::ShiftModifier);
+}
+
 TEST_F(ToolbarOnView, AltAndALetterOnAFocusedButtonOpenTheMenuAlone)
 {
     WordAt({4, 7}) |= SelectedBit;
