@@ -50,6 +50,8 @@ std::optional<Look> last;
 
 constexpr double SearchInterval = 10; // seconds between two announcements of a search
 
+bool hasCome = false; // to the board, since the last look
+
 std::optional<double> searchTold; // when the search was last told of; empty without one
 bool longRunTold = false;
 
@@ -267,6 +269,9 @@ std::string ChangeOfSnapshot(const Look &before)
 
 PlaceChange ChangeOfPlace(const Look &before, const Look &now)
 {
+    if (std::exchange(hasCome, false)) {
+        return PlaceChange::Place;
+    }
     if (!now.Place) {
         return PlaceChange::None;
     }
@@ -317,14 +322,16 @@ std::string WordsOf(const Look &before, const Look &now, SelectionChange selecti
 void SetToldDefaults()
 {
     last.reset();
+    hasCome = false;
     searchTold.reset();
     longRunTold = false;
 }
 
 void TellPlaceAgain()
 {
+    hasCome = true;
     if (last) {
-        last->Place.reset();
+        last->Place.reset(); // who is told of it knows that it is selected
     }
 }
 
@@ -336,7 +343,8 @@ Told NextTold(bool signFollowsKey)
     if (!last) {
         now.Sign = signFollowsKey || !HasSign() ? Replace : ToolSign;
         last = now;
-        return {now.Place ? PlaceChange::Place : PlaceChange::None, SelectionChange::None, {}};
+        const bool tells = std::exchange(hasCome, false) || now.Place;
+        return {tells ? PlaceChange::Place : PlaceChange::None, SelectionChange::None, {}};
     }
     const Look &before = *last;
     if (signFollowsKey || !HasSign()) {

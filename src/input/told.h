@@ -13,7 +13,7 @@ namespace kelvarine {
 // What a listener should be told of the cell at which the player is.
 enum class PlaceChange : std::uint8_t {
     None,
-    Place, // the player is at another cell
+    Place, // the player is at another cell, or comes to the board
     Text   // the cell shows something else
 };
 
@@ -30,7 +30,8 @@ struct Told {
 // Makes the next look the first one, which tells of nothing but the place.
 void SetToldDefaults();
 
-// The player has come back to the board: the next look tells where he is.
+// The player has come to the board: the next look tells where he is, and if he is at no cell that
+// the place is the board.
 void TellPlaceAgain();
 
 // What is to be told since the last look. The sign of the toolbar is not told while it follows a

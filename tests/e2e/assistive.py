@@ -46,10 +46,17 @@ class Ear:
 
     def hear(self, event):
         try:
-            source = event.source.getRoleName(), event.source.name
+            source = event.source.getRoleName(), self.words_of(event.source)
         except Exception:  # a box that has closed meanwhile, told by an error of the bindings
             source = "gone", ""
         self.events.append((event.type, event.detail1, *source))
+
+    @staticmethod
+    def words_of(source):
+        """What a screen reader says of a thing beside its role; of the board and its cells with what they
+        are described by."""
+        described = source.getRoleName() in ("table", "table cell") and source.description
+        return f"{source.name}; {source.description}" if described else source.name
 
     def pump(self):
         while self.loop.pending():

@@ -11,6 +11,7 @@
 #include "input/mouse.h"
 #include "input/number_keys.h"
 #include "input/selection.h"
+#include "input/spoken.h"
 #include "input/told.h"
 #include "input/toolbar.h"
 #include "logic/technique.h"
@@ -373,6 +374,20 @@ TEST_F(Told, ReturnToTheBoardTellsThePlaceAgain)
     GoTo({3, 1});
     TellPlaceAgain();
     EXPECT_EQ(NextTold(false).Place, PlaceChange::Place);
+    ExpectNothingMore();
+}
+
+TEST_F(Told, ComingToTheBoardAtNoCellIsAPlaceToo)
+{
+    mnuSelectWholeGrid();
+    NextTold(false);
+    ASSERT_FALSE(SpokenPlace());
+    TellPlaceAgain();
+    EXPECT_EQ(NextTold(false).Place, PlaceChange::Place);
+    ExpectNothingMore();
+    SetToldDefaults();
+    TellPlaceAgain();
+    EXPECT_EQ(NextTold(false).Place, PlaceChange::Place) << "at the first look";
     ExpectNothingMore();
 }
 

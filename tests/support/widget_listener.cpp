@@ -54,8 +54,11 @@ void Note(const QAccessibleEvent &event)
     if (item == nullptr || !item->isValid()) {
         return;
     }
-    heard.push_back(KindOf(event.type()) + " " + PlaceOf(*item) +
-                    item->text(QAccessible::Name).toStdString());
+    const std::string words = item->text(QAccessible::Name).toStdString();
+    const std::string more = item->text(QAccessible::Description).toStdString();
+    const bool reads = event.type() == QAccessible::Focus && !more.empty();
+    heard.push_back(KindOf(event.type()) + " " + PlaceOf(*item) + words +
+                    (reads ? "; " + more : ""));
 }
 
 } // namespace

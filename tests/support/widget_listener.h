@@ -17,7 +17,8 @@ public:
     ~Listener();
 
     // What was heard since the last call, up to where the event loop has come to rest, each as
-    // kind, cell if it is one, and name: "Focus [A1] 5, given", "ObjectShow 9 cells changed".
+    // kind, cell if it is one, and name, with the focus also what the thing is described by:
+    // "Focus [A1] 5, given", "Focus [A1] empty; 2 cells selected", "ObjectShow 9 cells changed".
     std::vector<std::string> Heard();
 };
 

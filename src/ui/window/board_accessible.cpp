@@ -159,6 +159,12 @@ public:
         return widget()->hasFocus() && place ? child(ChildOf(*place)) : nullptr;
     }
 
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Description && !SpokenPlace() ? WordsOfStep()
+                                                                  : QAccessibleWidget::text(kind);
+    }
+
     // ---- The pattern on view -----------------------------------------------------------------
 
     [[nodiscard]] QStringList actionNames() const override

@@ -4,7 +4,6 @@
 #include "game/search.h"
 #include "input/keys.h"
 #include "input/mouse.h"
-#include "input/told.h"
 #include "input/toolbar.h"
 #include "outside/events.h"
 #include "outside/window.h"
@@ -193,9 +192,7 @@ void BoardWidget::focusInEvent(QFocusEvent *event)
     if (event->reason() != Qt::BacktabFocusReason) { // whose Shift has done what it was pressed for
         TakeModifiers();
     }
-    // The toolkit names the table; where the player is in it comes afterwards.
-    TellPlaceAgain();
-    TellChanges();
+    TellArrival();
 }
 
 void BoardWidget::focusOutEvent(QFocusEvent *event)

@@ -14,6 +14,7 @@
 #include "ui/window/main_window.h"
 #include "ui/window/notices.h"
 #include "ui/window/part_accessible.h"
+#include "ui/window/teller.h"
 
 #include <QAccessible>
 
@@ -145,7 +146,7 @@ public:
         case QAccessible::Name:
             return Text(SpokenCell(place));
         case QAccessible::Description:
-            return Text(SpokenInPattern(place));
+            return Description();
         default:
             return {};
         }
@@ -213,6 +214,17 @@ public:
     }
 
 private:
+    // Its place in the pattern, and what came of the step that led here.
+    [[nodiscard]] QString Description() const
+    {
+        QStringList words{Text(SpokenInPattern(place))};
+        if (SpokenPlace() == place) {
+            words.append(WordsOfStep());
+        }
+        words.removeAll(QString());
+        return words.join(QStringLiteral("; "));
+    }
+
     Cell place;
 };
 

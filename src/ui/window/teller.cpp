@@ -12,6 +12,7 @@
 #include "ui/window/main_window.h"
 #include "ui/window/menus.h"
 #include "ui/window/notices.h"
+#include "ui/window/table_focus.h"
 #include "ui/window/tools_listen.h"
 
 #include <QAccessible>
@@ -23,30 +24,58 @@ namespace kelvarine {
 
 namespace {
 
-void TellPlace(PlaceChange change)
+QString wordsOfStep;
+
+void TellOfTable(QAccessible::Event kind)
 {
-    if (change == PlaceChange::None) {
-        return;
-    }
-    BoardWidget *board = Window()->Client->Board;
-    const bool goes = change == PlaceChange::Place && board->hasFocus();
-    QAccessibleEvent event(board, goes ? QAccessible::Focus : QAccessible::NameChanged);
-    event.setChild(ChildOf(*SpokenPlace()));
+    QAccessibleEvent event(Window()->Client->Board, kind);
     QAccessible::updateAccessibility(&event);
+}
+
+// An event of the cell at which the player is; of the board where he is at none.
+void TellOfPlace(QAccessible::Event kind)
+{
+    QAccessibleEvent event(Window()->Client->Board, kind);
+    if (const std::optional<Cell> place = SpokenPlace()) {
+        event.setChild(ChildOf(*place));
+    }
+    QAccessible::updateAccessibility(&event);
+}
+
+// The place reached, with what came of the step; a number that was entered there it tells itself.
+void TellStep(const std::string &words)
+{
+    const std::optional<Cell> place = SpokenPlace();
+    const bool tellsItself = place && words == SpokenNumbers(*place);
+    wordsOfStep = tellsItself ? QString() : Text(words);
+    TellOfPlace(QAccessible::Focus);
 }
 
 void TellSelection(SelectionChange change)
 {
-    if (change == SelectionChange::None) {
+    if (change == SelectionChange::One) {
+        TellOfPlace(QAccessible::Selection);
+    } else if (change == SelectionChange::Many) {
+        TellOfTable(QAccessible::SelectionWithin);
+    }
+}
+
+void TellOf(const Told &told)
+{
+    if (told.Place == PlaceChange::Place && Window()->Client->Board->hasFocus()) {
+        TellStep(told.Words);
+        TellSelection(told.Selection);
         return;
     }
-    QAccessibleEvent event(Window()->Client->Board, change == SelectionChange::One
-                                                        ? QAccessible::Selection
-                                                        : QAccessible::SelectionWithin);
-    if (change == SelectionChange::One) {
-        event.setChild(ChildOf(*SpokenPlace()));
+    const bool ofPlace = told.Place != PlaceChange::None && SpokenPlace();
+    if (ofPlace || told.Selection != SelectionChange::None || !told.Words.empty()) {
+        wordsOfStep.clear();
     }
-    QAccessible::updateAccessibility(&event);
+    if (ofPlace) {
+        TellOfPlace(QAccessible::NameChanged);
+    }
+    TellSelection(told.Selection);
+    Tell(Text(told.Words));
 }
 
 void TellRun()
@@ -60,20 +89,21 @@ void TellRun()
 
 void TellNow()
 {
+    const bool tableWasLeftOut = TableFocusWasLeftOut();
     if (!ToolsListen()) {
         return;
     }
     // What is done with the board then is not the player's.
     if (SearchActive != False || RunUnderWay != False || PrintRunning != False) {
+        if (tableWasLeftOut) {
+            TellOfTable(QAccessible::Focus);
+        }
         if (SearchActive != False) {
             TellRun();
         }
         return;
     }
-    const Told told = NextTold(Window()->Client->Board->SignFollowsKey());
-    TellPlace(told.Place);
-    TellSelection(told.Selection);
-    Tell(Text(told.Words));
+    TellOf(NextTold(Window()->Client->Board->SignFollowsKey()));
     UpdateMenuStates(*Window()->menuBar());
 }
 
@@ -91,6 +121,21 @@ void TellChanges()
         QObject::connect(turn, &QTimer::timeout, turn, TellNow);
     }
     turn->start(0);
+}
+
+void TellArrival()
+{
+    if (!ToolsListen() || Window() == nullptr) {
+        return;
+    }
+    TellPlaceAgain();
+    LeaveOutTableFocus();
+    TellChanges();
+}
+
+const QString &WordsOfStep()
+{
+    return wordsOfStep;
 }
 
 } // namespace kelvarine

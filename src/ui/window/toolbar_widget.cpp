@@ -119,7 +119,7 @@ QString ToolButtonWidget::Caption() const
 }
 
 // What a button is called changes with few presses, what it would do with nearly all of them; that
-// is read by whoever comes to the button.
+// is read by whoever comes to the button, and told only where he is.
 void ToolButtonWidget::TellWords()
 {
     if (!ToolsListen()) {
@@ -142,7 +142,9 @@ void ToolButtonWidget::TellWords()
 void ToolButtonWidget::focusInEvent(QFocusEvent *event)
 {
     QPushButton::focusInEvent(event);
-    TellWords();
+    if (ToolsListen()) {
+        toldUse = Text(SpokenToolUse(number)); // as it is read with the focus
+    }
 }
 
 void ToolButtonWidget::mousePressEvent(QMouseEvent * /*event*/)

@@ -3,6 +3,7 @@
 #include "input/toolbar.h"
 #include "logic/driver.h"
 #include "outside/window.h"
+#include "support/widget_events.h"
 #include "support/widget_listener.h"
 #include "support/widget_program.h"
 #include "ui/window/board_widget.h"
@@ -10,6 +11,8 @@
 #include <QAccessible>
 #include <QtTest>
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace kelvarine::testing {
 namespace {
@@ -42,6 +45,15 @@ protected:
     void Press(Qt::Key key) const
     {
         QTest::keyClick(Board(), key);
+    }
+
+    [[nodiscard]] std::string DescriptionOf(int column, int row) const
+    {
+        return QAccessible::queryAccessibleInterface(Board())
+            ->tableInterface()
+            ->cellAt(row - 1, column - 1)
+            ->text(QAccessible::Description)
+            .toStdString();
     }
 
     Program program;
@@ -91,6 +103,70 @@ TEST_F(Teller, ToolThatComesBackIsNotToldWhatHappenedMeanwhile)
     QAccessible::setActive(true);
     UpdateToolbar();
     EXPECT_EQ(listener.Heard(), Texts{"Focus [A1] 8"});
+}
+
+TEST_F(Teller, ComingToTheBoardAtNoCellIsToldByTheBoard)
+{
+    Listener listener;
+    UpdateCaptions();
+    listener.Heard();
+    ToolButtonOf(*program.Main, 1)->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(listener.Heard(), Texts{});
+    Board()->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(listener.Heard(), Texts{"Focus Sudoku board"});
+}
+
+TEST_F(Teller, WordsThatComeWithAStepAreToldByTheCellReached)
+{
+    Listener listener;
+    Press(Qt::Key_Down);
+    listener.Heard();
+    SendKey(Board(), QEvent::KeyPress, Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(listener.Heard(),
+              (Texts{"Focus [B1] empty; 2 cells selected", "SelectionWithin Sudoku board"}));
+    UpdateCaptions();
+    EXPECT_EQ(listener.Heard(), Texts{});
+    EXPECT_EQ(DescriptionOf(2, 1), "2 cells selected") << "until something else is told";
+    EXPECT_EQ(DescriptionOf(1, 1), "");
+    Press(Qt::Key_R);
+    EXPECT_EQ(listener.Heard(),
+              (Texts{"SelectionWithin Sudoku board", "ObjectShow 9 cells selected, row 1"}));
+    EXPECT_EQ(DescriptionOf(2, 1), "");
+}
+
+TEST_F(Teller, WordsThatComeWithTheReturnToNoCellAreToldByTheBoard)
+{
+    Listener listener;
+    UpdateCaptions();
+    ToolButtonOf(*program.Main, EscapeButton)->setFocus(Qt::TabFocusReason);
+    listener.Heard();
+    QTest::keyClick(ToolButtonOf(*program.Main, EscapeButton), Qt::Key_Space);
+    EXPECT_EQ(listener.Heard(),
+              (Texts{"Focus Sudoku board; 81 cells selected", "SelectionWithin Sudoku board"}));
+}
+
+TEST_F(Teller, NumberOfAButtonIsToldByTheCellThatGetsIt)
+{
+    Listener listener;
+    Press(Qt::Key_Down);
+    listener.Heard();
+    ToolButtonOf(*program.Main, 6)->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(ToolButtonOf(*program.Main, 6), Qt::Key_Space);
+    EXPECT_EQ(listener.Heard(), Texts{"Focus [A1] 6"});
+}
+
+// Who comes to a button reads it.
+TEST_F(Teller, UseOfAButtonIsToldApartOnlyWhileThePlayerIsThere)
+{
+    Listener listener;
+    listener.Heard();
+    ToolButtonWidget *select = ToolButtonOf(*program.Main, SelectButton);
+    select->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(listener.Heard(), Texts{});
+    QTest::keyClick(select, Qt::Key_Space);
+    const Texts heard = listener.Heard();
+    EXPECT_EQ(std::ranges::count(heard, "DescriptionChanged Select singles"), 1)
+        << ::testing::PrintToString(heard);
 }
 
 } // namespace
