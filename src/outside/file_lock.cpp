@@ -98,7 +98,12 @@ LockState FileLock::Wait(int patience)
             return ::flock(file.Number(), LOCK_EX) == 0;
         });
     std::future<bool> granted = waiting.get_future();
-    std::thread(std::move(waiting)).detach();
+    try {
+        std::thread(std::move(waiting)).detach();
+    } catch (const std::system_error &failure) { // the system has none left
+        error_ = failure.code().message();
+        return LockState::Failed;
+    }
     const bool inTime =
         granted.wait_for(std::chrono::milliseconds(patience)) == std::future_status::ready;
     return inTime && granted.get() ? LockState::Held : LockState::Busy;

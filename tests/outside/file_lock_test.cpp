@@ -99,6 +99,24 @@ TEST_F(FileLockTest, FileThatMayOnlyBeReadWillDo)
     EXPECT_EQ(result, 0);
 }
 
+// For whoever waits a thread has to be made.
+TEST_F(FileLockTest, CannotBeWaitedForWhereTheSystemHasNoThreadLeft)
+{
+    const int result = RunInChild([&] {
+        if (!ForbidThreads()) {
+            return 1;
+        }
+        constexpr int aMinute = 60'000;
+        const FileLock first(Path, aMinute);
+        EXPECT_EQ(first.State(), LockState::Held) << "for the one that need not wait, none";
+        const FileLock second(Path, aMinute);
+        EXPECT_EQ(second.State(), LockState::Failed);
+        EXPECT_EQ(second.Error(), "Resource temporarily unavailable");
+        return HasFailure() ? 1 : 0;
+    });
+    EXPECT_EQ(result, 0);
+}
+
 TEST_F(FileLockTest, DoesNotFollowALink)
 {
     std::filesystem::create_symlink(Folder.Path("target"), Folder.Path("link"));
