@@ -123,11 +123,8 @@ ConfigureScreen *OpenConfigureScreen()
 }
 
 ConfigureScreen::ConfigureScreen(QWidget *parent)
-    : QWidget(parent, Qt::Dialog), strip(new TabStrip(this, TabTexts(), TabKeys(),
-                                                      [this](std::int32_t tab) {
-                                                          CurrentTab = tab;
-                                                          ShowTab();
-                                                      })),
+    : QWidget(parent, Qt::Dialog),
+      strip(new TabStrip(this, TabTexts(), TabKeys(), [this](std::int32_t tab) { Choose(tab); })),
       container(new QWidget(this)), scrollBar(new QScrollBar(Qt::Vertical, this))
 {
     const QScopedValueRollback loading(LoadingControls, true);
@@ -176,12 +173,7 @@ void ConfigureScreen::AddAccessKeys()
     const auto add = [this](char letter, std::int32_t tab) {
         auto *key = new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(letter)), this);
         key->setObjectName(IndexedName("cmdAltKeys", tab));
-        connect(key, &QShortcut::activated, this, [this, tab] {
-            if (CurrentTab != tab && !IsBusy()) {
-                CurrentTab = tab;
-                ShowTab();
-            }
-        });
+        connect(key, &QShortcut::activated, this, [this, tab] { Choose(tab); });
     };
     std::int32_t tab = 0;
     for (const TabRow &row : TabRows) {
@@ -189,6 +181,14 @@ void ConfigureScreen::AddAccessKeys()
     }
     for (const char letter : KeysWithoutTab) {
         add(letter, tab++);
+    }
+}
+
+void ConfigureScreen::Choose(std::int32_t tab)
+{
+    if (tab != CurrentTab && !IsBusy()) {
+        CurrentTab = tab;
+        ShowTab();
     }
 }
 

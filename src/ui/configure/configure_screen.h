@@ -42,6 +42,7 @@ protected:
 
 private:
     void AddAccessKeys();
+    void Choose(std::int32_t tab); // by the player; nothing while a search runs
     void ArrangePanels();
     bool TakeWheel(const QWidget &widget, QWheelEvent &event);
 

@@ -18,6 +18,7 @@
 #include <QStyle>
 
 #include <array>
+#include <functional>
 #include <vector>
 
 namespace kelvarine {
@@ -213,28 +214,33 @@ void LogicPanel::CheckAll(const std::vector<QCheckBox *> &boxes, bool on)
 void LogicPanel::BuildMenu()
 {
     ratings->setObjectName("mnuRatings");
+    // The menu may stand open when a search begins.
+    const auto add = [this](const QString &caption, const char *name,
+                            const std::function<void()> &act) {
+        QAction *action = ratings->addAction(caption);
+        action->setObjectName(Text(name));
+        connect(action, &QAction::triggered, this, [this, act] {
+            if (ChangesCount()) {
+                act();
+                ShowLevel(menuRow);
+            }
+        });
+    };
     std::int32_t level = 0;
     for (const char *name : LevelEntries) {
         ++level;
-        QAction *action = ratings->addAction(Text(WordsOfRating(level).Capital));
-        action->setObjectName(Text(name));
-        connect(action, &QAction::triggered, this, [this, level] {
-            SetLevel(menuRow, level);
-            ShowLevel(menuRow);
-        });
+        add(Text(WordsOfRating(level).Capital), name, [this, level] { SetLevel(menuRow, level); });
     }
-    QAction *require = ratings->addAction("Require (*)");
-    require->setObjectName("mnuRequire");
-    connect(require, &QAction::triggered, this, [this] {
-        ToggleRequired(menuRow);
-        ShowLevel(menuRow);
-    });
+    add("Require (*)", "mnuRequire", [this] { ToggleRequired(menuRow); });
     connect(ratings, &QMenu::aboutToHide, this,
             [this] { levelLabels[PlaceOf(menuRow)]->ShowOpen(false); });
 }
 
 void LogicPanel::OpenMenu(std::int32_t k)
 {
+    if (!ChangesCount()) {
+        return;
+    }
     menuRow = k;
     LevelLabel *label = levelLabels[PlaceOf(k)];
     label->ShowOpen(true);
