@@ -130,12 +130,19 @@ QLayout *ColoursPanel::MakeOptionColumn()
     }
     MakeOneStop(*group);
     PressButton::MakeOneStop({swatches.begin(), swatches.end()}, 1);
-    connect(group, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
-        if (checked) {
-            ColourIndex = static_cast<std::size_t>(id);
-            ShowColour();
-        }
-    });
+    const auto show = [group](int id) {
+        ChooseOption(*group, id);
+    };
+    const auto choose = [this](int id) {
+        ColourIndex = static_cast<std::size_t>(id);
+        ShowColour();
+    };
+    connect(group, &QButtonGroup::idToggled, this,
+            [take = HandingOn(group->checkedId(), show, choose)](int id, bool checked) mutable {
+                if (checked) {
+                    take(id);
+                }
+            });
     return grid;
 }
 
@@ -174,7 +181,7 @@ QLayout *ColoursPanel::MakeBars()
         value->setMinimumWidth(value->fontMetrics().horizontalAdvance("000"));
         value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         connect(bars[k], &QScrollBar::valueChanged, value,
-                [value](int shown) { value->setText(QString::number(shown)); });
+                [value, bar = bars[k]] { value->setText(QString::number(bar->value())); });
         grid->addWidget(new QLabel(Text(BarCaptions[k]), this), row, 0);
         grid->addWidget(bars[k], row, 1);
         grid->addWidget(value, row, 2);

@@ -90,6 +90,9 @@ bool IsInput(QEvent::Type type)
     case QEvent::Wheel:
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+    case QEvent::ContextMenu: // from which a box can be filled
+    case QEvent::Drop:
         return true;
     default:
         return false;

@@ -71,7 +71,7 @@ QWidget *MakeThickness(QWidget *parent, const ThicknessRow &row)
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     // The label follows the bar whoever moves it.
     QObject::connect(bar, &QScrollBar::valueChanged, value,
-                     [value](int pixels) { value->setText(QString::number(pixels)); });
+                     [value, bar] { value->setText(QString::number(bar->value())); });
     grid->addWidget(new QLabel("Thickness", frame), 0, 0);
     grid->addWidget(value, 0, 1);
     grid->addWidget(bar, 1, 0, 1, 2);

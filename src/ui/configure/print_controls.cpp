@@ -38,10 +38,14 @@ MeasureBox *AddMeasure(QFormLayout *form, const char *name, const char *caption,
                        void (*set)(double), const Refresh &refresh)
 {
     auto *box = Named(new MeasureBox(form->parentWidget()), name, Text(caption) + ", inches");
-    QObject::connect(box, &QLineEdit::textEdited, box, [box, set, refresh] {
-        set(box->Measure());
-        refresh();
-    });
+    const auto show = [box](const QString &text) {
+        box->setText(text);
+    };
+    QObject::connect(box, &QLineEdit::textChanged, box,
+                     HandingOn(box->text(), show, [box, set, refresh](const QString & /*text*/) {
+                         set(box->Measure());
+                         refresh();
+                     }));
     QObject::connect(box, &QLineEdit::editingFinished, box, [box, refresh] {
         box->setModified(false);
         refresh();
@@ -131,13 +135,14 @@ void MakeModes(PrintControls &on, QWidget *panel, const Refresh &refresh)
 {
     on.Modes[PrintCurrent] = MakeMode(panel, "optPrintGame(0)", " Current game");
     on.Modes[PrintNewGames] = MakeMode(panel, "optPrintGame(1)", " New game(s)");
+    const auto show = [modes = on.Modes](bool newGames) {
+        modes[newGames ? PrintNewGames : PrintCurrent]->setChecked(true);
+    };
     QObject::connect(on.Modes[PrintNewGames], &QRadioButton::toggled, panel,
-                     [refresh](bool newGames) {
-                         if (ChangesCount()) {
-                             PrintMode = newGames ? PrintNewGames : PrintCurrent;
-                             refresh();
-                         }
-                     });
+                     HandingOn(false, show, [refresh](bool newGames) {
+                         PrintMode = newGames ? PrintNewGames : PrintCurrent;
+                         refresh();
+                     }));
 }
 
 // Pressed once more while games are made it asks whether to stop, so no guard holds it back.

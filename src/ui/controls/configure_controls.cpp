@@ -25,6 +25,11 @@ bool ChangesCount()
     return !LoadingControls && !ShowingValues && !IsBusy();
 }
 
+bool IsHeldBySearch()
+{
+    return !LoadingControls && !ShowingValues && IsBusy();
+}
+
 QString IndexedName(std::string_view name, int index)
 {
     return Text(name) + QString::number(index);
@@ -47,11 +52,10 @@ QCheckBox *MakeCheckBox(QWidget *parent, const QString &name, std::string_view c
 {
     auto *box = Named(new QCheckBox(Text(caption), parent), name, SpokenText(caption));
     box->setChecked(on);
-    QObject::connect(box, &QCheckBox::toggled, box, [change](bool checked) {
-        if (ChangesCount()) {
-            change(checked);
-        }
-    });
+    const auto show = [box](bool checked) {
+        box->setChecked(checked);
+    };
+    QObject::connect(box, &QCheckBox::toggled, box, HandingOn(on, show, change));
     return box;
 }
 
@@ -76,11 +80,10 @@ QScrollBar *MakeBar(QWidget *parent, const QString &name, const QString &spoken,
     bar->setSingleStep(steps.Small);
     bar->setPageStep(steps.Large);
     bar->setValue(value);
-    QObject::connect(bar, &QScrollBar::valueChanged, bar, [change](int moved) {
-        if (ChangesCount()) {
-            change(moved);
-        }
-    });
+    const auto show = [bar](int place) {
+        bar->setValue(place);
+    };
+    QObject::connect(bar, &QScrollBar::valueChanged, bar, HandingOn(bar->value(), show, change));
     return bar;
 }
 
@@ -89,12 +92,25 @@ QLineEdit *MakeNumberBox(QWidget *parent, const QString &name, const QString &sp
 {
     auto *box = Named(new DigitBox(parent), name, spoken);
     box->setText(QString::number(number));
-    QObject::connect(box, &QLineEdit::textChanged, box, [change](const QString &text) {
-        if (ChangesCount()) {
-            change(NumberIn(text.toStdString()));
-        }
-    });
+    const auto show = [box](const QString &text) {
+        box->setText(text);
+    };
+    QObject::connect(box, &QLineEdit::textChanged, box,
+                     HandingOn(box->text(), show, [change](const QString &text) {
+                         change(NumberIn(text.toStdString()));
+                     }));
     return box;
+}
+
+void ChooseOption(QButtonGroup &group, int id)
+{
+    if (QAbstractButton *option = group.button(id); option != nullptr) {
+        option->setChecked(true);
+    } else if (QAbstractButton *chosen = group.checkedButton(); chosen != nullptr) {
+        group.setExclusive(false); // else the last one could not be let go
+        chosen->setChecked(false);
+        group.setExclusive(true);
+    }
 }
 
 void MakeOneStop(QButtonGroup &group)
@@ -128,11 +144,16 @@ QGroupBox *MakeOptions(QWidget *parent, std::string_view name, std::string_view 
     }
     column->addStretch();
     MakeOneStop(*group);
-    QObject::connect(group, &QButtonGroup::idToggled, box, [change](int id, bool checked) {
-        if (checked && ChangesCount()) {
-            change(id);
-        }
-    });
+    const auto show = [group](int id) {
+        ChooseOption(*group, id);
+    };
+    QObject::connect(
+        group, &QButtonGroup::idToggled, box,
+        [take = HandingOn(group->checkedId(), show, change)](int id, bool checked) mutable {
+            if (checked) {
+                take(id);
+            }
+        });
     return box;
 }
 
@@ -143,11 +164,15 @@ QComboBox *MakeList(QWidget *parent, const QString &name, const QString &spoken,
     auto *list = Named(new QComboBox(parent), name, spoken);
     list->addItems(entries);
     list->setCurrentIndex(current < entries.size() ? std::max(current, -1) : -1);
-    QObject::connect(list, &QComboBox::currentIndexChanged, list, [change](int index) {
-        if (index >= 0 && ChangesCount()) {
-            change(index);
-        }
-    });
+    const auto show = [list](int index) {
+        list->setCurrentIndex(index);
+    };
+    QObject::connect(list, &QComboBox::currentIndexChanged, list,
+                     HandingOn(list->currentIndex(), show, [change](int index) {
+                         if (index >= 0) {
+                             change(index);
+                         }
+                     }));
     return list;
 }
 

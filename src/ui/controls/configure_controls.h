@@ -2,6 +2,7 @@
 // hands a change on at once, unless code is filling it.
 #pragma once
 
+#include <QScopedValueRollback>
 #include <QString>
 
 #include <cstdint>
@@ -30,6 +31,28 @@ extern bool ShowingValues;   // controls are moved to values that were set elsew
 
 // True when the change of a control is the player's: no guard is on and no search is running.
 bool ChangesCount();
+
+// True when it would be, but for a search that is running.
+bool IsHeldBySearch();
+
+// What a control does with its changes, of which it now shows a value. One that counts is handed
+// on. While a search runs assistive tools and menus that stood open still move controls: that is
+// taken back by show, so that they go on showing what is set.
+template <typename Value, typename Show, typename Change>
+auto HandingOn(Value shown, Show show, Change change)
+{
+    return [shown, show, change](const Value &value) mutable {
+        if (IsHeldBySearch()) {
+            const QScopedValueRollback showing(ShowingValues, true);
+            show(Value(shown));
+            return;
+        }
+        shown = value;
+        if (ChangesCount()) {
+            change(value);
+        }
+    };
+}
 
 // ---- Places ----------------------------------------------------------------------------------
 
@@ -83,6 +106,9 @@ QLineEdit *MakeNumberBox(QWidget *parent, const QString &name, const QString &sp
 QGroupBox *MakeOptions(QWidget *parent, std::string_view name, std::string_view frame,
                        std::span<const std::string_view> captions, std::int32_t current,
                        const std::function<void(std::int32_t)> &change);
+
+// Chooses the option of an index in a group, or none when there is no such option.
+void ChooseOption(QButtonGroup &group, int id);
 
 // Tab leads to the chosen one of a group of options, or to the first while there is none.
 void MakeOneStop(QButtonGroup &group);
