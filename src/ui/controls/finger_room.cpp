@@ -17,6 +17,13 @@ bool HasTouch()
     });
 }
 
+// A line between entries is nothing to press.
+bool IsLineOfMenu(const QStyleOption *option)
+{
+    const auto *entry = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+    return entry != nullptr && entry->menuItemType == QStyleOptionMenuItem::Separator;
+}
+
 bool IsInForce()
 {
     return qobject_cast<const FingerStyle *>(QApplication::style()) != nullptr;
@@ -35,12 +42,13 @@ QSize FingerStyle::sizeFromContents(ContentsType type, const QStyleOption *optio
     case CT_ToolButton:
     case CT_ComboBox:
     case CT_LineEdit:
-    case CT_MenuItem:
     case CT_MenuBarItem:
     case CT_ItemViewItem:
     case CT_TabBarTab:
     case CT_HeaderSection:
         return usual.expandedTo({FingerSide, FingerSide});
+    case CT_MenuItem:
+        return IsLineOfMenu(option) ? usual : usual.expandedTo({FingerSide, FingerSide});
     default:
         return usual;
     }

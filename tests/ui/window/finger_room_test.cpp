@@ -20,6 +20,7 @@
 #include <QPointingDevice>
 #include <QScrollBar>
 #include <QStyleFactory>
+#include <QStyleOption>
 #include <QtTest>
 #include <gtest/gtest.h>
 
@@ -134,6 +135,26 @@ TEST_F(FingerRoom, IsInEveryMenu)
         }
     }
     EXPECT_GT(entries, 50);
+}
+
+TEST_F(FingerRoom, LinesBetweenEntriesStayAsTheyAre)
+{
+    int lines = 0;
+    const QStyle *usual = qobject_cast<QProxyStyle *>(QApplication::style())->baseStyle();
+    for (const QMenu *menu : program->Main->menuBar()->findChildren<QMenu *>()) {
+        for (QAction *entry : menu->actions()) {
+            if (entry->isSeparator()) {
+                ++lines;
+                QStyleOptionMenuItem line;
+                line.initFrom(menu);
+                line.menuItemType = QStyleOptionMenuItem::Separator;
+                EXPECT_EQ(menu->actionGeometry(entry).height(),
+                          usual->sizeFromContents(QStyle::CT_MenuItem, &line, {}, menu).height())
+                    << menu->title().toStdString();
+            }
+        }
+    }
+    EXPECT_GT(lines, 5);
 }
 
 TEST_F(FingerRoom, PressAtTheEdgeOfABoxIsOneOnIt)
