@@ -111,9 +111,13 @@ bool HelpBrowser::IsDark() const
            palette().color(QPalette::Text).lightness();
 }
 
-// The width of a picture that is not zoomed: its own, or what a narrow page has for it.
+// The width of a picture that is not zoomed: its own, or what a narrow page of the window has for
+// it.
 int HelpBrowser::UsualSide() const
 {
+    if (isOnPaper) {
+        return HelpPictureSide;
+    }
     const int room = width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width() -
                      2 * static_cast<int>(PageMargin);
     return std::clamp(room, 1, HelpPictureSide);

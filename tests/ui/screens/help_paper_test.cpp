@@ -6,6 +6,7 @@
 #include "ui/screens/help_window.h"
 
 #include <QPrinter>
+#include <QTextDocument>
 #include <QtTest>
 #include <gtest/gtest.h>
 
@@ -32,6 +33,7 @@ protected:
     {
         for (int turn = 0; turn < 3; ++turn) {
             Window->grab();
+            static_cast<void>(Window->Browser->document()->size()); // lays out all of the page
             QCoreApplication::processEvents();
         }
         return Window->Browser->viewport()->grab().toImage();
@@ -65,6 +67,21 @@ TEST_F(HelpOnPaper, IsTheSameUnderADarkDesktop)
         EXPECT_TRUE(printed[page] == light[page]) << "page " << page;
     }
     EXPECT_TRUE(View() == view) << "and the window stays dark";
+}
+
+TEST_F(HelpOnPaper, IsTheSameFromANarrowWindow)
+{
+    Window->resize(1200, 800);
+    static_cast<void>(View());
+    const std::vector<QImage> wide = Print("wide.pdf");
+    Window->resize(Window->minimumSizeHint().width(), 800);
+    const QImage view = View();
+    const std::vector<QImage> narrow = Print("narrow.pdf");
+    ASSERT_EQ(narrow.size(), wide.size());
+    for (std::size_t page = 0; page < wide.size(); ++page) {
+        EXPECT_TRUE(narrow[page] == wide[page]) << "page " << page;
+    }
+    EXPECT_TRUE(View() == view) << "and the window stays narrow";
 }
 
 } // namespace
