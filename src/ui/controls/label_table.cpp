@@ -2,6 +2,7 @@
 
 #include "ui/controls/focus_frame.h"
 #include "ui/controls/label_table_access.h"
+#include "ui/window/later.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <utility>
 
 namespace kelvarine {
 
@@ -63,7 +65,7 @@ void LabelTable::GoTo(TablePlace place)
     if (!hasFocus()) {
         setFocus(Qt::OtherFocusReason);
     } else if (moved) {
-        TellPlace();
+        TellPlaceLater();
     }
 }
 
@@ -83,8 +85,21 @@ void LabelTable::TellTexts()
     }
 }
 
+// The toolkit tells of the table as soon as it has given it the focus; the place in it must come
+// afterwards.
+void LabelTable::TellPlaceLater()
+{
+    if (!std::exchange(placeIsToTell, true)) {
+        Later(this, &LabelTable::TellPlace);
+    }
+}
+
 void LabelTable::TellPlace()
 {
+    placeIsToTell = false;
+    if (!hasFocus()) {
+        return;
+    }
     QAccessibleEvent event(this, QAccessible::Focus);
     event.setChild(current.Row * Columns() + current.Column);
     QAccessible::updateAccessibility(&event);
@@ -133,7 +148,7 @@ void LabelTable::focusInEvent(QFocusEvent *event)
 {
     QWidget::focusInEvent(event);
     NoteFocus(*this, *event);
-    TellPlace();
+    TellPlaceLater();
 }
 
 void LabelTable::focusOutEvent(QFocusEvent *event)

@@ -49,11 +49,13 @@ protected:
 
 private:
     [[nodiscard]] TablePlace PlaceAfter(int key) const;
+    void TellPlaceLater();
     void TellPlace();
 
     std::vector<std::vector<QLabel *>> rows;
     TablePlace current{1, 1};
     QStringList told; // the texts row by row, as tools know them
+    bool placeIsToTell = false;
 };
 
 } // namespace kelvarine

@@ -2,13 +2,13 @@
 
 #include "commands/print_run.h"
 #include "outside/clipboard.h"
-#include "outside/events.h"
 #include "outside/help.h"
 #include "outside/messages.h"
 #include "paint/text.h"
 #include "ui/outside/printer_qt.h"
 #include "ui/screens/help_page.h"
 #include "ui/window/front.h"
+#include "ui/window/later.h"
 #include "ui/window/placing.h"
 
 #include <QAction>
@@ -64,17 +64,6 @@ QWidget *UnderText(QLineEdit *text, const QString &label, QWidget *list)
     layout->addWidget(text);
     layout->addWidget(list);
     return pane;
-}
-
-// Calls a window's procedure when what goes on now is over, if the window is still there.
-template <typename Widget>
-void Later(Widget *widget, void (Widget::*run)())
-{
-    CallFromEventLoop([widget = QPointer(widget), run] {
-        if (widget != nullptr) {
-            (widget->*run)();
-        }
-    });
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "game/screens.h"
 #include "game/statistics.h"
 #include "grid/grid.h"
+#include "support/widget_all_events.h"
 #include "support/widget_listener.h"
 #include "support/widget_program.h"
 #include "ui/controls/label_table.h"
@@ -152,6 +153,21 @@ TEST_F(StatisticsTables, CellCanBeGoneToByTools)
     EXPECT_TRUE(View(0)->hasFocus());
     EXPECT_EQ(View(0)->Place(), (TablePlace{3, 3}));
     EXPECT_TRUE(CellAt(2, 2)->state().focused);
+}
+
+// The toolkit tells of the table itself, and a reader stays where it is led last.
+TEST_F(StatisticsTables, CellIsToldAfterTheTableThatItIsIn)
+{
+    EXPECT_EQ(OfKind("Focus", EventsDuring([&] { View(0)->setFocus(); })),
+              (Texts{"Focus table Solved games by level", "Focus cell 0"}));
+    EXPECT_EQ(OfKind("Focus", EventsDuring([&] {
+                         const QString focus = QAccessibleActionInterface::setFocusAction();
+                         Described(1)->tableInterface()->cellAt(3, 1)->actionInterface()->doAction(
+                             focus);
+                     })),
+              (Texts{"Focus table Solved games by level", "Focus cell 0:01:35"}));
+    EXPECT_EQ(OfKind("Focus", EventsDuring([&] { QTest::keyClick(View(1), Qt::Key_Left); })),
+              Texts{"Focus cell 1"});
 }
 
 TEST_F(StatisticsTables, TabLeadsToTheButtonFirstAndThenToTheTables)
