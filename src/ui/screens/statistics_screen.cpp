@@ -3,7 +3,6 @@
 #include "outside/clipboard.h"
 #include "outside/screens.h"
 #include "paint/text.h"
-#include "ui/controls/configure_controls.h"
 #include "ui/controls/label_table.h"
 #include "ui/screens/time_bar.h"
 #include "ui/window/main_window.h"
@@ -39,19 +38,6 @@ QString LabelName(std::size_t table, std::size_t row, std::size_t column)
     return Text("lbl%1%2%3")
         .arg(name, table == SessionTable ? Text("Session") : Text("Total"))
         .arg(column);
-}
-
-// What a screen reader says of a label: where it stands and what it shows.
-QString SpokenName(std::size_t table, std::size_t row, std::size_t column)
-{
-    QString place =
-        Text("%1, %2").arg(Text(StatisticsTitles[table]), Text(StatisticsRowNames[row]));
-    if (column == 0) {
-        return place;
-    }
-    return Text("%1, %2: %3")
-        .arg(place, Text(StatisticsColumns[column].Heading),
-             Text(StatisticsLabels[table][row][column]).trimmed());
 }
 
 Qt::Alignment AlignmentOf(std::size_t column)
@@ -179,6 +165,9 @@ void StatisticsScreen::AddRow(QGridLayout &grid, std::size_t table, std::size_t 
     for (std::size_t column = 0; column < StatisticsColumns.size(); ++column) {
         auto *label = new QLabel(this);
         label->setObjectName(LabelName(table, row, column));
+        // The toolkit tells of each new text of a label that has no name, and the table does so
+        // itself.
+        label->setAccessibleName(views[table]->accessibleName());
         if (row == TotalRow) {
             MakeBold(*label);
         }
@@ -221,7 +210,6 @@ void StatisticsScreen::Refresh()
             for (std::size_t column = 0; column < labels[table][row].size(); ++column) {
                 QLabel &label = *labels[table][row][column];
                 label.setText(Text(StatisticsLabels[table][row][column]));
-                SetSpokenName(label, SpokenName(table, row, column));
                 LeaveRoomForBlank(label, column);
             }
         }

@@ -203,6 +203,18 @@ TEST_F(StatisticsTables, SolvedGameTellsTheCellsThatChange)
     EXPECT_EQ(listener.Heard(), Texts{}) << "nothing is new";
 }
 
+TEST_F(StatisticsTables, ChangeIsToldOnceAndByTheCellAlone)
+{
+    Texts told = EventsDuring([] { Solve(4, 85); });
+    std::ranges::sort(told);
+    const Texts once{"NameChanged cell 0:01:25", "NameChanged cell 0:01:30", "NameChanged cell 2"};
+    Texts expected;
+    for (const std::string &one : once) {
+        expected.insert(expected.end(), 4, one); // level and total, in both tables
+    }
+    EXPECT_EQ(told, expected);
+}
+
 TEST_F(StatisticsTables, FrameStandsRoundTheCellForThoseWhoCameByKeys)
 {
     const auto framed = [&] {
