@@ -44,12 +44,28 @@ constexpr int TextPixels = 13;
 
 QPointer<SolutionsScreen> solutionsScreen;
 
+int FormatOnView()
+{
+    return SolutionsFormat == 0 ? 0 : 1;
+}
+
 // While a search runs the screen does nothing but ask whether to stop a listing.
 void AskToStop()
 {
     if (SearchKind == ListingSolutions && SearchActive != False) {
         QueryStopSearch();
     }
+}
+
+// Whether the controls do what they are there for. Assistive tools use them past the filter of
+// events, and while a search runs come to no more than that.
+bool ControlsAct()
+{
+    if (IsBusy()) {
+        AskToStop();
+        return false;
+    }
+    return true;
 }
 
 // Puts a control at its size by its own wish into the middle of a strip.
@@ -74,7 +90,11 @@ SolutionsScreen::SolutionsScreen(QWidget *parent)
     BuildFormats();
     cmdSave->setObjectName("cmdSaveAsTextFile");
     cmdSave->setAutoDefault(false);
-    connect(cmdSave, &QPushButton::clicked, this, cmdSaveAsTextFile);
+    connect(cmdSave, &QPushButton::clicked, this, [] {
+        if (ControlsAct()) {
+            cmdSaveAsTextFile();
+        }
+    });
     txtSolutions->setFocus();
     PlaceControls();
     setMinimumSize(cmdSave->geometry().right() + 1 + Margin, AroundText.height() + SmallestText);
@@ -109,7 +129,16 @@ void SolutionsScreen::BuildFormats()
     }
     formats[0]->setAccessibleName("Solutions in lines of 81 digits");
     formats[1]->setAccessibleName("Solutions in frames of 9 by 9");
-    connect(group, &QButtonGroup::idClicked, this, optSolutionsFormat);
+    connect(group, &QButtonGroup::idToggled, this, [this](int format, bool chosen) {
+        if (!chosen || format == FormatOnView()) {
+            return;
+        }
+        if (ControlsAct()) {
+            optSolutionsFormat(format);
+        } else {
+            Refresh();
+        }
+    });
 }
 
 void SolutionsScreen::Refresh()
@@ -119,7 +148,7 @@ void SolutionsScreen::Refresh()
     if (text != txtSolutions->toPlainText()) {
         txtSolutions->setPlainText(text);
     }
-    const std::size_t chosen = SolutionsFormat == 0 ? 0 : 1;
+    const auto chosen = static_cast<std::size_t>(FormatOnView());
     formats[chosen]->setChecked(true);
     // Tab stops at the chosen one, from where the arrows go to the other.
     formats[chosen]->setFocusPolicy(Qt::StrongFocus);

@@ -14,6 +14,7 @@
 #include "support/widget_program.h"
 #include "ui/window/board_widget.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
@@ -221,6 +222,27 @@ TEST_F(SolutionsScreens, ClickStopsTheListingAndDoesNothingElse)
     EXPECT_EQ(boxes.Texts, StopQuestion);
     EXPECT_EQ(SolutionsFormat, 1);
     EXPECT_TRUE(Format(1)->isChecked());
+}
+
+// Assistive tools act past keys and mouse.
+TEST_F(SolutionsScreens, ControlsThatAToolUsesOnlyAskDuringAListing)
+{
+    const auto use = [](QAbstractButton *button) {
+        QAccessibleActionInterface *actions =
+            QAccessible::queryAccessibleInterface(button)->actionInterface();
+        actions->doAction(actions->actionNames().front());
+        // The toolkit lets go of a button that a tool presses after a while.
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !button->isDown(); }, Patience));
+    };
+    BoxRecord boxes = ListAndAct([&] { use(Format(0)); }, {QMessageBox::Yes});
+    EXPECT_EQ(boxes.Texts, StopQuestion);
+    EXPECT_EQ(SolutionsFormat, 1);
+    EXPECT_TRUE(Format(1)->isChecked());
+    boxes = ListAndAct([&] { use(Screen()->findChild<QPushButton *>("cmdSaveAsTextFile")); },
+                       {QMessageBox::Yes});
+    EXPECT_EQ(boxes.Texts, StopQuestion);
+    use(Format(0));
+    EXPECT_EQ(SolutionsFormat, 0) << "and after it they act";
 }
 
 TEST_F(SolutionsScreens, NoGoesOnListing)
