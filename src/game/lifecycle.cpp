@@ -25,6 +25,7 @@ namespace kelvarine {
 std::string GameFilePath;
 Flag FileWasText;
 Flag StatsCounted;
+std::uint32_t FilesBegun;
 std::int32_t LastAnswer;
 std::int32_t AnchorColumn;
 std::int32_t AnchorRow;
@@ -36,6 +37,7 @@ void SetLifecycleDefaults()
     GameFilePath.clear();
     FileWasText = False;
     StatsCounted = False;
+    FilesBegun = 0;
     LastAnswer = AnsweredNothing;
     ClearPointerState();
 }
@@ -60,6 +62,8 @@ void StartGame(std::int32_t mode)
         HistoryPosition = 0;
         PushUndoState();
         SnapshotAvailable = False;
+    } else {
+        ++FilesBegun;
     }
     if (mode == NewGame) {
         SaveStartPosition();

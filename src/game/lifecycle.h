@@ -15,6 +15,7 @@ namespace kelvarine {
 extern std::string GameFilePath; // empty when the game has no file
 extern Flag FileWasText;         // that file was read as text, and holds no game of the program's
 extern Flag StatsCounted;        // this game has been recorded, or must not be
+extern std::uint32_t FilesBegun; // games that began from a file, since the start of the program
 
 // ---- The session ---------------------------------------------------------------------------
 

@@ -33,6 +33,7 @@ struct Look {
     GridTable Start = History[StartSlot];
     GridTable Newest = History[NewestSlot];
     std::uint32_t Pushes = UndoStatesPushed;
+    std::uint32_t Files = FilesBegun;
     std::uint32_t Snapshots = SnapshotsTaken;
     std::int32_t Levels = HistoryCount;
     std::int32_t Level = HistoryPosition;
@@ -217,7 +218,8 @@ std::string StepInHistory(const Look &before, const std::vector<Cell> &cells)
 std::string ChangeOfPosition(const Look &before)
 {
     const bool restarted = HistoryCount == 1 && before.Levels > 1;
-    if (restarted || PositionsDiffer(before.Start, History[StartSlot])) {
+    const bool opened = FilesBegun != before.Files; // be it the game that was there
+    if (restarted || opened || PositionsDiffer(before.Start, History[StartSlot])) {
         return GameOnBoard();
     }
     const std::vector<Cell> cells = CellsThatDiffer(before.Cells, PositionBits);

@@ -47,9 +47,16 @@ class Ear:
     def hear(self, event):
         try:
             source = event.source.getRoleName(), self.words_of(event.source)
+            has_focus = self.has_focus(event.source)
         except Exception:  # a box that has closed meanwhile, told by an error of the bindings
-            source = "gone", ""
-        self.events.append((event.type, event.detail1, *source))
+            source, has_focus = ("gone", ""), False
+        self.events.append((event.type, event.detail1, *source, has_focus))
+
+    def has_focus(self, source):
+        """Whether something says of itself that it has the focus; a row of a list says so as soon as it is
+        the current one, and has it with the list alone."""
+        holders = [source] + [source.parent] * (source.getRoleName() in ("table cell", "list item"))
+        return all(one.getState().contains(self.tools.STATE_FOCUSED) for one in holders)
 
     @staticmethod
     def words_of(source):
@@ -101,10 +108,11 @@ class Ear:
     # ---- What is heard ---------------------------------------------------------------------------
 
     def spoken(self):
-        """What a screen reader would say to the events so far."""
+        """What a screen reader would say to the events so far. That something has the focus which says that
+        it has not, no reader believes."""
         words = []
-        for kind, detail, role, name in self.events:
-            if kind.startswith("object:state-changed:focused") and detail:
+        for kind, detail, role, name, has_focus in self.events:
+            if kind.startswith("object:state-changed:focused") and detail and has_focus:
                 words.append(f"{role} {name}")
             elif kind.startswith("object:state-changed:showing") and role == "notification":
                 words.append(name)

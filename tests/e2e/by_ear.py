@@ -182,31 +182,30 @@ def is_warned(evening):
 def saves_and_reopens(evening):
     ear = evening.ear
     path = evening.desktop.home / "evening.sdk"
-    evening.menu("Save As")
-    evening.name_file(path)
-    wait_for(lambda: ear.pump() and path.exists(), "the game to be saved")
-    ear.at_rest()
-    evening.menu("Open")
-    ear.events.clear()
-    evening.name_file(path)
-    wait_for(lambda: ear.pump() and "window Kelvarine" in " ".join(ear.spoken()),
-             "the player to be back at the board")
-    ear.at_rest()
+    titled = f"window Kelvarine ({path.name})"
+    ear.expect(lambda: evening.menu("Save As"), "window Save Game As", "text File name")
+    ear.expect(lambda: evening.name_file(path), titled, "table cell empty")
+    expect(path.exists(), "the game is saved")
+    ear.expect(lambda: evening.menu("Open"), "window Open Game", "text File name")
+    ear.expect(lambda: evening.name_file(path), titled,
+               "table cell 5, hint; cell 1 of 1 of the pattern; game with 30 givens, easy")
     expect(evening.cell(3, 1).name.startswith("4"), "the game is as it was saved")
 
 
 def prints(evening):
+    ear = evening.ear
     path = evening.desktop.home / "evening.pdf"
-    evening.menu("Print")
+    ear.expect(lambda: evening.menu("Print"), "window Configure", "page tab list Tabs")
     screen = evening.box("Configure")
-    evening.press(screen, "Print")
-    dialog = evening.ear.find("dialog", "Print")
-    field = evening.ear.find("text", "Output file:", dialog)
+    ear.expect(lambda: evening.press(screen, "Print"), "window Print",
+               "combo box Print to File (PDF)")
+    dialog = ear.find("dialog", "Print")
+    field = ear.find("text", "Output file:", dialog)
     field.queryEditableText().setTextContents(str(path))
-    evening.press(dialog, "Print")
-    wait_for(lambda: evening.ear.pump() and path.exists()
-             and path.read_bytes().rstrip().endswith(b"%%EOF"), "the game on paper")
-    evening.ear.at_rest()
+    ear.expect(lambda: evening.press(dialog, "Print"), "window Configure", "page tab list Tabs", "printed")
+    expect(path.read_bytes().rstrip().endswith(b"%%EOF"), "the game is on paper")
+    ear.expect(lambda: evening.close("Configure"), "window Kelvarine (evening.sdk)",
+               "table cell 5, hint; cell 1 of 1 of the pattern")
 
 
 def reads_the_statistics(evening):

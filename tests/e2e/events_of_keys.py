@@ -37,7 +37,7 @@ class EveryEvent(Ear):
 
 
 def is_sign(event):
-    kind, _, role, name = event
+    kind, _, role, name, _ = event
     return kind == NAME and role == "push button" and name.startswith("+/-")
 
 

@@ -187,6 +187,13 @@ TEST_F(Told, RestartIsToldAsAGameThatBegins)
     ExpectNothingMore();
 }
 
+TEST_F(Told, GameThatIsOpenedIsToldAlsoWhereItIsTheOneOnTheBoard)
+{
+    StartGame(GameFromFile);
+    EXPECT_EQ(NextTold(false).Words, "game with 30 givens, easy");
+    ExpectNothingMore();
+}
+
 TEST_F(Told, ColoursAreTold)
 {
     HighlightColours[3] = Rgb(0, 250, 250);

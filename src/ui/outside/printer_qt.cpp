@@ -9,6 +9,7 @@
 #include "paint/text.h"
 #include "paint/text_painter.h"
 #include "ui/window/front.h"
+#include "ui/window/notices.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -127,13 +128,23 @@ double WholePixels(double position)
     return std::clamp(std::round(position), -farthest, farthest);
 }
 
-std::string Write(const Document &whole)
+// Whether the bytes of a document are where they belong: in its file, or with the printer already.
+// Not so when the player would rather keep the file that is there; the words of a failure say why.
+bool IsDelivered(const Document &whole, std::string &failure)
+{
+    if (!failure.empty() || whole.Pdf == nullptr) {
+        return failure.empty();
+    }
+    const QByteArray &bytes = whole.Bytes.data();
+    return WritePlayerFile(whole.File, {bytes.constData(), static_cast<std::size_t>(bytes.size())},
+                           failure);
+}
+
+std::string Deliver(const Document &whole)
 {
     std::string failure = whole.Failure;
-    if (failure.empty() && whole.Pdf != nullptr) {
-        const QByteArray &bytes = whole.Bytes.data();
-        WritePlayerFile(whole.File, {bytes.constData(), static_cast<std::size_t>(bytes.size())},
-                        failure);
+    if (IsDelivered(whole, failure)) {
+        Tell(Text("printed")); // whoever looks at the screen has seen the dialog go
     }
     return failure;
 }
@@ -233,7 +244,7 @@ void EndDocument()
 std::string HandOverDocument()
 {
     const std::unique_ptr<Document> whole = std::move(ended);
-    return whole != nullptr ? Write(*whole) : std::string();
+    return whole != nullptr ? Deliver(*whole) : std::string();
 }
 
 std::string PrintInOneGo(const std::function<bool(QPagedPaintDevice &)> &print)

@@ -3,6 +3,7 @@
 #include "outside/printer.h"
 #include "support/ended_document.h"
 #include "support/temporary_folder.h"
+#include "support/widget_listener.h"
 #include "support/widget_program.h"
 #include "ui/outside/printer_qt.h"
 
@@ -10,6 +11,7 @@
 #include <QPainter>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <functional>
@@ -117,6 +119,24 @@ TEST_F(PaperFile, WithAnotherNameIsWrittenInPlaceOnAYesAlone)
     AnswerBoxes([] { EXPECT_EQ(PrintAPage(), ""); }, {QMessageBox::Yes});
     EXPECT_TRUE(HoldsAPage("page.pdf"));
     EXPECT_TRUE(HoldsAPage("other.pdf"));
+}
+
+TEST_F(PaperFile, IsToldToThoseWhoListenWhenItIsThere)
+{
+    using Texts = std::vector<std::string>;
+    Listener listener;
+    listener.Heard();
+    ChosenPrinter().setOutputFileName(QString::fromStdString(Folder.Path("new.pdf")));
+    PrintAPage();
+    EXPECT_EQ(listener.Heard(), Texts{"ObjectShow printed"});
+    EXPECT_EQ(EndAndHandOver(), "");
+    EXPECT_EQ(listener.Heard(), Texts{}) << "there was nothing to print";
+    PrintInOneGo([](QPagedPaintDevice & /*paper*/) { return false; });
+    EXPECT_EQ(listener.Heard(), Texts{}) << "of a failure a box tells";
+    std::filesystem::create_hard_link(Folder.Path("new.pdf"), Folder.Path("other.pdf"));
+    AnswerBoxes([] { PrintAPage(); }, {QMessageBox::No});
+    const Texts heard = listener.Heard();
+    EXPECT_EQ(std::ranges::count(heard, "ObjectShow printed"), 0) << "the player would rather not";
 }
 
 } // namespace
