@@ -161,6 +161,20 @@ TEST_F(ConfigureScreenTest, AssistiveToolsSeeEightTabs)
     EXPECT_EQ(list->childAt(middle.x(), middle.y()), list->child(2));
 }
 
+TEST_F(ConfigureScreenTest, TabOnViewHasTheFocusOfTheStrip)
+{
+    Open(LogicTab);
+    Screen->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Screen, Patience));
+    const QAccessibleInterface *list = QAccessible::queryAccessibleInterface(Strip());
+    Strip()->setFocus();
+    for (int tab = 0; tab < 8; ++tab) {
+        EXPECT_EQ(list->child(tab)->state().focused != 0, tab == LogicTab) << tab;
+    }
+    Strip()->clearFocus();
+    EXPECT_EQ(list->child(LogicTab)->state().focused, 0);
+}
+
 TEST_F(ConfigureScreenTest, EveryControlHasANameForScreenReaders)
 {
     Open(NewGamesTab);
