@@ -6,6 +6,7 @@
 #include "paint/toolkit_colour.h"
 #include "ui/window/board_widget.h"
 #include "ui/window/key_decoder.h"
+#include "ui/window/later.h"
 #include "ui/window/main_window.h"
 #include "ui/window/tool_accessible.h"
 #include "ui/window/tools_listen.h"
@@ -126,16 +127,25 @@ void ToolButtonWidget::TellWords()
         toldName = Text(SpokenTool(number)); // as whoever comes later will find it
         return;
     }
-    const auto tell = [this](QString &told, const std::string &words, QAccessible::Event kind) {
-        if (told != Text(words)) {
-            told = Text(words);
-            QAccessibleEvent event(this, kind);
-            QAccessible::updateAccessibility(&event);
-        }
-    };
-    tell(toldName, SpokenTool(number), QAccessible::NameChanged);
+    TellChange(toldName, SpokenTool(number), QAccessible::NameChanged);
+    if (hasFocus()) { // and a press does not take the keyboard to the board
+        Later(this, &ToolButtonWidget::TellUse);
+    }
+}
+
+void ToolButtonWidget::TellUse()
+{
     if (hasFocus()) {
-        tell(toldUse, SpokenToolUse(number), QAccessible::DescriptionChanged);
+        TellChange(toldUse, SpokenToolUse(number), QAccessible::DescriptionChanged);
+    }
+}
+
+void ToolButtonWidget::TellChange(QString &told, const std::string &words, QAccessible::Event kind)
+{
+    if (told != Text(words)) {
+        told = Text(words);
+        QAccessibleEvent event(this, kind);
+        QAccessible::updateAccessibility(&event);
     }
 }
 

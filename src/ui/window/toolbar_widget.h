@@ -1,9 +1,11 @@
 // picToolbar: the toolbar as the player sees it. What its buttons say and do is told elsewhere.
 #pragma once
 
+#include <QAccessible>
 #include <QPushButton>
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace kelvarine {
@@ -45,6 +47,8 @@ protected:
 private:
     [[nodiscard]] QSize CaptionSize(const QFont &letters) const;
     void TellWords();
+    void TellUse();
+    void TellChange(QString &told, const std::string &words, QAccessible::Event kind);
 
     std::int32_t number;
     QString caption;

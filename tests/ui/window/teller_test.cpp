@@ -159,14 +159,20 @@ TEST_F(Teller, NumberOfAButtonIsToldByTheCellThatGetsIt)
 TEST_F(Teller, UseOfAButtonIsToldApartOnlyWhileThePlayerIsThere)
 {
     Listener listener;
+    ShowSignOfCtrl();
+    ToolButtonOf(*program.Main, 1)->setFocus(Qt::TabFocusReason);
     listener.Heard();
+    LetSignGo();
+    const Texts stays = listener.Heard();
+    EXPECT_EQ(std::ranges::count(stays, "DescriptionChanged 1"), 1)
+        << ::testing::PrintToString(stays);
     ToolButtonWidget *select = ToolButtonOf(*program.Main, SelectButton);
     select->setFocus(Qt::TabFocusReason);
     EXPECT_EQ(listener.Heard(), Texts{});
     QTest::keyClick(select, Qt::Key_Space);
-    const Texts heard = listener.Heard();
-    EXPECT_EQ(std::ranges::count(heard, "DescriptionChanged Select singles"), 1)
-        << ::testing::PrintToString(heard);
+    const Texts goes = listener.Heard();
+    EXPECT_EQ(std::ranges::count(goes, "DescriptionChanged Select singles"), 0)
+        << "he is at the board by then: " << ::testing::PrintToString(goes);
 }
 
 } // namespace
